@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <memory>
+
+namespace varnhold {
+
+class Socket;
+
+/// The disk as a download sees it: one temporary file and the names beside it. Failures are RunTimeErrors
+/// (52 not open, 53, 61 disk full, 70, 75, 76), so that a test can let the Nth call fail.
+class DownloadFile
+{
+public:
+    virtual ~DownloadFile() = default;
+    /// Opens for binary access: makes the file when missing, neither truncates nor appends; the position is
+    /// the file's start.
+    virtual void open(const QString& path) = 0;
+    [[nodiscard]] virtual bool isOpen() const = 0;
+    virtual void close() = 0;
+    /// At the current position, which moves on.
+    virtual void write(QByteArrayView bytes) = 0;
+    /// At the end of the file, whatever the position is; moves the socket's waiting chunk there. Bytes moved.
+    virtual qint64 appendFrom(Socket& socket) = 0;
+};
+
+/// File operations on names, as the download's steps need them; same errors.
+class DownloadFiles
+{
+public:
+    virtual ~DownloadFiles() = default;
+    virtual std::unique_ptr<DownloadFile> makeFile() = 0;
+    virtual bool exists(const QString& path) = 0;
+    virtual void remove(const QString& path) = 0;
+    virtual void rename(const QString& from, const QString& to) = 0;
+    /// Creates or truncates an empty file.
+    virtual void createEmpty(const QString& path) = 0;
+    virtual void makeFolder(const QString& path) = 0;
+};
+
+} // namespace varnhold

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QString>
+
+#include <vector>
+
+namespace varnhold {
+
+/// The update list, ListView1: one row for each package of the document, in document order, never sorted.
+/// Rows are numbered from 1 in this interface, as everywhere in the program's logic; the model's own
+/// QModelIndex rows count from 0.
+class UpdateList : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// Positions of sub-items; the row text is column 0 of the view.
+    enum SubItem { Version = 1, Size = 2, Binary = 3, Url = 4 };
+
+    /// Roles beside the usual ones: icon keys as texts, since the core knows no pictures.
+    enum Role {
+        IconKeyRole = Qt::UserRole, ///< row icon for column 0, report icon ("n/a") for sub-item 1
+    };
+
+    explicit UpdateList(QObject* parent = nullptr);
+
+    [[nodiscard]] int count() const;
+    void clear();
+    void reserve(std::size_t rows);
+    /// Adds a row with small icon "pkg". RunTimeError 6 when the list would hold more rows than a 16-bit
+    /// index reaches.
+    void addRow(const QString& text);
+    /// Sets a sub-item though an earlier one may be missing. RunTimeError 35600 when row is not 1 to count().
+    void setSubItem(int row, SubItem item, const QString& text);
+    void setReportIcon(int row, const QString& key); ///< of sub-item 1
+
+    [[nodiscard]] QString text(int row) const;                  ///< row text; 35600 out of range
+    [[nodiscard]] QString subItem(int row, SubItem item) const; ///< empty when missing; 35600 out of range
+    [[nodiscard]] bool hasSubItem(int row, SubItem item) const;
+
+    [[nodiscard]] QString icon(int row) const;
+    void setIcon(int row, const QString& key); ///< "pkg", "pkg-plus", "pkg-red", "plus", "pkg-dl"
+    [[nodiscard]] bool isChecked(int row) const;
+    void setChecked(int row, bool checked);
+    /// Check boxes are off by design.
+    void setCheckBoxes(bool shown);
+
+    /// First row whose url is exactly the given one; 0 when there is none.
+    [[nodiscard]] int findUrl(const QString& url) const;
+
+    /// Between beginFill and endFill views are told nothing; endFill resets them once. Nestable.
+    void beginFill();
+    void endFill();
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    struct Row
+    {
+        QString text;
+        QString subItems[4];
+        bool present[4] = {false, false, false, false};
+        QString icon;
+        QString reportIcon;
+        bool checked = false;
+    };
+    Row& at(int row);
+    [[nodiscard]] const Row& at(int row) const;
+    void tell(int row, int column);
+
+    std::vector<Row> m_rows;
+    int m_fills = 0;
+    bool m_checkBoxes = false;
+};
+
+} // namespace varnhold

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+namespace varnhold {
+
+enum class BoxIcon { None, Critical, Question, Exclamation, Information };
+enum class BoxButtons { Ok, YesNo };
+enum class BoxAnswer { Ok, Yes, No };
+
+struct MessageBox
+{
+    QString text; ///< plain text; line ends are CR LF or CR as the caller wrote them
+    QString title;
+    BoxIcon icon = BoxIcon::None;
+    BoxButtons buttons = BoxButtons::Ok;
+};
+
+/// The one way to a modal question. Blocks until answered, pumping events meanwhile. A Yes/No box that is
+/// closed in another way answers No.
+class MessageBoxes
+{
+public:
+    virtual ~MessageBoxes() = default;
+    virtual BoxAnswer show(const MessageBox& box) = 0;
+};
+
+} // namespace varnhold

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Screen.h"
+
+namespace varnhold {
+
+/// The primary screen of the running QGuiApplication.
+class QtScreen : public Screen
+{
+public:
+    [[nodiscard]] WorkArea workArea() const override;
+    [[nodiscard]] int width() const override;
+    [[nodiscard]] int height() const override;
+};
+
+} // namespace varnhold

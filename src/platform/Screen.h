@@ -1,0 +1,25 @@
+#pragma once
+
+namespace varnhold {
+
+/// The desktop work area of the primary screen (without panels), in logical pixels; right and bottom are
+/// one past the last pixel.
+struct WorkArea
+{
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+class Screen
+{
+public:
+    virtual ~Screen() = default;
+    [[nodiscard]] virtual WorkArea workArea() const = 0;
+    /// Size of the primary screen in logical pixels.
+    [[nodiscard]] virtual int width() const = 0;
+    [[nodiscard]] virtual int height() const = 0;
+};
+
+} // namespace varnhold

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "state/Settings.h"
+
+#include <optional>
+
+namespace varnhold {
+
+struct ApplicationState;
+struct Paths;
+
+/// What the load does beyond filling values: the program's windows answer it. Called in the load's order.
+class SettingsLoadHost
+{
+public:
+    virtual ~SettingsLoadHost() = default;
+    virtual void showStatus(const QString& text) = 0;  ///< lblLoading
+    virtual void showMessage(const QString& text) = 0; ///< lblMessage
+    virtual void startCertificateWatch() = 0;          ///< Timer1 on
+    virtual void setBarMainTop(double twips) = 0;      ///< then Splitbar_Main, which writes its key
+    virtual void setBarLeftTop(double twips) = 0;      ///< then Splitbar_Left, which writes its key
+    virtual void applyOpacity(OpacityOf window, int value) = 0;
+};
+
+/// Reads all keys in their fixed order. Throws RunTimeError (13 a word in a numeric key, 6 overflow, 380 out
+/// of the control's range) at the first value that does not fit; every key before it is in force.
+/// `updateListUrl`: the default of "GameID Url".
+void loadSettings(Settings& settings, IniFile& file, ApplicationState& state, const Paths& paths,
+                  const QString& updateListUrl, SettingsLoadHost& host);
+
+/// Main window position as stored, in twips; no value for an empty key. Read before the settings load.
+struct StoredPosition
+{
+    std::optional<double> left;
+    std::optional<double> top;
+};
+StoredPosition readPosition(IniFile& file);
+/// "Miximize" as stored, read before the settings load; 1 when empty or not 2.
+int readLayout(IniFile& file);
+
+} // namespace varnhold

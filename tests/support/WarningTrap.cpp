@@ -1,0 +1,74 @@
+#include "support/WarningTrap.h"
+
+#include <gtest/gtest.h>
+
+#include <QMutex>
+#include <QStringList>
+
+#include <cstdio>
+#include <utility>
+
+namespace varnhold::test {
+
+namespace {
+
+QMutex trapMutex;
+QStringList expected;
+QStringList unexpected;
+
+void onMessage(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+    if (type != QtWarningMsg && type != QtCriticalMsg)
+        return;
+    const QMutexLocker lock(&trapMutex);
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        if (message.contains(expected.at(i))) {
+            expected.removeAt(i);
+            return;
+        }
+    }
+    unexpected.append(message);
+}
+
+class Listener : public testing::EmptyTestEventListener
+{
+    void OnTestStart(const testing::TestInfo&) override
+    {
+        const QMutexLocker lock(&trapMutex);
+        expected.clear();
+        unexpected.clear();
+    }
+
+    void OnTestEnd(const testing::TestInfo&) override
+    {
+        QStringList came;
+        QStringList missed;
+        {
+            const QMutexLocker lock(&trapMutex);
+            came = std::exchange(unexpected, {});
+            missed = std::exchange(expected, {});
+        }
+        for (const QString& message : came)
+            ADD_FAILURE() << "unexpected warning: " << qPrintable(message);
+        for (const QString& piece : missed)
+            ADD_FAILURE() << "announced warning never came: " << qPrintable(piece);
+    }
+};
+
+} // namespace
+
+void installWarningTrap()
+{
+    qInstallMessageHandler(onMessage);
+    // Ends are told in reverse order, so a failure added here still counts for the test that ends.
+    testing::UnitTest::GetInstance()->listeners().Append(new Listener);
+}
+
+void expectWarning(const QString& piece)
+{
+    const QMutexLocker lock(&trapMutex);
+    expected.append(piece);
+}
+
+} // namespace varnhold::test
