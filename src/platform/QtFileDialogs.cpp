@@ -1,0 +1,63 @@
+#include "platform/QtFileDialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "Packages (*.pkg)|*.pkg|All Files (*.*)|*.*" as the toolkit's name filters. A "*.*" means every file here,
+/// names without a dot too.
+QStringList nameFilters(const QString& filter)
+{
+    QStringList result;
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts.at(i).section(u'(', 0, 0).trimmed();
+        QString patterns = parts.at(i + 1);
+        patterns.replace(u"*.*"_s, u"*"_s).replace(u';', u' ');
+        result.append(name + u" ("_s + patterns + u')');
+    }
+    return result;
+}
+
+std::optional<ChosenFile> choose(const FileDialogRequest& request, QFileDialog::AcceptMode mode,
+                                 QFileDialog::FileMode files)
+{
+    QFileDialog dialog(QApplication::activeWindow(), request.title, request.startFolder);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(files);
+    // The caller asks before it overwrites, in its own words.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setNameFilters(nameFilters(request.filter));
+    dialog.setDefaultSuffix(QFileInfo(request.defaultExtension).suffix());
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    const QString path = dialog.selectedFiles().constFirst();
+    return ChosenFile{path, QFileInfo(path).fileName()};
+}
+
+} // namespace
+
+std::optional<ChosenFile> QtFileDialogs::chooseSavePath(const FileDialogRequest& request)
+{
+    return choose(request, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+}
+
+std::optional<ChosenFile> QtFileDialogs::chooseFile(const FileDialogRequest& request)
+{
+    return choose(request, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+}
+
+QString QtFileDialogs::chooseFolder(const QString& prompt, const QString& startFolder)
+{
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), prompt, startFolder);
+}
+
+} // namespace varnhold
