@@ -1,0 +1,32 @@
+#pragma once
+
+// Values that belong to the design of a control on its window and to nothing that the program computes:
+// looks, ranges, intervals. Windows take them from here, so that a designer finds them in one place.
+
+namespace varnhold::design {
+
+/// Looks of XP_ProgressBar (its property Scrolling).
+namespace progresslook {
+inline constexpr int segmented = 0;
+inline constexpr int continuous = 1;
+inline constexpr int searching = 2;
+inline constexpr int pastel = 3;
+inline constexpr int sunken = 4;
+inline constexpr int office = 5;
+inline constexpr int metal = 6;
+inline constexpr int brush = 7;
+inline constexpr int picture = 8;
+inline constexpr int media = 9;
+} // namespace progresslook
+
+/// Which look each window's bar has.
+inline constexpr int frmMain_ProgressBar1_Scrolling = progresslook::pastel;
+inline constexpr int frmSearch_PB_Scrolling = progresslook::pastel;
+inline constexpr int frm_Winsock_PB_Scrolling = progresslook::pastel;
+
+/// ucSlider1(0) to (4) of frmSettings: window opacity.
+inline constexpr int ucSlider1_Min = 0;
+inline constexpr int ucSlider1_Max = 255;
+inline constexpr int ucSlider1_Orientation = 0;
+
+} // namespace varnhold::design
