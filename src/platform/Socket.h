@@ -36,8 +36,8 @@ public:
     /// Inside dataArrival only. Takes the chunk. The view is valid until the next call on this socket.
     virtual QByteArrayView getData() = 0;
     /// Inside dataArrival only. Moves the chunk to the file at the byte offset without bringing it into the
-    /// program where the system can. The bytes moved, or -1 with errno set when a write fails (the rest of
-    /// the chunk is then lost).
+    /// program where the system can. The bytes moved, or -1 with errno set when a write fails; bytes are then
+    /// lost and the transfer is to be given up.
     virtual qint64 moveData(int fileDescriptor, qint64 offset) = 0;
 
 Q_SIGNALS:

@@ -1,0 +1,165 @@
+#include "download/DiskFiles.h"
+
+#include "platform/RunTimeError.h"
+#include "platform/Socket.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace varnhold {
+
+namespace {
+
+/// missing: what ENOENT means to the caller, a file or the folder on the way to it.
+[[noreturn]] void fail(int cause, int missing)
+{
+    switch (cause) {
+    case ENOENT:
+        throw RunTimeError(missing);
+    case ENOTDIR:
+        throw RunTimeError(errors::pathNotFound);
+    case ENOSPC:
+    case EDQUOT:
+        throw RunTimeError(errors::diskFull);
+    case EACCES:
+    case EPERM:
+        throw RunTimeError(errors::permissionDenied);
+    case EEXIST:
+        throw RunTimeError(errors::fileExists);
+    case EBADF:
+    case ENAMETOOLONG:
+    case EINVAL:
+        throw RunTimeError(errors::badFileName);
+    default:
+        throw RunTimeError(errors::pathFileAccess);
+    }
+}
+
+class DiskFile : public DownloadFile
+{
+public:
+    DiskFile() = default;
+    DiskFile(const DiskFile&) = delete;
+    DiskFile& operator=(const DiskFile&) = delete;
+    ~DiskFile() override { DiskFile::close(); }
+
+    void open(const QString& path) override
+    {
+        close();
+        m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+        if (m_descriptor < 0)
+            fail(errno, errors::pathNotFound);
+    }
+
+    [[nodiscard]] bool isOpen() const override { return m_descriptor >= 0; }
+
+    void close() override
+    {
+        if (isOpen())
+            ::close(m_descriptor);
+        m_descriptor = -1;
+        m_position = 0;
+    }
+
+    void write(QByteArrayView bytes) override
+    {
+        requireOpen();
+        while (!bytes.isEmpty()) {
+            const ssize_t written =
+                ::pwrite(m_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()), m_position);
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written < 0)
+                fail(errno, errors::pathNotFound);
+            m_position += written;
+            bytes = bytes.sliced(written);
+        }
+    }
+
+    qint64 appendFrom(Socket& socket) override
+    {
+        requireOpen();
+        struct stat status = {};
+        if (::fstat(m_descriptor, &status) != 0)
+            fail(errno, errors::pathNotFound);
+        const qint64 moved = socket.moveData(m_descriptor, status.st_size);
+        if (moved < 0)
+            fail(errno, errors::pathNotFound);
+        m_position = status.st_size + moved;
+        return moved;
+    }
+
+private:
+    void requireOpen() const
+    {
+        if (!isOpen())
+            throw RunTimeError(errors::badFileName);
+    }
+
+    int m_descriptor = -1;
+    off_t m_position = 0;
+};
+
+} // namespace
+
+std::unique_ptr<DownloadFile> DiskFiles::makeFile()
+{
+    return std::make_unique<DiskFile>();
+}
+
+bool DiskFiles::exists(const QString& path)
+{
+    if (path.endsWith(u'/'))
+        return !QDir(path).isEmpty(QDir::Files | QDir::Hidden | QDir::System);
+    return QFileInfo(path).isFile();
+}
+
+void DiskFiles::remove(const QString& path)
+{
+    if (::unlink(QFile::encodeName(path).constData()) != 0)
+        fail(errno, errors::fileNotFound);
+}
+
+void DiskFiles::rename(const QString& from, const QString& to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return;
+    // Some file systems know no such flag; there the look and the rename are two steps.
+    if (errno == EINVAL || errno == ENOSYS) {
+        if (QFileInfo::exists(to))
+            throw RunTimeError(errors::fileExists);
+        if (::rename(source.constData(), target.constData()) == 0)
+            return;
+    }
+    fail(errno, errors::fileNotFound);
+}
+
+void DiskFiles::createEmpty(const QString& path)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (descriptor < 0)
+        fail(errno, errors::pathNotFound);
+    ::close(descriptor);
+}
+
+void DiskFiles::makeFolder(const QString& path)
+{
+    if (QFileInfo(path).isDir())
+        return;
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) {
+        const bool parentMissing = errno == ENOENT || errno == ENOTDIR;
+        throw RunTimeError(parentMissing ? errors::pathNotFound : errors::pathFileAccess);
+    }
+}
+
+} // namespace varnhold
