@@ -1,0 +1,60 @@
+#include "app/MainLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace varnhold {
+
+namespace {
+
+constexpr int columnsTop = 46;
+constexpr int leftColumn = 8;
+constexpr int leftColumnWidth = 90;
+constexpr int mainColumn = 102;
+
+} // namespace
+
+const MainLayout& MainLayout::normal()
+{
+    static const MainLayout layout{
+        .window = {447, 289},
+        .winState = {{399, 5, 14, 14}, {429, 5, 14, 14}, {414, 5, 14, 14}},
+        .lblCaption = {62, 2, 536, 18},
+        .lblInfo = {137, 23, 302, 18},
+        .lblStatus = {0, 274, 127, 15},
+        .lblBlank = {344, 274, 71, 15},
+        .lblCnt = {417, 274, 22, 15},
+        .picLeft = {leftColumn, columnsTop, leftColumnWidth, 224},
+        .picMain = {mainColumn, columnsTop, 337, 224},
+        .columnTwips = 3365,
+    };
+    return layout;
+}
+
+const MainLayout& MainLayout::enlarged()
+{
+    static const MainLayout layout{
+        .window = {595, 385},
+        .winState = {{547, 5, 14, 14}, {577, 5, 14, 14}, {562, 5, 14, 14}},
+        .lblCaption = {62, 2, 484, 18},
+        .lblInfo = {137, 23, 450, 18},
+        .lblStatus = {0, 370, 275, 15},
+        .lblBlank = {492, 370, 71, 15},
+        .lblCnt = {565, 370, 22, 15},
+        .picLeft = {leftColumn, columnsTop, leftColumnWidth, 320},
+        .picMain = {mainColumn, columnsTop, 485, 320},
+        .columnTwips = 4800,
+    };
+    return layout;
+}
+
+SplitPlaces splitColumn(double wantedTop, int floor, int upperTop, int columnTwips)
+{
+    int top = static_cast<int>(std::clamp(std::nearbyint(wantedTop), -1.0e6, 1.0e6));
+    top = std::max(top, floor);
+    top = std::min(top, columnTwips - splitBarHeight);
+    const int lowerTop = top + splitBarHeight;
+    return {top, std::max(top - upperTop, 0), lowerTop, std::max(columnTwips - lowerTop, 0)};
+}
+
+} // namespace varnhold

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+namespace varnhold {
+
+/// Where the controls of the main window stand in one of its two sizes, in pixels. Controls that are not
+/// named here keep their place.
+struct MainLayout
+{
+    QSize window;
+    QRect winState[3]; ///< btn_WinState(0..2)
+    QRect lblCaption;
+    QRect lblInfo;
+    QRect lblStatus;
+    QRect lblBlank; ///< also ProgressBar1
+    QRect lblCnt;
+    QRect picLeft;
+    QRect picMain;
+    int columnTwips; ///< scale height of picLeft and picMain
+
+    static const MainLayout& normal();
+    static const MainLayout& enlarged();
+};
+
+/// Places of the controls that are the same in both sizes.
+namespace mainplaces {
+inline constexpr QRect btnFile{8, 4, 28, 14};
+inline constexpr QRect btn_Tools1{40, 4, 14, 14};
+inline constexpr QRect txtGameID{8, 23, 82, 18};
+inline constexpr QRect btnFetch{94, 24, 40, 16};
+} // namespace mainplaces
+
+/// A splitter bar between two controls of a column, all in twips.
+struct SplitPlaces
+{
+    int barTop;      ///< limited
+    int upperHeight; ///< of the control above
+    int lowerTop;
+    int lowerHeight; ///< of the control below
+};
+
+/// Height of barLeft and barMain in twips.
+inline constexpr int splitBarHeight = 75;
+/// Lower limits of the bars' top in twips.
+inline constexpr int barLeftFloor = 540;
+inline constexpr int barMainFloor = 0;
+
+/// The column as a bar's wanted top divides it: not below `floor`, not below the column's end less 75 twips.
+SplitPlaces splitColumn(double wantedTop, int floor, int upperTop, int columnTwips);
+
+} // namespace varnhold
