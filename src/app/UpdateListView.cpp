@@ -14,7 +14,7 @@ namespace varnhold {
 namespace {
 
 constexpr int rowHeight = 18;
-constexpr int iconSize = 16;
+constexpr int iconSide = 16;
 
 /// Shows the icon that the list names by a key.
 class IconDelegate : public QStyledItemDelegate
@@ -36,7 +36,7 @@ protected:
             return;
         option->icon = packageIcon(key);
         option->features |= QStyleOptionViewItem::HasDecoration;
-        option->decorationSize = QSize(iconSize, iconSize);
+        option->decorationSize = QSize(iconSide, iconSide);
     }
 };
 
@@ -52,7 +52,7 @@ UpdateListView::UpdateListView(UpdateList& list, QWidget* parent) : QTreeView(pa
     setSortingEnabled(false);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
-    setIconSize(QSize(iconSize, iconSize));
+    setIconSize(QSize(iconSide, iconSide));
     setHorizontalScrollMode(ScrollPerPixel);
     setTextElideMode(Qt::ElideMiddle);
     setMouseTracking(true);
