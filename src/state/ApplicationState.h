@@ -21,6 +21,8 @@ struct ApplicationState
     QString DBPath;         ///< the game database
     QString DBFile;         ///< its base name without extension
     QString IniValue;       ///< scratch: the last value read from a settings file
+    QString SkinPath;       ///< folder of the skin in use
+    QString SkinName;       ///< its last component
 };
 
 } // namespace varnhold

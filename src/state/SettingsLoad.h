@@ -1,11 +1,13 @@
 #pragma once
 
-#include "state/Settings.h"
+#include "state/SettingsValues.h"
 
 #include <optional>
 
 namespace varnhold {
 
+class Settings;
+class SettingsFile;
 struct ApplicationState;
 struct Paths;
 
@@ -25,17 +27,18 @@ public:
 /// Reads all keys in their fixed order. Throws RunTimeError (13 a word in a numeric key, 6 overflow, 380 out
 /// of the control's range) at the first value that does not fit; every key before it is in force.
 /// `updateListUrl`: the default of "GameID Url".
-void loadSettings(Settings& settings, IniFile& file, ApplicationState& state, const Paths& paths,
+void loadSettings(Settings& settings, SettingsFile& file, ApplicationState& state, const Paths& paths,
                   const QString& updateListUrl, SettingsLoadHost& host);
 
-/// Main window position as stored, in twips; no value for an empty key. Read before the settings load.
+/// Main window position as stored, in twips; no value for an empty key. Read before the settings load; throws
+/// as that does.
 struct StoredPosition
 {
     std::optional<double> left;
     std::optional<double> top;
 };
-StoredPosition readPosition(IniFile& file);
-/// "Miximize" as stored, read before the settings load; 1 when empty or not 2.
-int readLayout(IniFile& file);
+StoredPosition readPosition(SettingsFile& file, ApplicationState& state);
+/// "Miximize" as stored, read before the settings load; 1 when it is not 2.
+int readLayout(SettingsFile& file, ApplicationState& state);
 
 } // namespace varnhold

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace varnhold {
+
+/// True for a file, wildcards in its name taken literally; a path that ends in "/" counts when the folder
+/// holds a file. A folder, an empty path and any error are false.
+bool FileExists(const QString& path);
+
+/// True for a folder, with or without a "/" at its end; any error is false.
+bool FolderExists(const QString& path);
+
+/// Makes the folder when there is none; its parent must exist. Throws RunTimeError: 76 no parent, 75 not
+/// allowed or a file stands there, 61 disk full, 52 a name that cannot be.
+void MakeFolder(const QString& path);
+
+} // namespace varnhold

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+namespace varnhold {
+
+struct ApplicationState;
+struct Paths;
+
+/// The routines by which the program reads and writes Settings.ini, and Skin.ini of the skin in use. There is
+/// no cache, the file name is worked out on each call, and no call reports a failure: reading gives the
+/// default, a write that fails leaves the file as it was. A key that is there with an empty value reads as
+/// empty, not as the default.
+class SettingsFile
+{
+public:
+    SettingsFile(const Paths& paths, const ApplicationState& state);
+
+    /// At most 254 characters.
+    [[nodiscard]] QString INI_Read(const QString& section, const QString& key, const QString& fallback) const;
+    /// At most 1499 characters.
+    [[nodiscard]] QString INI_Read_Long(const QString& section, const QString& key,
+                                        const QString& fallback) const;
+    /// Blanks round the value are cut off.
+    void INI_Write(const QString& section, const QString& key, const QString& value);
+    void INI_Delete_Section(const QString& section);
+
+    [[nodiscard]] QString Skin_Read(const QString& section, const QString& key,
+                                    const QString& fallback) const;
+    /// The value is written as it is.
+    void Skin_Write(const QString& section, const QString& key, const QString& value);
+    void Skin_Delete_Section(const QString& section);
+
+private:
+    [[nodiscard]] QString skinIni() const;
+
+    const Paths& m_paths;
+    const ApplicationState& m_state;
+};
+
+} // namespace varnhold
