@@ -1,5 +1,7 @@
 #include "state/SizeText.h"
 
+#include "support/PrintText.h"
+
 #include <gtest/gtest.h>
 
 namespace varnhold {

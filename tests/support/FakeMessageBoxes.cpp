@@ -29,8 +29,9 @@ BoxAnswer FakeMessageBoxes::show(const MessageBox& box)
     }
     const Entry entry = m_script.takeFirst();
     EXPECT_EQ(entry.text.toStdString(), box.text.toStdString());
-    if (!entry.title.isNull())
+    if (!entry.title.isNull()) {
         EXPECT_EQ(entry.title.toStdString(), box.title.toStdString());
+    }
     EXPECT_EQ(box.buttons == BoxButtons::Ok, entry.answer == BoxAnswer::Ok)
         << "the answer does not fit the buttons of: " << qPrintable(box.text);
     return entry.answer;
