@@ -5,11 +5,14 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace varnhold {
 
 class DownloadFiles;
 class FileDialogs;
 class MessageBoxes;
+class RunTimeError;
 class Settings;
 class Sounds;
 class UpdateList;
@@ -50,7 +53,24 @@ public:
 private:
     struct Route;
     struct Request;
-    void plan(const Route& route, const Request& request);
+    struct Target;
+    class Prepared;
+
+    void plan(const Route& route, Request request);
+    void walk(const Route& route, Request& request);
+    [[nodiscard]] Request fromMainWindow(const QString& url) const;
+    [[nodiscard]] bool readSelectedRow(const Route& route, Request& request) const;
+    [[nodiscard]] int selectedRow() const;
+    [[nodiscard]] bool limitAllows(const Route& route);
+    [[nodiscard]] QString folderFor(const Route& route, const Request& request);
+    [[nodiscard]] std::optional<Target> batchTarget(const Route& route, const Request& request,
+                                                    const QString& folder);
+    [[nodiscard]] std::optional<Target> directTarget(const Request& request, const QString& folder);
+    [[nodiscard]] std::optional<Target> dialogTarget(const Route& route, const Request& request,
+                                                     const QString& folder);
+    void start(const Route& route, Prepared& window);
+    void setRowIcon();
+    void report(const RunTimeError& error);
 
     Services m_services;
     DownloadSlots m_slots;
