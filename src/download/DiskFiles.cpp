@@ -1,9 +1,9 @@
 #include "download/DiskFiles.h"
 
-#include "platform/RunTimeError.h"
+#include "platform/FileErrors.h"
+#include "platform/Files.h"
 #include "platform/Socket.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -16,31 +16,6 @@
 namespace varnhold {
 
 namespace {
-
-/// missing: what ENOENT means to the caller, a file or the folder on the way to it.
-[[noreturn]] void fail(int cause, int missing)
-{
-    switch (cause) {
-    case ENOENT:
-        throw RunTimeError(missing);
-    case ENOTDIR:
-        throw RunTimeError(errors::pathNotFound);
-    case ENOSPC:
-    case EDQUOT:
-        throw RunTimeError(errors::diskFull);
-    case EACCES:
-    case EPERM:
-        throw RunTimeError(errors::permissionDenied);
-    case EEXIST:
-        throw RunTimeError(errors::fileExists);
-    case EBADF:
-    case ENAMETOOLONG:
-    case EINVAL:
-        throw RunTimeError(errors::badFileName);
-    default:
-        throw RunTimeError(errors::pathFileAccess);
-    }
-}
 
 class DiskFile : public DownloadFile
 {
@@ -55,7 +30,7 @@ public:
         close();
         m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
         if (m_descriptor < 0)
-            fail(errno, errors::pathNotFound);
+            throw errorFromErrno(errno);
     }
 
     [[nodiscard]] bool isOpen() const override { return m_descriptor >= 0; }
@@ -77,7 +52,7 @@ public:
             if (written < 0 && errno == EINTR)
                 continue;
             if (written < 0)
-                fail(errno, errors::pathNotFound);
+                throw errorFromErrno(errno);
             m_position += written;
             bytes = bytes.sliced(written);
         }
@@ -88,10 +63,10 @@ public:
         requireOpen();
         struct stat status = {};
         if (::fstat(m_descriptor, &status) != 0)
-            fail(errno, errors::pathNotFound);
+            throw errorFromErrno(errno);
         const qint64 moved = socket.moveData(m_descriptor, status.st_size);
         if (moved < 0)
-            fail(errno, errors::pathNotFound);
+            throw errorFromErrno(errno);
         m_position = status.st_size + moved;
         return moved;
     }
@@ -116,15 +91,13 @@ std::unique_ptr<DownloadFile> DiskFiles::makeFile()
 
 bool DiskFiles::exists(const QString& path)
 {
-    if (path.endsWith(u'/'))
-        return !QDir(path).isEmpty(QDir::Files | QDir::Hidden | QDir::System);
-    return QFileInfo(path).isFile();
+    return FileExists(path);
 }
 
 void DiskFiles::remove(const QString& path)
 {
     if (::unlink(QFile::encodeName(path).constData()) != 0)
-        fail(errno, errors::fileNotFound);
+        throw errorFromErrno(errno, errors::fileNotFound);
 }
 
 void DiskFiles::rename(const QString& from, const QString& to)
@@ -140,7 +113,7 @@ void DiskFiles::rename(const QString& from, const QString& to)
         if (::rename(source.constData(), target.constData()) == 0)
             return;
     }
-    fail(errno, errors::fileNotFound);
+    throw errorFromErrno(errno, errors::fileNotFound);
 }
 
 void DiskFiles::createEmpty(const QString& path)
@@ -148,18 +121,13 @@ void DiskFiles::createEmpty(const QString& path)
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (descriptor < 0)
-        fail(errno, errors::pathNotFound);
+        throw errorFromErrno(errno);
     ::close(descriptor);
 }
 
 void DiskFiles::makeFolder(const QString& path)
 {
-    if (QFileInfo(path).isDir())
-        return;
-    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0) {
-        const bool parentMissing = errno == ENOENT || errno == ENOTDIR;
-        throw RunTimeError(parentMissing ? errors::pathNotFound : errors::pathFileAccess);
-    }
+    MakeFolder(path);
 }
 
 } // namespace varnhold

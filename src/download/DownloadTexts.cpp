@@ -22,7 +22,9 @@ QString kiloBytes(qint32 bytes)
 {
     // + 0.0 makes a rounded -0 a plain 0.
     const double value = std::nearbyint(bytes / 1024.0 * 100) / 100 + 0.0;
-    return QString::number(value, 'f', QLocale::FloatingPointShortest) + u" kB"_s;
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale.toString(value, 'f', QLocale::FloatingPointShortest) + u" kB"_s;
 }
 
 QString timeOfDay(qint32 seconds)
