@@ -1,0 +1,159 @@
+#include "controls/ButtonEx/ButtonExPainter.h"
+
+#include "controls/ButtonEx/ButtonExState.h"
+#include "controls/ButtonEx/TransparentCopy.h"
+#include "controls/SystemColorsUi.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace varnhold {
+
+namespace {
+
+/// The shades of a bevel, all made from the back colour so that it sits on any window.
+struct Shades
+{
+    explicit Shades(const QColor& back)
+        : face(back),
+          highlight(mixed(back, 255, 45)),
+          light(mixed(back, 255, 15)),
+          shadow(mixed(back, 0, 35)),
+          dark(mixed(back, 0, 65))
+    {
+    }
+
+    static QColor mixed(const QColor& color, int with, int percent)
+    {
+        const auto channel = [&](int own) { return own + (with - own) * percent / 100; };
+        return QColor(channel(color.red()), channel(color.green()), channel(color.blue()));
+    }
+
+    QColor face;
+    QColor highlight;
+    QColor light;
+    QColor shadow;
+    QColor dark;
+};
+
+/// A frame of one pixel: left and top in one colour, right and bottom in another.
+void frame(QPainter& painter, const QRect& rect, const QColor& topLeft, const QColor& bottomRight)
+{
+    if (rect.isEmpty())
+        return;
+    painter.fillRect(rect.left(), rect.top(), rect.width(), 1, topLeft);
+    painter.fillRect(rect.left(), rect.top(), 1, rect.height(), topLeft);
+    painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, bottomRight);
+    painter.fillRect(rect.right(), rect.top(), 1, rect.height(), bottomRight);
+}
+
+void dots(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    const auto dot = [&](int x, int y) {
+        if ((x + y) % 2 == 0)
+            painter.fillRect(x, y, 1, 1, color);
+    };
+    for (int x = rect.left(); x <= rect.right(); ++x) {
+        dot(x, rect.top());
+        dot(x, rect.bottom());
+    }
+    for (int y = rect.top() + 1; y < rect.bottom(); ++y) {
+        dot(rect.left(), y);
+        dot(rect.right(), y);
+    }
+}
+
+void stroke(QPainter& painter, const BevelStroke& stroke, const Shades& shades, const QColor& text)
+{
+    const QRect outer = stroke.rect;
+    const QRect inner = outer.adjusted(1, 1, -1, -1);
+    switch (stroke.kind) {
+    case BevelStroke::MonoFrame:
+        frame(painter, outer, text, text);
+        break;
+    case BevelStroke::FlatFrame:
+        frame(painter, outer, shades.shadow, shades.shadow);
+        break;
+    case BevelStroke::Raised:
+        frame(painter, outer, shades.highlight, shades.dark);
+        frame(painter, inner, shades.light, shades.shadow);
+        break;
+    case BevelStroke::Sunken:
+        frame(painter, outer, shades.dark, shades.highlight);
+        frame(painter, inner, shades.shadow, shades.light);
+        break;
+    case BevelStroke::Bump:
+        frame(painter, outer, shades.highlight, shades.dark);
+        frame(painter, inner, shades.shadow, shades.light);
+        break;
+    case BevelStroke::Etched:
+        frame(painter, outer, shades.shadow, shades.highlight);
+        frame(painter, inner, shades.highlight, shades.shadow);
+        break;
+    case BevelStroke::ThinRaised:
+        frame(painter, outer, shades.highlight, shades.shadow);
+        break;
+    case BevelStroke::ThinSunken:
+        frame(painter, outer, shades.shadow, shades.highlight);
+        break;
+    case BevelStroke::FocusDots:
+        dots(painter, outer, text);
+        break;
+    }
+}
+
+void caption(QPainter& painter, const ButtonExLook& look, const std::optional<QRect>& glyph)
+{
+    if (look.caption.isEmpty())
+        return;
+    const QString text = captionText(look.caption);
+    const QFontMetrics metrics(look.font, painter.device());
+    const QSize size = metrics.size(0, text);
+    const QPoint at = captionPlace(look.bevel.size, size, glyph, look.captionOffset);
+    const qsizetype mnemonic = captionMnemonic(look.caption);
+    painter.setFont(look.font);
+    painter.setPen(toQColor(look.textColor));
+    painter.setLayoutDirection(look.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip | Qt::AlignAbsolute;
+    QString drawn = text;
+    if (mnemonic >= 0) {
+        // Only the first mark counts: a later one is drawn, and for the painter that is written twice.
+        flags |= Qt::TextShowMnemonic;
+        drawn.replace(u'&', QStringLiteral("&&"));
+        const qsizetype before = QStringView(text).left(mnemonic).count(u'&');
+        drawn.insert(mnemonic + before, u'&');
+    }
+    painter.drawText(QRect(at, size), flags, drawn);
+}
+
+} // namespace
+
+void paintButtonEx(QPainter& painter, const ButtonExLook& look)
+{
+    const QRect all(QPoint(0, 0), look.bevel.size);
+    if (all.isEmpty())
+        return;
+    painter.save();
+    painter.setClipRect(all, Qt::IntersectClip);
+    const QColor text = toQColor(look.textColor);
+    if (look.skinned) {
+        drawSharp(painter, QPoint(0, 0), look.face);
+    } else {
+        const Shades shades(toQColor(look.backColor));
+        painter.fillRect(all, shades.face);
+        for (const BevelStroke& one : bevelStrokes(look.bevel))
+            stroke(painter, one, shades, text);
+    }
+    std::optional<QRect> glyph;
+    if (!look.glyph.isNull()) {
+        glyph = glyphPlace(look.bevel.size, look.glyph.size(), look.bevel.appearance, look.glyphOffset);
+        drawSharp(painter, glyph->topLeft(), look.glyph);
+    }
+    caption(painter, look, glyph);
+    if (look.highlight)
+        dots(painter, all.adjusted(2, 2, -2, -2), text);
+    painter.restore();
+}
+
+} // namespace varnhold
