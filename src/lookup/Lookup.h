@@ -55,12 +55,14 @@ public:
     /// ListRow: game list row of the last lookup from the list.
     [[nodiscard]] int listRow() const { return m_listRow; }
     /// Title of the last parse; heads the update list's tool tip.
-    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString title() const { return m_document.title(); }
 
 private:
     void navigate(const QString& gameId);
     void waitUntilIdle();
-    void showTitleOfSelectedRow();
+    void lookUpSelectedRow();
+    void showTitleOfRow(int row);
+    void onDone();
     void onStatusText(const QString& text);
     void onProgress(int progress, int maximum);
     void onNavigateError(int code);
@@ -68,7 +70,7 @@ private:
     Services m_services;
     UpdateDocument m_document;
     EntryLoader m_loadEntry;
-    int m_listRow = 0;
+    qint16 m_listRow = 0;
 };
 
 } // namespace varnhold

@@ -17,8 +17,8 @@ public:
     virtual void setBlank(const QString& text) = 0;  ///< lblBlank
     virtual void setStatus(const QString& text) = 0; ///< lblStatus
     virtual void hideProgress() = 0;                 ///< ProgressBar1
-    virtual void showProgress(int percent) = 0;
-    virtual void setProgressValue(int percent) = 0; ///< without showing it
+    virtual void showProgress() = 0;
+    virtual void setProgressValue(int percent) = 0; ///< neither shows nor hides it
     /// Hides imgPreview; shows ListView1, barMain and txtGameNotes.
     virtual void showListViews() = 0;
     virtual void autosizeColumns() = 0; ///< Autosize_Columns(ListView1)

@@ -27,7 +27,14 @@ public:
     /// The title half alone.
     void Find_Title(int listRow);
 
+    /// Title: the cleaned title of the last parse that found one.
+    [[nodiscard]] const QString& title() const { return m_title; }
+
 private:
+    void fill(int listRow);
+    void showTitle(int listRow);
+    void finish();
+
     ApplicationState& m_state;
     const Settings& m_settings;
     UpdateList& m_list;

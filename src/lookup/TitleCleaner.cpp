@@ -1,0 +1,45 @@
+#include "lookup/TitleCleaner.h"
+
+#include "platform/Trim.h"
+#include "state/Settings.h"
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// One pass from the left, case-sensitive; an empty needle does nothing (QString's own would fill the text).
+void replaceIn(QString& text, const QString& needle, const QString& with = {})
+{
+    if (!needle.isEmpty())
+        text.replace(needle, with);
+}
+
+} // namespace
+
+QString cleanTitle(QString title, const Settings& settings, const QString& gameIdText)
+{
+    if (!settings.isChecked(Check::RemoveUnw))
+        return title;
+    if (settings.isChecked(Check::Double)) {
+        title = trimBlanks(title);
+        replaceIn(title, u"  "_s, u" "_s);
+    }
+    title = trimBlanks(title);
+    replaceIn(title, u": Update"_s);
+    if (settings.isChecked(Check::Colon))
+        replaceIn(title, u":"_s, u" -"_s);
+    title = trimBlanks(title);
+    replaceIn(title, u" ("_s + gameIdText + u')');
+    // The literal word stays unless the user's list takes it out, as the delivered list does.
+    title = trimBlanks(title);
+    replaceIn(title, u' ' + gameIdText, u" GAMEID"_s);
+    for (const QString& unwanted : settings.unwantedStrings().split(u',')) {
+        title = trimBlanks(title);
+        replaceIn(title, unwanted);
+    }
+    return title;
+}
+
+} // namespace varnhold
