@@ -1,0 +1,87 @@
+#pragma once
+
+#include "host/Certificates.h"
+#include "host/Misbehaviour.h"
+#include "host/Site.h"
+
+#include <QObject>
+#include <QSslConfiguration>
+
+#include <memory>
+#include <vector>
+
+class QTemporaryFile;
+
+namespace varnhold::host {
+
+class Connection;
+class Listener;
+struct HttpRequest;
+
+/// A small server on loopback that plays every outside host: update documents, packages with true sums,
+/// redirects, covers, the version file and the id list, over http and https. Made so that no request can
+/// end it. Lives in one thread with an event loop.
+class SampleService : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SampleService(QObject* parent = nullptr);
+    ~SampleService() override;
+
+    /// Listens on 127.0.0.1; 0 picks a free port. Throws RunTimeError with a sentence when a port is taken or
+    /// the certificate or its file cannot be made. `caFile`: where the authority's certificate is written;
+    /// empty: a temporary file that goes with the service.
+    void start(quint16 httpPort = 0, quint16 httpsPort = 0, const QString& caFile = {});
+
+    [[nodiscard]] quint16 httpPort() const;
+    [[nodiscard]] quint16 httpsPort() const;
+    [[nodiscard]] quint16 otherPort() const; ///< a second http port, which redirects may lead to
+    [[nodiscard]] QString caFile() const { return m_caFile; }
+    [[nodiscard]] QString httpAuthority() const;  ///< "127.0.0.1:port"
+    [[nodiscard]] QString httpsAuthority() const; ///< "127.0.0.1:port"
+
+    /// What the service shows; titles and pages may be added at any time.
+    Site& site() { return m_site; }
+
+    /// Pace of packages in bytes a second; 0: as fast as the peer takes them. 30 MB/s at first.
+    void setRate(qint64 bytesPerSecond) { m_rate = bytesPerSecond; }
+    /// Answers to paths that match the glob (`*` matches "/" too; without query) go wrong. The last rule that
+    /// matches counts; Odd::None takes earlier ones back.
+    void misbehave(const QString& pathGlob, const Misbehaviour& misbehaviour);
+    /// The certificate that connections from now on are shown. Before or after start().
+    void setCertificateFault(CertificateFault fault);
+
+    /// Targets of all requests so far, as they came over the wire.
+    [[nodiscard]] const QList<QByteArray>& requests() const { return m_requests; }
+
+private:
+    struct Rule
+    {
+        QByteArray glob;
+        Misbehaviour misbehaviour;
+    };
+    enum class Port { Http, Https, Other };
+
+    static void open(Listener& listener, quint16 port);
+    void writeCaFile(const QString& wanted);
+    void makeTls();
+    void serve(qintptr descriptor, Port port);
+    void handle(Connection& connection, const HttpRequest& request, Port port);
+    [[nodiscard]] Misbehaviour ruleFor(const QByteArray& path) const;
+
+    Site m_site;
+    std::unique_ptr<Listener> m_http;
+    std::unique_ptr<Listener> m_https;
+    std::unique_ptr<Listener> m_other;
+    Identity m_authority;
+    QSslConfiguration m_tls;
+    CertificateFault m_fault = CertificateFault::None;
+    std::unique_ptr<QTemporaryFile> m_temporaryCaFile;
+    QString m_caFile;
+    qint64 m_rate = 30'000'000;
+    std::vector<Rule> m_rules;
+    QList<QByteArray> m_requests;
+};
+
+} // namespace varnhold::host

@@ -1,0 +1,172 @@
+#include "host/Site.h"
+
+#include "host/UpdateXml.h"
+
+#include <QFutureWatcher>
+#include <QPointer>
+#include <QPromise>
+#include <QStringEncoder>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+
+namespace varnhold::host {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Sums = std::vector<PackageSums>;
+
+/// Stands for the document where a package's index may stand.
+constexpr std::size_t document = std::numeric_limits<std::size_t>::max();
+
+/// Some of them end in an apostrophe, which comes raw and belongs to the path.
+constexpr std::array<QStringView, 6> documentBases = {
+    u"/tpl/np/", u"/tppkg/np/'", u"/tppkg/prod-qa/'", u"/tpl/sp-int/'", u"/tppkg/sp-int/'", u"/tpl/prod-qa/",
+};
+
+Sums sumsOf(const SampleTitle& title)
+{
+    Sums sums;
+    sums.reserve(title.packages.size());
+    for (const SamplePackage& package : title.packages)
+        sums.push_back(packageSums(packageSeed(packagePath(title, package)), package.size));
+    return sums;
+}
+
+/// Sums of a big package take a while, and the other connections must not wait for them.
+QFuture<Sums> startSums(const SampleTitle& title)
+{
+    const auto promise = std::make_shared<QPromise<Sums>>();
+    promise->start();
+    QThreadPool::globalInstance()->start([promise, title] {
+        promise->addResult(sumsOf(title));
+        promise->finish();
+    });
+    return promise->future();
+}
+
+Reply bytesReply(const QByteArray& contentType, const QByteArray& bytes)
+{
+    Reply reply;
+    reply.contentType = contentType;
+    reply.body = Body::fromBytes(bytes);
+    return reply;
+}
+
+Reply movedTo(const QByteArray& location)
+{
+    Reply reply = statusReply(302);
+    reply.location = location;
+    return reply;
+}
+
+} // namespace
+
+Site::Site(QObject* parent)
+    : QObject(parent), m_titles(sampleTitles()), m_versionText(VARNHOLD_VERSION "\r\n")
+{
+}
+
+void Site::addTitle(const SampleTitle& title)
+{
+    m_sums.remove(title.id);
+    const auto old = std::ranges::find(m_titles, title.id, &SampleTitle::id);
+    if (old != m_titles.end())
+        *old = title;
+    else
+        m_titles.push_back(title);
+}
+
+void Site::addPage(const QString& path, const QByteArray& contentType, const QByteArray& bytes)
+{
+    m_pages.insert(path, bytesReply(contentType, bytes));
+}
+
+std::optional<Site::Found> Site::find(const QString& path) const
+{
+    for (const SampleTitle& title : m_titles) {
+        const QString name = title.id + u'/' + title.id + u"-ver.xml"_s;
+        for (const QStringView base : documentBases)
+            if (path.startsWith(base) && QStringView(path).sliced(base.size()) == name)
+                return Found{&title, document};
+        for (std::size_t i = 0; i < title.packages.size(); ++i)
+            if (path == packagePath(title, title.packages[i]))
+                return Found{&title, i};
+    }
+    return std::nullopt;
+}
+
+void Site::answer(const QString& path, const QByteArray& origin, const QObject* asker,
+                  const std::function<void(const Reply&)>& done)
+{
+    const std::optional<Found> found = m_pages.contains(path) ? std::nullopt : find(path);
+    if (!found) {
+        done(page(path, origin));
+        return;
+    }
+    const SampleTitle title = *found->title;
+    const std::size_t package = found->package;
+    const auto reply = [title, package, origin](const Sums& sums) {
+        if (package == document)
+            return bytesReply("text/xml", updateXml(title, sums, origin));
+        Reply packageReply;
+        packageReply.contentType = "application/octet-stream";
+        packageReply.paced = true;
+        const SamplePackage& asked = title.packages.at(package);
+        packageReply.body = packageBody(packageSeed(packagePath(title, asked)), asked.size, sums.at(package));
+        return packageReply;
+    };
+    if (!m_sums.contains(title.id))
+        m_sums.insert(title.id, startSums(title));
+    const QFuture<Sums> sums = m_sums.value(title.id);
+    if (sums.isFinished()) {
+        done(reply(sums.result()));
+        return;
+    }
+    auto* const watcher = new QFutureWatcher<Sums>(this);
+    connect(watcher, &QFutureWatcher<Sums>::finished, this,
+            [watcher, reply, done, asker = QPointer<const QObject>(asker)] {
+                watcher->deleteLater();
+                if (asker)
+                    done(reply(watcher->result()));
+            });
+    watcher->setFuture(sums);
+}
+
+Reply Site::page(const QString& path, const QByteArray& origin) const
+{
+    const auto own = m_pages.constFind(path);
+    if (own != m_pages.cend())
+        return *own;
+    if (path.startsWith(u"/moved/"))
+        return movedTo(origin + path.sliced(QStringView(u"/moved").size()).toUtf8());
+    if (path == u"/Varnhold/txt/version.txt")
+        return bytesReply("text/plain", m_versionText);
+    if (path == u"/Varnhold/ps3gameids.txt")
+        return bytesReply("text/plain", idList());
+    if (path == u"/" || path == u"/images")
+        return bytesReply(
+            "text/html; charset=utf-8",
+            "<html><head><title>Sample service</title></head><body><p>This page stands in for an "
+            "outside site.</p></body></html>\n");
+    return statusReply(404);
+}
+
+QByteArray Site::idList() const
+{
+    // The list is a plain text of the 8-bit code page, as its readers expect.
+    QStringEncoder encode("windows-1252");
+    QByteArray list;
+    for (const SampleTitle& title : m_titles) {
+        QByteArray name = encode(title.name);
+        list += title.id.toLatin1() + ' ' + name.replace('\x1a', '?') + "\r\n";
+    }
+    return list;
+}
+
+} // namespace varnhold::host

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/PackageContent.h"
+#include "host/Reply.h"
+#include "host/Titles.h"
+
+#include <QFuture>
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace varnhold::host {
+
+/// What the sample service has to show: which path is answered with what.
+class Site : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Site(QObject* parent = nullptr);
+
+    /// Adds a title, or replaces the one of the same id.
+    void addTitle(const SampleTitle& title);
+    /// Answers this path with these bytes, whatever else would stand there.
+    void addPage(const QString& path, const QByteArray& contentType, const QByteArray& bytes);
+    [[nodiscard]] const std::vector<SampleTitle>& titles() const { return m_titles; }
+    void setVersionText(const QByteArray& text) { m_versionText = text; }
+
+    /// Finds the answer for a path without query and hands it over: at once, or from the event loop when sums
+    /// have to be made first; never after `asker` is gone. `origin` begins package addresses.
+    void answer(const QString& path, const QByteArray& origin, const QObject* asker,
+                const std::function<void(const Reply&)>& done);
+
+private:
+    struct Found
+    {
+        const SampleTitle* title = nullptr;
+        std::size_t package = 0; ///< index, or a mark for the document
+    };
+    [[nodiscard]] std::optional<Found> find(const QString& path) const;
+    [[nodiscard]] Reply page(const QString& path, const QByteArray& origin) const;
+    [[nodiscard]] QByteArray idList() const;
+
+    std::vector<SampleTitle> m_titles;
+    QHash<QString, Reply> m_pages;
+    QHash<QString, QFuture<std::vector<PackageSums>>> m_sums; ///< by id, as far as they were asked for
+    QByteArray m_versionText;
+};
+
+} // namespace varnhold::host

@@ -1,0 +1,143 @@
+#include "host/Titles.h"
+
+namespace varnhold::host {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kB = 1000;
+constexpr qint64 MB = 1000 * kB;
+constexpr SumOf whole = SumOf::WholeFile;
+constexpr SumOf butTail = SumOf::AllButTail;
+
+} // namespace
+
+// Each row: id, name, what the sums cover, whether packages are moved, packages. The names are invented;
+// some carry what a title has to be cleaned of.
+const std::vector<SampleTitle>& sampleTitles()
+{
+    static const std::vector<SampleTitle> titles = {
+        // One plain package of a handy size: the title to show the program with.
+        {u"BCUS10001"_s, u"Lantern Reach"_s, whole, false, {{u"01.01"_s, u"03.4100"_s, 5 * MB}}},
+        {u"BCUS10027"_s,
+         u"Copper Tide"_s,
+         butTail,
+         false,
+         {{u"01.01"_s, u"02.7600"_s, 1805056}, {u"01.02"_s, u"03.1500"_s, 12 * MB + 512}}},
+        {u"BCUS10113"_s,
+         u"Hollow Regatta: Update"_s,
+         whole,
+         false,
+         {{u"01.02"_s, u"03.5500"_s, 48 * MB}, {u"01.03"_s, u"03.5500"_s, 2 * MB + 77}}},
+        {u"BCUS10244"_s, u"Ninefold Orchard"_s, butTail, false, {{u"01.01"_s, {}, 640 * kB}}},
+        {u"BCES10002"_s,
+         u"Lantern Reach (BCES10002)"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"03.4100"_s, 5 * MB + 4096}, {u"01.02"_s, u"03.6000"_s, 9 * MB}}},
+        {u"BCES10518"_s, u"Les Moulins d’Hiver"_s, butTail, false, {{u"01.01"_s, u"03.2100"_s, 22 * MB}}},
+        {u"BCES11093"_s,
+         u"Straße der Gezeiten"_s,
+         whole,
+         true,
+         {{u"01.01"_s, u"04.1100"_s, 3 * MB}, {u"01.02"_s, u"04.2100"_s, 6 * MB}}},
+        {u"BCJS10003"_s, u"灯台の岬"_s, whole, false, {{u"01.01"_s, u"03.4100"_s, 5 * MB}}},
+        {u"BCJS30042"_s, u"Paper Meridian"_s, butTail, false, {{u"01.10"_s, u"02.8000"_s, 20 * kB}}},
+        {u"BCAS20004"_s, u"Lantern Reach"_s, whole, false, {{u"01.01"_s, u"03.4100"_s, 5 * MB}}},
+        {u"BCAS20311"_s, u"호수의 연대기"_s, butTail, false, {{u"01.02"_s, u"03.7000"_s, 31 * MB}}},
+        {u"BCKS10072"_s, u"Quiet Engines"_s, whole, false, {{u"01.01"_s, {}, 7 * MB}}},
+        {u"BLUS30443"_s,
+         u"Ashgrove Circuit™"_s,
+         butTail,
+         false,
+         {{u"01.01"_s, u"02.6000"_s, 90 * kB},
+          {u"01.02"_s, u"02.7000"_s, 4 * MB},
+          {u"01.03"_s, u"03.0000"_s, 16 * MB + 9},
+          {u"01.04"_s, u"03.4100"_s, 33 * MB}}},
+        // Only the middle package lacks its system version.
+        {u"BLUS30512"_s,
+         u"Tin Cathedral"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"02.8000"_s, 2 * MB}, {u"01.02"_s, {}, 3 * MB}, {u"01.03"_s, u"03.3000"_s, 4 * MB}}},
+        {u"BLUS30677"_s,
+         u"Vesper Line: Update (BLUS30677)"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"03.1500"_s, 11 * MB}}},
+        {u"BLUS30801"_s, u"Mosswater Derby"_s, butTail, false, {{u"01.05"_s, u"03.5500"_s, 150 * MB}}},
+        {u"BLUS30944"_s,
+         u"The  Long  Thaw"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"03.6000"_s, 26 * MB}, {u"01.02"_s, u"03.6600"_s, 27 * MB}}},
+        {u"BLUS31120"_s, u"Brasswing DLC and Patches"_s, whole, false, {{u"01.01"_s, u"04.0000"_s, 8 * MB}}},
+        {u"BLUS31207"_s,
+         u"Ember & Oak <Gold>"_s,
+         butTail,
+         false,
+         {{u"01.01"_s, u"04.2500"_s, 1 * MB}, {u"01.02"_s, u"04.3000"_s, 1 * MB + 1}}},
+        {u"BLES00256"_s,
+         u"Saltmarsh Rally"_s,
+         whole,
+         false,
+         {{u"01.01"_s, {}, 800 * kB}, {u"01.02"_s, {}, 2 * MB}}},
+        {u"BLES00733"_s,
+         u"Ashgrove Circuit™: Update"_s,
+         butTail,
+         false,
+         {{u"01.04"_s, u"03.4100"_s, 33 * MB}}},
+        {u"BLES01045"_s, u"Città di Vetro"_s, whole, false, {{u"01.01"_s, u"03.5500"_s, 19 * MB}}},
+        {u"BLES01288"_s, u"Kruimelpad (v01.02)"_s, whole, true, {{u"01.02"_s, u"03.5500"_s, 400 * kB}}},
+        {u"BLES01564"_s,
+         u"Granite Psalm"_s,
+         butTail,
+         false,
+         {{u"01.01"_s, u"03.7200"_s, 75 * MB}, {u"01.02"_s, u"04.0000"_s, 300 * MB}}},
+        {u"BLES01902"_s,
+         u"Northern Fathoms"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"04.1000"_s, 2 * MB},
+          {u"01.02"_s, u"04.2000"_s, 3 * MB},
+          {u"01.03"_s, u"04.2500"_s, 4 * MB},
+          {u"01.04"_s, u"04.3000"_s, 5 * MB},
+          {u"01.05"_s, u"04.4000"_s, 6 * MB},
+          {u"01.06"_s, u"04.4600"_s, 7 * MB},
+          {u"01.07"_s, u"04.5000"_s, 8 * MB},
+          {u"01.08"_s, u"04.5500"_s, 9 * MB}}},
+        {u"BLJM60019"_s, u"Vellum Storm"_s, butTail, false, {{u"01.01"_s, u"02.4200"_s, 1 * MB + 300 * kB}}},
+        {u"BLJM60388"_s, u"夜明けの線路"_s, whole, false, {{u"01.03"_s, u"03.6000"_s, 14 * MB}}},
+        {u"BLJS10060"_s, u"Clockmaker’s Fugue"_s, whole, false, {{u"01.01"_s, u"03.0000"_s, 2 * MB}}},
+        {u"BLJS10199"_s, u"Umber Sparrow Game Data"_s, butTail, false, {{u"01.02"_s, u"03.9000"_s, 45 * MB}}},
+        {u"BLAS50033"_s, u"Saltmarsh Rally"_s, whole, false, {{u"01.02"_s, {}, 2 * MB}}},
+        {u"BLAS50417"_s, u"Thistledown 000"_s, butTail, false, {{u"01.01"_s, u"04.1100"_s, 600 * kB}}},
+        {u"BLKS20045"_s, u"Iron Almanac"_s, whole, false, {{u"01.01"_s, u"02.8500"_s, 17 * MB}}},
+        {u"NPUB30055"_s, u"Kite Harbor"_s, butTail, false, {{u"01.01"_s, u"03.1000"_s, 20 * kB}}},
+        {u"NPUB30781"_s,
+         u"Pocket Glacier®"_s,
+         whole,
+         false,
+         {{u"01.01"_s, u"04.0000"_s, 350 * kB}, {u"01.02"_s, u"04.1000"_s, 1 * MB + 200 * kB}}},
+        {u"NPEB00112"_s, u"Kite Harbor: Update"_s, whole, false, {{u"01.01"_s, u"03.1000"_s, 20 * kB}}},
+        {u"NPEB01339"_s, u"Señal Perdida"_s, butTail, false, {{u"01.03"_s, u"04.4000"_s, 64 * MB}}},
+        {u"NPJB00094"_s, u"Slow Comet"_s, whole, false, {{u"01.01"_s, u"03.7000"_s, 5 * MB}}},
+        {u"NPHB00231"_s, u"Marble Courier"_s, butTail, false, {{u"01.01"_s, {}, 2 * MB + 5}}},
+        {u"NPUA80136"_s,
+         u"Driftglass Additional Content"_s,
+         whole,
+         false,
+         {{u"01.04"_s, u"02.5300"_s, 28 * MB}}},
+        {u"NPUA80472"_s,
+         u"Cinder Post: Night Mail"_s,
+         butTail,
+         false,
+         {{u"01.01"_s, u"03.0000"_s, 4 * MB}, {u"01.02"_s, u"03.1000"_s, 120 * MB}}},
+        {u"NPEA00061"_s, u"Driftglass"_s, whole, true, {{u"01.04"_s, u"02.5300"_s, 28 * MB}}},
+        {u"NPJA00038"_s, u"Silt and Silver"_s, whole, false, {{u"01.01"_s, u"02.6000"_s, 1048576}}},
+    };
+    return titles;
+}
+
+} // namespace varnhold::host
