@@ -167,7 +167,7 @@ void SampleService::handle(Connection& connection, const HttpRequest& request, P
     }
 
     context.target = request.target;
-    context.path = request.target.left(request.target.indexOf('?'));
+    context.path = request.target.split('?').constFirst();
     const QByteArray httpOrigin = "http://" + httpAuthority().toLatin1();
     const QByteArray otherOrigin = "http://" + authorityOf(otherPort()).toLatin1();
     switch (port) {
