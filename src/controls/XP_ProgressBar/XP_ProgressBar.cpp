@@ -1,14 +1,20 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 
-#include "controls/SystemColorsUi.h"
+#include "controls/XP_ProgressBar/ProgressBarAccessible.h"
+#include "controls/XP_ProgressBar/ProgressLooks.h"
+#include "controls/XP_ProgressBar/QtProgressSurface.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace varnhold {
 
 XP_ProgressBar::XP_ProgressBar(QWidget* parent) : QWidget(parent)
 {
+    installProgressBarAccessible();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
 }
@@ -16,19 +22,19 @@ XP_ProgressBar::XP_ProgressBar(QWidget* parent) : QWidget(parent)
 void XP_ProgressBar::setColor(ColorValue color)
 {
     m_state.color = color;
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setBrushStyle(int style)
 {
     m_state.brushStyle = style;
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setImage(const QPixmap& image)
 {
     m_image = image;
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setMax(int max)
@@ -47,26 +53,35 @@ void XP_ProgressBar::setOrientation(int orientation)
         return;
     m_state.vertical = orientation == 1;
     updateGeometry();
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setScrolling(int look)
 {
     m_state.scrolling = look;
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setShowText(bool show)
 {
     m_state.showText = show;
-    update();
+    redraw();
 }
 
 void XP_ProgressBar::setValue(int percent)
 {
+    const int before = m_state.percent();
     m_state.setValue(percent);
     m_state.clampForDrawing();
-    update();
+    if (m_state.percent() == before)
+        return;
+    m_drawn = false;
+    // Shown now and not at the next turn of the event loop: long loops that show their progress here do
+    // not return to it. That costs little, since there are no more than a hundred steps to show.
+    if (isVisible())
+        repaint();
+    QAccessibleValueChangeEvent event(this, this->percent());
+    QAccessible::updateAccessibility(&event);
 }
 
 QSize XP_ProgressBar::sizeHint() const
@@ -81,23 +96,38 @@ QSize XP_ProgressBar::minimumSizeHint() const
 
 void XP_ProgressBar::paintEvent(QPaintEvent* /*event*/)
 {
-    m_state.clampForDrawing();
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
+    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
+                       static_cast<int>(std::ceil(height() * ratio)));
+    if (!m_drawn || m_surface.size() != pixels || !qFuzzyCompare(m_surface.devicePixelRatio(), ratio))
+        draw(pixels, ratio);
+    QPainter(this).drawImage(0, 0, m_surface);
+}
+
+void XP_ProgressBar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        redraw();
+    QWidget::changeEvent(event);
+}
+
+void XP_ProgressBar::redraw()
+{
+    m_drawn = false;
+    update();
+}
+
+void XP_ProgressBar::draw(QSize pixels, qreal ratio)
+{
     if (m_surface.size() != pixels)
         m_surface = QImage(pixels, QImage::Format_RGB32);
-    m_surface.setDevicePixelRatio(ratio);
+    m_surface.setDevicePixelRatio(1);
     {
-        QPainter painter(&m_surface);
-        painter.fillRect(rect(), Qt::white);
-        QRect bar = rect();
-        if (m_state.vertical)
-            bar.setTop(height() - height() * this->percent() / 100);
-        else
-            bar.setWidth(width() * this->percent() / 100);
-        painter.fillRect(bar, toQColor(m_state.color));
+        QtProgressSurface surface(m_surface, size(), ratio, font(), m_image);
+        PBarDraw(m_state, surface);
     }
-    QPainter(this).drawImage(0, 0, m_surface);
+    m_surface.setDevicePixelRatio(ratio);
+    m_drawn = true;
 }
 
 } // namespace varnhold

@@ -75,11 +75,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void redraw();
+    void draw(QSize pixels, qreal ratio);
+
     ProgressState m_state;
     QPixmap m_image;
     QImage m_surface;
+    bool m_drawn = false; ///< the surface shows the state
 };
 
 } // namespace varnhold

@@ -9,20 +9,25 @@ class QWidget;
 
 namespace varnhold {
 
-/// One page of the gallery: a control in its states. `make` returns a new widget that holds the samples,
-/// already at its final size (resize() it); the gallery owns it, shows it in a window or renders it into
-/// `name`.png. A page must look the same on every run: no clock, no random numbers, no network.
+/// One page of the gallery: a control in its states.
 struct GalleryPage
 {
     QString name;  ///< file name without its ending, for example "buttonex-states"
     QString title; ///< shown above the page
+    /// Returns a new widget that holds the samples, at its final size (GallerySheet makes one). The gallery
+    /// owns it, shows it in a window, or renders it into `name`.png. It looks the same on every run: no
+    /// clock, no random numbers, no network.
     std::function<QWidget*()> make;
 };
 
 using GalleryPages = std::vector<GalleryPage>;
 
-// One function a control, each in its own source (ButtonExPages.cpp, ...), listed in GalleryPages.cpp.
+// One function a control, each in a source of its own beside this file. To add one: declare it here, list
+// it in allGalleryPages() (GalleryPages.cpp), and name its source in CMakeLists.txt.
 GalleryPages progressBarPages();
 GalleryPages sliderPages();
+
+/// All pages, in the order in which they are shown.
+GalleryPages allGalleryPages();
 
 } // namespace varnhold
