@@ -2,32 +2,50 @@
 
 #include "platform/FileErrors.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
+#include <optional>
 #include <sys/stat.h>
 
 namespace varnhold {
 
+namespace {
+
+/// The mode of what the path names, links followed; no value on any error.
+std::optional<mode_t> modeOf(const QString& path)
+{
+    struct stat status = {};
+    if (path.contains(QChar::Null) || ::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return status.st_mode;
+}
+
+} // namespace
+
 bool FileExists(const QString& path)
 {
-    if (path.endsWith(u'/'))
-        return !QDir(path).entryList(QDir::Files | QDir::Hidden | QDir::System).isEmpty();
-    const QFileInfo info(path);
-    return info.exists() && !info.isDir();
+    const std::optional<mode_t> mode = modeOf(path);
+    if (!mode)
+        return false;
+    if (S_ISDIR(*mode))
+        return path.endsWith(u'/') && QDirIterator(path, QDir::Files | QDir::Hidden | QDir::System).hasNext();
+    return true;
 }
 
 bool FolderExists(const QString& path)
 {
-    return QFileInfo(path).isDir();
+    const std::optional<mode_t> mode = modeOf(path);
+    return mode && S_ISDIR(*mode);
 }
 
 void MakeFolder(const QString& path)
 {
     if (FolderExists(path))
         return;
+    if (path.contains(QChar::Null))
+        throw RunTimeError(errors::badFileName);
     if (::mkdir(QFile::encodeName(path).constData(), 0777) == 0)
         return;
     const int code = errno;

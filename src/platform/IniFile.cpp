@@ -115,6 +115,16 @@ void writeDocument(const QString& path, const Document& document)
     file.commit();
 }
 
+/// Cuts blanks, tabs and line ends off both ends; unlike Qt's own, no other kind of space.
+QStringView stripped(QStringView text)
+{
+    while (!text.isEmpty() && text.front() <= u' ')
+        text = text.mid(1);
+    while (!text.isEmpty() && text.back() <= u' ')
+        text.chop(1);
+    return text;
+}
+
 bool same(QStringView left, QStringView right)
 {
     return left.compare(right, Qt::CaseInsensitive) == 0;
@@ -123,11 +133,11 @@ bool same(QStringView left, QStringView right)
 /// The name in a section's line; no value for any other line.
 std::optional<QString> sectionOf(const QString& line)
 {
-    const QStringView text = QStringView(line).trimmed();
+    const QStringView text = stripped(line);
     if (!text.startsWith(u'['))
         return std::nullopt;
     const qsizetype end = text.indexOf(u']');
-    return text.mid(1, end < 0 ? -1 : end - 1).trimmed().toString();
+    return stripped(text.mid(1, end < 0 ? -1 : end - 1)).toString();
 }
 
 /// The lines after a section's head, up to the next head. A missing section is an empty span with head -1.
@@ -146,7 +156,7 @@ Span findSection(const Document& document, const QString& section)
             continue;
         if (span.head >= 0)
             return {span.head, i};
-        if (same(*name, section.trimmed()))
+        if (same(*name, stripped(section)))
             span.head = i;
     }
     span.end = document.lines.size();
@@ -166,11 +176,11 @@ std::optional<Entry> findKey(const Document& document, const Span& span, const Q
         return std::nullopt;
     for (qsizetype i = span.head + 1; i < span.end; ++i) {
         const QString line = document.text(document.lines.at(i));
-        const QStringView text = QStringView(line).trimmed();
+        const QStringView text = stripped(line);
         const qsizetype equals = text.indexOf(u'=');
-        if (equals < 1 || text.startsWith(u';') || !same(text.first(equals).trimmed(), key.trimmed()))
+        if (equals < 1 || text.startsWith(u';') || !same(stripped(text.first(equals)), stripped(key)))
             continue;
-        return Entry{i, text.first(equals).trimmed().toString(), text.mid(equals + 1).trimmed().toString()};
+        return Entry{i, stripped(text.first(equals)).toString(), stripped(text.mid(equals + 1)).toString()};
     }
     return std::nullopt;
 }
@@ -193,8 +203,8 @@ QString IniFile::read(const QString& section, const QString& key, const QString&
     const std::optional<Entry> entry =
         document ? findKey(*document, findSection(*document, section), key) : std::nullopt;
     QString value = (entry ? withoutQuotes(entry->value) : fallback).left(bufferSize - 1);
-    if (value.endsWith(u'\0') || (!value.isEmpty() && value.back().isHighSurrogate()))
-        value.chop(1);
+    if (!value.isEmpty() && value.back().isHighSurrogate())
+        value.chop(1); // half a character
     return value;
 }
 

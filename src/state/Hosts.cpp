@@ -22,11 +22,7 @@ class Reader
 public:
     explicit Reader(const QString& path) : m_ini(path) {}
 
-    [[nodiscard]] bool saysSample() const
-    {
-        return m_ini.read(u"Hosts"_s, u"Use"_s, {}, longestValue).compare(u"sample"_s, Qt::CaseInsensitive) ==
-               0;
-    }
+    [[nodiscard]] bool saysSample() const;
 
     /// `prefix`: what stands before the words "Host", "CA" and "Old TLS" in this section's keys.
     [[nodiscard]] HostEntry entry(const QString& section, const QString& hostKey,
@@ -45,6 +41,16 @@ private:
 
     IniFile m_ini;
 };
+
+bool Reader::saysSample() const
+{
+    const QString use = read(u"Hosts"_s, u"Use"_s);
+    if (use.compare(u"sample"_s, Qt::CaseInsensitive) == 0)
+        return true;
+    if (!use.isEmpty() && use.compare(u"these"_s, Qt::CaseInsensitive) != 0)
+        refuse(u"Hosts"_s, u"Use"_s, u"\"%1\" is neither \"sample\" nor \"these\"."_s.arg(use));
+    return false;
+}
 
 bool isAuthority(const QString& text)
 {

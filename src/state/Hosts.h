@@ -26,8 +26,9 @@ struct Hosts
     bool sample = false;
 };
 
-/// Reads hosts.ini. A file that is missing counts as one that says `sample`. Throws RunTimeError 75 when it
-/// cannot be read, and 5 with a sentence that names the line for an authority that is none.
+/// Reads hosts.ini, whose form docs/hosts.md tells. A file that is missing counts as one that says `sample`.
+/// A host that it does not name has an empty authority. Throws RunTimeError 75 when it cannot be read, and 5
+/// with a sentence that names section and key for a value that is none.
 Hosts readHosts(const QString& path);
 
 } // namespace varnhold

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <array>
 
@@ -32,22 +33,27 @@ QString usable(const QString& folder)
     return root;
 }
 
-/// Files that are there already stay: they may be the user's.
+/// Copies the installed share folder to `root`, which then stands complete or not at all.
 void fill(const QString& root, const QString& shareFolder)
 {
-    QDirIterator walk(shareFolder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    const auto check = [](bool done, const QString& path) {
+        if (!done)
+            throw RunTimeError(errors::pathFileAccess, u"The program's folder cannot be filled: "_s + path);
+    };
+    QDir().mkpath(QFileInfo(root).path());
+    QTemporaryDir fresh(root + u"-XXXXXX"_s);
+    check(fresh.isValid(), fresh.path());
     const QDir share(shareFolder);
+    QDirIterator walk(shareFolder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString source = walk.next();
-        const QString target = root + u'/' + share.relativeFilePath(source);
-        QDir().mkpath(QFileInfo(target).path());
-        if (QFile::exists(target))
-            continue;
-        if (!QFile::copy(source, target))
-            throw RunTimeError(errors::pathFileAccess, u"The program's folder cannot be filled: "_s + target);
-        // The installed files are read-only for users; these are theirs.
+        const QString target = fresh.filePath(share.relativeFilePath(source));
+        check(QDir().mkpath(QFileInfo(target).path()) && QFile::copy(source, target), target);
+        // The installed files may be read-only; these are the user's.
         QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
     }
+    check(QDir().rename(fresh.path(), root), root);
+    fresh.setAutoRemove(false);
 }
 
 } // namespace
@@ -100,11 +106,9 @@ Paths findPaths(const QString& given, const QString& executableFolder, const QSt
         return {QDir::cleanPath(QDir(executableFolder).absolutePath())};
     const QString own =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/varnhold"_s;
-    const bool firstUse = !QFileInfo::exists(own);
-    const QString root = usable(own);
-    if (firstUse && QFileInfo(shareFolder).isDir())
-        fill(root, shareFolder);
-    return {root};
+    if (!QFileInfo::exists(own) && QFileInfo(shareFolder).isDir())
+        fill(own, shareFolder);
+    return {usable(own)};
 }
 
 } // namespace varnhold
