@@ -1,5 +1,6 @@
 #include "host/Site.h"
 
+#include "host/Cover.h"
 #include "host/UpdateXml.h"
 
 #include <QFutureWatcher>
@@ -154,6 +155,11 @@ Reply Site::page(const QString& path, const QByteArray& origin) const
             "text/html; charset=utf-8",
             "<html><head><title>Sample service</title></head><body><p>This page stands in for an "
             "outside site.</p></body></html>\n");
+    // Covers lie in any folder, under the name of a title that there is.
+    const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
+    for (const SampleTitle& title : m_titles)
+        if (name.compare(title.id + u".jpg"_s, Qt::CaseInsensitive) == 0)
+            return bytesReply("image/jpeg", coverJpeg(title.id));
     return statusReply(404);
 }
 

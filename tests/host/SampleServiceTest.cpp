@@ -1,33 +1,351 @@
+#include "support/PrintText.h"
 #include "support/RunningService.h"
 
 #include <gtest/gtest.h>
 
-#include <QTcpSocket>
+#include <QCryptographicHash>
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslSocket>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
 
 namespace varnhold::test {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-/// What the service sends for these bytes until it closes.
-QByteArray exchange(const RunningService& service, const QByteArray& sent)
+constexpr int patience = 5000; ///< milliseconds
+
+struct Exchange
+{
+    QByteArray head;
+    QByteArray body;
+    QList<qsizetype> pieces; ///< sizes in which the bytes arrived
+
+    [[nodiscard]] int status() const { return head.split(' ').value(1).toInt(); }
+    [[nodiscard]] QByteArray header(const QByteArray& name) const
+    {
+        for (const QByteArray& line : head.split('\n'))
+            if (line.startsWith(name + ": "))
+                return line.sliced(name.size() + 2).trimmed();
+        return "none";
+    }
+};
+
+/// Sends the bytes and takes what comes until the peer closes, or the limit is passed.
+Exchange exchange(QTcpSocket& socket, const QByteArray& sent, qsizetype limit = 100'000'000)
+{
+    Exchange seen;
+    socket.write(sent);
+    QByteArray all;
+    while (all.size() < limit && socket.waitForReadyRead(patience)) {
+        const QByteArray piece = socket.readAll();
+        seen.pieces.append(piece.size());
+        all += piece;
+    }
+    const qsizetype end = all.indexOf("\r\n\r\n");
+    seen.head = end < 0 ? all : all.first(end + 4);
+    seen.body = all.sliced(seen.head.size());
+    return seen;
+}
+
+Exchange send(const RunningService& service, const QByteArray& bytes, qsizetype limit = 100'000'000)
 {
     QTcpSocket socket;
     socket.connectToHost(u"127.0.0.1"_s, service.httpPort());
-    socket.write(sent);
-    while (socket.waitForReadyRead(5000)) {
-    }
-    return socket.readAll();
+    return exchange(socket, bytes, limit);
 }
 
-TEST(SampleService, Answers)
+Exchange get(const RunningService& service, const QByteArray& target, qsizetype limit = 100'000'000)
 {
-    RunningService service;
-    const QByteArray document =
-        exchange(service, "GET /tppkg/np/'BLUS30443/BLUS30443-ver.xml HTTP/1.0\r\n\r\n");
-    EXPECT_TRUE(document.startsWith("HTTP/1.1 200 OK\r\n")) << document.constData();
-    EXPECT_TRUE(document.contains("<package version=\"01.01\" size=\"90000\" sha1sum=\""));
-    EXPECT_TRUE(document.endsWith("</titlepatch>\n"));
+    return send(service, "GET " + target + " HTTP/1.0\r\nHost: 127.0.0.1\r\n\r\n", limit);
+}
+
+/// True when the answer ends in a reset. Asked of the system, since Qt's socket calls a reset an orderly end.
+bool endsInReset(const RunningService& service, const QByteArray& target)
+{
+    QTcpSocket socket;
+    socket.connectToHost(u"127.0.0.1"_s, service.httpPort());
+    if (!socket.waitForConnected(patience))
+        return false;
+    const int descriptor = ::dup(static_cast<int>(socket.socketDescriptor()));
+    ::fcntl(descriptor, F_SETFL, 0);
+    const QByteArray request = "GET " + target + " HTTP/1.0\r\n\r\n";
+    ssize_t count = ::send(descriptor, request.constData(), static_cast<std::size_t>(request.size()), 0);
+    std::array<char, 4096> buffer{};
+    while (count > 0)
+        count = ::recv(descriptor, buffer.data(), buffer.size(), 0);
+    const bool reset = count < 0 && errno == ECONNRESET;
+    ::close(descriptor);
+    return reset;
+}
+
+QByteArray targetOf(const QByteArray& url)
+{
+    return url.sliced(url.indexOf('/', 8));
+}
+
+QByteArray attribute(const QByteArray& element, const QByteArray& name)
+{
+    const qsizetype start = element.indexOf(name + "=\"") + name.size() + 2;
+    return element.sliced(start, element.indexOf('"', start) - start);
+}
+
+class SampleService : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { service = std::make_unique<RunningService>(); }
+    static void TearDownTestSuite() { service.reset(); }
+
+    static std::unique_ptr<RunningService> service;
+};
+
+std::unique_ptr<RunningService> SampleService::service;
+
+TEST_F(SampleService, AnswersOnEveryPathBase)
+{
+    const struct
+    {
+        QByteArray target;
+        int status;
+    } cases[] = {
+        {"/tpl/np/BCUS10001/BCUS10001-ver.xml", 200},
+        {"/tppkg/np/'BCUS10001/BCUS10001-ver.xml", 200},
+        {"/tppkg/prod-qa/'BCUS10001/BCUS10001-ver.xml", 200},
+        {"/tpl/sp-int/'BCUS10001/BCUS10001-ver.xml", 200},
+        {"/tppkg/sp-int/'BCUS10001/BCUS10001-ver.xml", 200},
+        {"/tpl/prod-qa/BCUS10001/BCUS10001-ver.xml", 200},
+        // The apostrophe belongs to the path, raw and only where it stands.
+        {"/tppkg/np/BCUS10001/BCUS10001-ver.xml", 404},
+        {"/tppkg/np/%27BCUS10001/BCUS10001-ver.xml", 404},
+        {"/tpl/np/'BCUS10001/BCUS10001-ver.xml", 404},
+        {"/tpl/np/bcus10001/bcus10001-ver.xml", 404},
+        {"/tpl/np/BCUS10001/BCUS10027-ver.xml", 404},
+        {"/tpl/np/XXXX00000/XXXX00000-ver.xml", 404},
+        {"/Varnhold/txt/version.txt", 200},
+        {"/Varnhold/ps3gameids.txt", 200},
+        {"/anywhere/BCUS10001.jpg", 200},
+        {"/anywhere/XXXX00000.jpg", 404},
+        {"/images?q=lantern", 200},
+        {"/moved/Varnhold/txt/version.txt", 302},
+    };
+    for (const auto& row : cases) {
+        const Exchange seen = get(*service, row.target);
+        EXPECT_EQ(seen.status(), row.status) << row.target.constData();
+        EXPECT_EQ(seen.header("Content-Length"), QByteArray::number(seen.body.size()))
+            << row.target.constData();
+    }
+    EXPECT_EQ(get(*service, "/Varnhold/txt/version.txt").body, QByteArray(VARNHOLD_VERSION "\r\n"));
+}
+
+TEST_F(SampleService, SumsOfDocumentsAreTrue)
+{
+    int wholes = 0;
+    int tails = 0;
+    for (const host::SampleTitle& title : host::sampleTitles()) {
+        if (title.packages.back().size > 9'000'000)
+            continue;
+        const QByteArray id = title.id.toLatin1();
+        const QByteArray document = get(*service, "/tppkg/np/'" + id + '/' + id + "-ver.xml").body;
+        EXPECT_TRUE(document.contains("<TITLE>" + title.name.toHtmlEscaped().toUtf8() + "</TITLE>"));
+        const QList<QByteArray> elements = document.split('<');
+        std::size_t index = 0;
+        for (const QByteArray& element : elements) {
+            if (!element.startsWith("package version=\""))
+                continue;
+            const host::SamplePackage& package = title.packages.at(index++);
+            EXPECT_EQ(element.contains("ps3_system_ver"), !package.systemVersion.isEmpty());
+            Exchange seen = get(*service, targetOf(attribute(element, "url")));
+            if (title.moved) {
+                EXPECT_EQ(seen.status(), 302);
+                seen = get(*service, targetOf(seen.header("Location")));
+            }
+            EXPECT_EQ(attribute(element, "size"), QByteArray::number(seen.body.size()));
+            const QByteArray inner =
+                QCryptographicHash::hash(seen.body.chopped(32), QCryptographicHash::Sha1);
+            EXPECT_EQ(seen.body.last(32), inner + QByteArray(12, '\0')) << id.constData();
+            const bool whole = title.sumOf == host::SumOf::WholeFile;
+            ++(whole ? wholes : tails);
+            const QByteArray sum =
+                whole ? QCryptographicHash::hash(seen.body, QCryptographicHash::Sha1) : inner;
+            EXPECT_EQ(attribute(element, "sha1sum"), sum.toHex()) << id.constData();
+        }
+        EXPECT_EQ(index, title.packages.size());
+    }
+    EXPECT_GT(wholes, 5);
+    EXPECT_GT(tails, 5);
+}
+
+TEST_F(SampleService, MisbehavesAsAsked)
+{
+    const QByteArray page(1000, 'p');
+    service->with(
+        [&](host::SampleService& running) { running.site().addPage(u"/page"_s, "text/plain", page); });
+    const auto odd = [&](const QByteArray& word, qsizetype limit = 100'000'000) {
+        return get(*service, "/odd/" + word + "/page", limit);
+    };
+
+    EXPECT_EQ(odd("early-close").body, page.first(500));
+    EXPECT_EQ(odd("early-close:7").body, page.first(7));
+    EXPECT_EQ(odd("early-close:7").header("Content-Length"), "1000");
+    EXPECT_FALSE(endsInReset(*service, "/odd/early-close/page"));
+    EXPECT_TRUE(endsInReset(*service, "/odd/reset:300/page"));
+    EXPECT_EQ(odd("reset:300").body, page.first(300));
+    EXPECT_EQ(odd("split-header:5").pieces.first(), 5);
+    EXPECT_EQ(odd("split-header:5").body, page);
+    EXPECT_EQ(odd("pieces:4").body, page);
+    EXPECT_GT(odd("pieces:4").pieces.size(), 20);
+    EXPECT_EQ(odd("wrong-length:-10").header("Content-Length"), "990");
+    EXPECT_EQ(odd("no-length").header("Content-Length"), "none");
+    EXPECT_EQ(odd("404").status(), 404);
+    EXPECT_EQ(odd("status:503").status(), 503);
+    EXPECT_EQ(odd("not-xml").status(), 200);
+    EXPECT_EQ(odd("redirect-self").header("Location"), service->url(u"/odd/redirect-self/page"_s).toLatin1());
+    EXPECT_EQ(odd("redirect-empty").header("Location"), "");
+    EXPECT_EQ(odd("redirect-port").header("Location"),
+              "http://127.0.0.1:" + QByteArray::number(service->otherPort()) + "/page");
+    const QByteArray hop = targetOf(odd("endless-redirect").header("Location"));
+    EXPECT_EQ(hop, "/odd/endless-redirect/page?hop=1");
+    EXPECT_TRUE(get(*service, hop).header("Location").endsWith("?hop=2"));
+    EXPECT_GT(odd("endless-headers", 1'000'000).head.size(), 900'000);
+    const Exchange chunk = odd("http-chunk:100");
+    EXPECT_TRUE(chunk.body.sliced(100).startsWith("HTTP/1.1 500"));
+    EXPECT_EQ(chunk.body.size(), page.size());
+    EXPECT_EQ(chunk.pieces.last(), page.size() - 100);
+    const QByteArray many = odd("many-packages:300").body;
+    EXPECT_EQ(many.count("<package version="), 300);
+    EXPECT_TRUE(many.endsWith("</titlepatch>"));
+    EXPECT_GT(odd("huge-document:3").body.size(), 3 * 1024 * 1024);
+    EXPECT_EQ(odd("nonsense").status(), 404);
+}
+
+TEST_F(SampleService, RulesFollowPaths)
+{
+    service->misbehave(u"*A0101*.pkg"_s, u"status:503"_s);
+    const QByteArray first =
+        "/tppkg/np/BLES00256/BLES00256_T1/UP0001-BLES00256_00-VARNHOLDSAMPLE00-A0101-V0100.pkg";
+    EXPECT_EQ(get(*service, first).status(), 503);
+    EXPECT_EQ(get(*service, QByteArray(first).replace("A0101", "A0102")).status(), 200);
+    service->with([](host::SampleService& running) { running.misbehave(u"*"_s, {}); });
+    EXPECT_EQ(get(*service, first).status(), 200);
+}
+
+TEST_F(SampleService, WaitsWhereItIsToldToStall)
+{
+    service->with(
+        [](host::SampleService& running) { running.site().addPage(u"/page"_s, "text/plain", "abcdef"); });
+    const struct
+    {
+        QByteArray word;
+        QByteArray body;
+    } cases[] = {{"stall", ""}, {"stall:2", "ab"}};
+    for (const auto& row : cases) {
+        QTcpSocket socket;
+        socket.connectToHost(u"127.0.0.1"_s, service->httpPort());
+        socket.write("GET /odd/" + row.word + "/page HTTP/1.0\r\n\r\n");
+        QByteArray all;
+        while (socket.waitForReadyRead(150))
+            all += socket.readAll();
+        EXPECT_EQ(socket.state(), QAbstractSocket::ConnectedState);
+        EXPECT_TRUE(all.endsWith(row.body)) << all.constData();
+        EXPECT_EQ(all.isEmpty(), row.body.isEmpty());
+    }
+}
+
+TEST_F(SampleService, PacesPackagesOnly)
+{
+    service->with([](host::SampleService& running) {
+        running.site().addTitle(
+            {u"TEST00001"_s, u"Paced"_s, host::SumOf::WholeFile, false, {{u"01.01"_s, {}, 400'000}}});
+        running.setRate(2'000'000);
+    });
+    QElapsedTimer clock;
+    clock.start();
+    const Exchange seen = get(
+        *service, "/tppkg/np/TEST00001/TEST00001_T1/UP0001-TEST00001_00-VARNHOLDSAMPLE00-A0101-V0100.pkg");
+    EXPECT_EQ(seen.body.size(), 400'000);
+    EXPECT_GE(clock.elapsed(), 190);
+    service->with([](host::SampleService& running) { running.setRate(0); });
+}
+
+TEST_F(SampleService, OutlivesBadRequests)
+{
+    const struct
+    {
+        QByteArray sent;
+        int status;
+    } cases[] = {
+        {"\r\n\r\n", 400},
+        {"GET\r\n\r\n", 400},
+        {"GET /\r\n\r\n", 400},
+        {"GET nowhere HTTP/1.0\r\n\r\n", 400},
+        {"GET http://elsewhere/ HTTP/1.1\r\n\r\n", 400},
+        {QByteArray("GET /\0x HTTP/1.0\r\n\r\n", 21), 400},
+        {QByteArray("\0\0\0\0\r\n\r\n", 8), 400},
+        {QByteArray(100'000, 'x'), 400},
+        {"POST / HTTP/1.0\r\n\r\n", 405},
+        {"GET /../../etc/passwd HTTP/1.0\r\n\r\n", 404},
+        {"GET /odd/ HTTP/1.0\r\n\r\n", 404},
+        {"GET /odd/huge-document:99999999999999999999/x HTTP/1.0\r\n\r\n", 404},
+        {"GET /odd/pieces:0/ HTTP/1.0\r\n\r\n", 404},
+        {"GET /odd/redirect-port HTTP/1.0\r\n\r\n", 302},
+        {"GET /odd/many-packages:5/ HTTP/1.0\r\n\r\n", 200},
+        {"GET /%00\xff\xfe HTTP/1.0\r\n\r\n", 404},
+        {"HEAD /Varnhold/txt/version.txt HTTP/1.0\r\n\r\n", 200},
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(send(*service, row.sent).status(), row.status) << row.sent.left(60).constData();
+    {
+        QTcpSocket leaving;
+        leaving.connectToHost(u"127.0.0.1"_s, service->httpPort());
+        leaving.write("GET /odd/endless-headers/ HTTP/1.0\r\n\r\n");
+        ASSERT_TRUE(leaving.waitForReadyRead(patience));
+        leaving.abort();
+    }
+    EXPECT_EQ(get(*service, "/Varnhold/txt/version.txt").status(), 200);
+}
+
+TEST_F(SampleService, ShowsGoodAndBadCertificates)
+{
+    const QList<QSslCertificate> authority = QSslCertificate::fromPath(service->caFile());
+    ASSERT_EQ(authority.size(), 1);
+    const struct
+    {
+        QStringView word;
+        QSslError::SslError error;
+    } cases[] = {
+        {u"wrong-host", QSslError::HostNameMismatch},
+        {u"expired", QSslError::CertificateExpired},
+        {u"self-signed", QSslError::SelfSignedCertificate},
+        {u"good", QSslError::NoError},
+    };
+    for (const auto& row : cases) {
+        service->with([&](host::SampleService& running) {
+            running.setCertificateFault(host::parseCertificateFault(row.word).value());
+        });
+        for (const QString& host : {u"127.0.0.1"_s, u"localhost"_s}) {
+            QSslSocket socket;
+            QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+            configuration.setCaCertificates(authority);
+            socket.setSslConfiguration(configuration);
+            socket.setPeerVerifyMode(QSslSocket::QueryPeer);
+            socket.connectToHostEncrypted(host, service->httpsAuthority().section(u':', 1).toUShort());
+            ASSERT_TRUE(socket.waitForEncrypted(patience)) << socket.errorString().toStdString();
+            const QList<QSslError> errors = socket.sslHandshakeErrors();
+            EXPECT_EQ(errors.isEmpty() ? QSslError::NoError : errors.first().error(), row.error)
+                << row.word.toString().toStdString();
+            EXPECT_EQ(exchange(socket, "GET /tpl/np/BCUS10001/BCUS10001-ver.xml HTTP/1.0\r\n\r\n").status(),
+                      200);
+        }
+    }
 }
 
 } // namespace
