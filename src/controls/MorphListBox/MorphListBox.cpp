@@ -1,0 +1,530 @@
+#include "controls/MorphListBox/MorphListBox.h"
+
+#include "controls/MorphListBox/MorphListKeys.h"
+
+#include <QElapsedTimer>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyle>
+
+namespace varnhold {
+
+namespace {
+
+int shiftOf(Qt::KeyboardModifiers modifiers)
+{
+    return (modifiers.testFlag(Qt::ShiftModifier) ? shiftstate::shift : 0) |
+           (modifiers.testFlag(Qt::ControlModifier) ? shiftstate::ctrl : 0) |
+           (modifiers.testFlag(Qt::AltModifier) ? shiftstate::alt : 0);
+}
+
+int buttonOf(Qt::MouseButtons buttons)
+{
+    return (buttons.testFlag(Qt::LeftButton) ? mousebutton::left : 0) |
+           (buttons.testFlag(Qt::RightButton) ? mousebutton::right : 0) |
+           (buttons.testFlag(Qt::MiddleButton) ? mousebutton::middle : 0);
+}
+
+qint64 now()
+{
+    QElapsedTimer clock;
+    clock.start();
+    return clock.msecsSinceReference();
+}
+
+} // namespace
+
+MorphListBox::MorphListBox(QWidget* parent) : QWidget(parent), m_model(std::make_unique<MorphListModel>())
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    measure();
+}
+
+MorphListBox::~MorphListBox() = default;
+
+void MorphListBox::AddItem(QString text, std::optional<int> index)
+{
+    m_model->AddItem(std::move(text), index);
+    repaintDirty();
+}
+
+void MorphListBox::RemoveItem(int index)
+{
+    m_model->RemoveItem(index);
+    repaintDirty();
+}
+
+void MorphListBox::Clear()
+{
+    m_model->Clear();
+    repaintDirty();
+}
+
+void MorphListBox::ClearOrSelect()
+{
+    m_model->ClearOrSelect();
+    repaintDirty();
+}
+
+void MorphListBox::AddImage(const QPixmap& picture)
+{
+    if (!Enabled())
+        return;
+    m_look.images.append(picture);
+    lookChanged();
+}
+
+void MorphListBox::Sort(bool descending)
+{
+    m_model->Sort(descending);
+    repaintDirty();
+}
+
+void MorphListBox::ReverseStringArray()
+{
+    m_model->ReverseStringArray();
+    repaintDirty();
+}
+
+int MorphListBox::FindIndex(const QString& text, bool matchCase) const
+{
+    return m_model->FindIndex(text, matchCase);
+}
+
+void MorphListBox::DisplayFrom(int index)
+{
+    m_model->DisplayFrom(index);
+    repaintDirty();
+}
+
+int MorphListBox::MouseOverIndex(int y) const
+{
+    return m_model->MouseOverIndex(y);
+}
+
+void MorphListBox::Refresh()
+{
+    lookChanged();
+}
+
+QString MorphListBox::List(int index) const
+{
+    return m_model->text(index);
+}
+
+void MorphListBox::setList(int index, const QString& text)
+{
+    m_model->setText(index, text);
+    repaintDirty();
+}
+
+qint32 MorphListBox::ItemData(int index) const
+{
+    return m_model->itemData(index);
+}
+
+void MorphListBox::setItemData(int index, qint32 value)
+{
+    m_model->setItemData(index, value);
+}
+
+bool MorphListBox::Selected(int index) const
+{
+    return m_model->selected(index);
+}
+
+void MorphListBox::setSelected(int index, bool selected)
+{
+    m_model->setSelected(index, selected);
+    repaintDirty();
+}
+
+int MorphListBox::ImageIndex(int index) const
+{
+    return m_model->imageIndex(index);
+}
+
+void MorphListBox::setImageIndex(int index, int image)
+{
+    m_model->setImageIndex(index, image);
+    repaintDirty();
+}
+
+void MorphListBox::setTheme(int theme)
+{
+    m_theme = theme;
+    if (!applyMorphTheme(theme, m_look.design))
+        return;
+    m_look.CheckStyle = 1;
+    m_look.ShowSelectRect = true;
+    m_model->setMultiSelect(SelectMode::Single);
+    m_model->setCheckList(false);
+    lookChanged();
+}
+
+int MorphListBox::Style() const
+{
+    return int(m_model->checkList());
+}
+
+void MorphListBox::setStyle(int style)
+{
+    m_model->setCheckList(style == 1);
+    lookChanged();
+}
+
+void MorphListBox::setCheckStyle(int style)
+{
+    m_look.CheckStyle = style;
+    lookChanged();
+}
+
+int MorphListBox::MultiSelect() const
+{
+    return int(m_model->multiSelect());
+}
+
+void MorphListBox::setMultiSelect(int mode)
+{
+    m_model->setMultiSelect(SelectMode(qBound(0, mode, 2)));
+    repaintDirty();
+}
+
+bool MorphListBox::Sorted() const
+{
+    return m_model->sorted();
+}
+
+void MorphListBox::setSorted(bool sorted)
+{
+    m_model->setSorted(sorted);
+}
+
+bool MorphListBox::SortAsNumeric() const
+{
+    return m_model->sortAsNumeric();
+}
+
+void MorphListBox::setSortAsNumeric(bool numeric)
+{
+    m_model->setSortAsNumeric(numeric);
+}
+
+void MorphListBox::setShowItemImages(bool show)
+{
+    m_look.ShowItemImages = show;
+    lookChanged();
+}
+
+void MorphListBox::setItemImageSize(int size)
+{
+    m_look.ItemImageSize = qBound(0, size, 1000);
+    lookChanged();
+}
+
+void MorphListBox::setShowSelectRect(bool show)
+{
+    m_look.ShowSelectRect = show;
+    lookChanged();
+}
+
+int MorphListBox::DblClickBehavior() const
+{
+    return m_model->dblClickBehavior;
+}
+
+void MorphListBox::setDblClickBehavior(int behavior)
+{
+    m_model->dblClickBehavior = behavior;
+}
+
+bool MorphListBox::DragEnabled() const
+{
+    return m_model->dragEnabled;
+}
+
+void MorphListBox::setDragEnabled(bool enabled)
+{
+    m_model->dragEnabled = enabled;
+}
+
+bool MorphListBox::Enabled() const
+{
+    return m_model->enabled();
+}
+
+void MorphListBox::setEnabled(bool enabled)
+{
+    QWidget::setEnabled(enabled);
+    m_model->setEnabled(enabled);
+    lookChanged();
+}
+
+void MorphListBox::setRedrawFlag(bool redraw)
+{
+    m_redraw = redraw;
+    if (redraw)
+        lookChanged();
+}
+
+void MorphListBox::setRightToLeft(bool rightToLeft)
+{
+    m_look.RightToLeft = rightToLeft;
+    lookChanged();
+}
+
+int MorphListBox::NewIndex() const
+{
+    return m_model->newIndex();
+}
+
+void MorphListBox::setNewIndex(int index)
+{
+    m_model->setNewIndex(index);
+}
+
+int MorphListBox::TopIndex() const
+{
+    return m_model->topIndex();
+}
+
+void MorphListBox::setTopIndex(int index)
+{
+    m_model->setTopIndex(index);
+    repaintDirty();
+}
+
+int MorphListBox::ListIndex() const
+{
+    return m_model->listIndex();
+}
+
+void MorphListBox::setListIndex(int index)
+{
+    m_model->setListIndex(index);
+    repaintDirty();
+}
+
+int MorphListBox::ListCount() const
+{
+    return m_model->count();
+}
+
+int MorphListBox::SelCount() const
+{
+    return m_model->selectedCount();
+}
+
+QString MorphListBox::Text() const
+{
+    return m_model->text(m_model->listIndex());
+}
+
+void MorphListBox::setPicture(const QPixmap& picture)
+{
+    m_look.Picture = picture;
+    lookChanged();
+}
+
+void MorphListBox::setPictureMode(int mode)
+{
+    m_look.PictureMode = mode;
+    lookChanged();
+}
+
+void MorphListBox::setDisPicture(const QPixmap& picture)
+{
+    m_look.DisPicture = picture;
+    lookChanged();
+}
+
+void MorphListBox::setDisPictureMode(int mode)
+{
+    m_look.DisPictureMode = mode;
+    lookChanged();
+}
+
+QSize MorphListBox::sizeHint() const
+{
+    return {120, 160};
+}
+
+QSize MorphListBox::minimumSizeHint() const
+{
+    return {0, 0};
+}
+
+void MorphListBox::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    m_painter.paint(painter, rect(), event->region(), *m_model, m_look);
+}
+
+void MorphListBox::resizeEvent(QResizeEvent*)
+{
+    lookChanged();
+    Q_EMIT Resize();
+}
+
+void MorphListBox::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        m_model->setEnabled(!testAttribute(Qt::WA_ForceDisabled));
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FontChange ||
+        event->type() == QEvent::StyleChange)
+        lookChanged();
+}
+
+void MorphListBox::mousePressEvent(QMouseEvent* event)
+{
+    deliver(m_model->press(buttonOf(event->button()), shiftOf(event->modifiers()), event->position().toPoint(),
+                         now()));
+}
+
+void MorphListBox::mouseMoveEvent(QMouseEvent* event)
+{
+    deliver(
+        m_model->move(buttonOf(event->buttons()), shiftOf(event->modifiers()), event->position().toPoint()));
+}
+
+void MorphListBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPoint position = event->position().toPoint();
+    deliver(m_model->release(buttonOf(event->button()), shiftOf(event->modifiers()), position,
+                           rect().contains(position)));
+}
+
+void MorphListBox::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    deliver(m_model->doubleClick(buttonOf(event->button()), shiftOf(event->modifiers()),
+                               event->position().toPoint(), now()));
+}
+
+void MorphListBox::wheelEvent(QWheelEvent* event)
+{
+    m_model->wheel(event->angleDelta().y());
+    deliver({});
+}
+
+void MorphListBox::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<MorphListBox> alive(this);
+    deliver(m_model->keyDown(keyCodeOf(event->key()), shiftOf(event->modifiers())));
+    if (alive && !event->text().isEmpty() && Enabled())
+        Q_EMIT KeyPress(event->text().at(0).unicode());
+}
+
+void MorphListBox::keyReleaseEvent(QKeyEvent* event)
+{
+    deliver(m_model->keyUp(keyCodeOf(event->key()), shiftOf(event->modifiers())));
+}
+
+void MorphListBox::focusInEvent(QFocusEvent*)
+{
+    m_model->focusIn();
+    deliver({});
+}
+
+void MorphListBox::focusOutEvent(QFocusEvent*)
+{
+    deliver(m_model->focusOut());
+}
+
+void MorphListBox::leaveEvent(QEvent*)
+{
+    deliver(m_model->leave());
+}
+
+void MorphListBox::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_beat.timerId())
+        deliver(m_model->beat(now()));
+    else
+        QWidget::timerEvent(event);
+}
+
+void MorphListBox::lookChanged()
+{
+    measure();
+    if (!m_redraw)
+        return;
+    m_painter.forgetBackground();
+    update();
+}
+
+void MorphListBox::measure()
+{
+    m_look.font = font();
+    MorphListMeasure measured;
+    measured.ScaleWidth = width();
+    measured.ScaleHeight = height();
+    measured.fontHeight = fontMetrics().height();
+    measured.BorderWidth = m_look.design.BorderWidth;
+    measured.ItemImageSize = m_look.ItemImageSize;
+    measured.ShowItemImages = m_look.ShowItemImages;
+    measured.RightToLeft = m_look.RightToLeft;
+    measured.scrollBarWidth = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    measured.thumbMinimum = style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, this);
+    m_model->setMeasure(measured);
+}
+
+void MorphListBox::repaintDirty()
+{
+    if (m_redraw && m_model->takeDirty().any())
+        update();
+}
+
+void MorphListBox::deliver(const MorphListEvents& events)
+{
+    repaintDirty();
+    if (m_model->repeating() && !m_beat.isActive())
+        m_beat.start(MorphListConstants::repeatPoll, this);
+    else if (!m_model->repeating())
+        m_beat.stop();
+
+    // A listener may end this list; nothing of it is touched after that.
+    const QPointer<MorphListBox> alive(this);
+    for (const MorphListEvent& event : events) {
+        if (!alive)
+            return;
+        const int x = event.position.x();
+        const int y = event.position.y();
+        switch (event.kind) {
+        case MorphListEvent::Kind::Click:
+            Q_EMIT Click();
+            break;
+        case MorphListEvent::Kind::DblClick:
+            Q_EMIT DblClick();
+            break;
+        case MorphListEvent::Kind::KeyDown:
+            Q_EMIT KeyDown(event.code, event.shift);
+            break;
+        case MorphListEvent::Kind::KeyUp:
+            Q_EMIT KeyUp(event.code, event.shift);
+            break;
+        case MorphListEvent::Kind::MouseDown:
+            Q_EMIT MouseDown(event.code, event.shift, x, y);
+            break;
+        case MorphListEvent::Kind::MouseMove:
+            Q_EMIT MouseMove(event.code, event.shift, x, y);
+            break;
+        case MorphListEvent::Kind::MouseUp:
+            Q_EMIT MouseUp(event.code, event.shift, x, y);
+            break;
+        case MorphListEvent::Kind::MouseEnter:
+            Q_EMIT MouseEnter();
+            break;
+        case MorphListEvent::Kind::MouseExit:
+            Q_EMIT MouseExit();
+            break;
+        }
+    }
+}
+
+} // namespace varnhold

@@ -1,0 +1,81 @@
+#include "controls/MorphListBox/MorphListDesign.h"
+
+namespace varnhold {
+
+namespace {
+
+constexpr quint32 buttonFace = 0x8000000F; // system colour index
+
+struct ThemedColor
+{
+    quint32 MorphListDesign::*field;
+    std::array<quint32, 10> byTheme;
+};
+
+// clang-format off
+constexpr std::array themedColors = {
+    ThemedColor{&MorphListDesign::ArrowDownColor,
+        {0xFFFFFF, 0x404000, 0x000000, 0x400000, 0x000040, 0x8080FF, 0x004000, 0x800080, 0x008080, 0x004080}},
+    ThemedColor{&MorphListDesign::ArrowUpColor,
+        {0x000000, 0xFFFF00, 0xE0E0E0, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFF00FF, 0x00FFFF, 0xC0E0FF}},
+    ThemedColor{&MorphListDesign::BackColor1,
+        {0xFFFFFF, 0x808000, 0x606060, 0xC00000, 0x000080, 0xB366FF, 0x008000, 0x800080, 0x008080, 0x004080}},
+    ThemedColor{&MorphListDesign::BackColor2,
+        {0xFFFFFF, 0xFFFF80, 0xE0E0E0, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFF80FF, 0x80FFFF, 0x80C0FF}},
+    ThemedColor{&MorphListDesign::BorderColor1,
+        {0x004000, 0x404000, 0x000000, 0x400000, 0x000040, 0xFFC0FF, 0x004000, 0x400040, 0x004040, 0x404080}},
+    ThemedColor{&MorphListDesign::BorderColor2,
+        {0x80FF80, 0xFFFF00, 0xE0E0E0, 0xFF8080, 0x8080FF, 0x8080FF, 0x80FF80, 0xFF80FF, 0x80FFFF, 0x80C0FF}},
+    ThemedColor{&MorphListDesign::ButtonColor1,
+        {buttonFace, 0x404000, 0x000000, 0x400000, 0x000040, 0x8000FF, 0x004000, 0x400040, 0x004040, 0x404080}},
+    ThemedColor{&MorphListDesign::ButtonColor2,
+        {buttonFace, 0x808000, 0xC0C0C0, 0xFF8080, 0x8080FF, 0xC0C0FF, 0x80FF80, 0x800080, 0x008080, 0x0080FF}},
+    ThemedColor{&MorphListDesign::CheckboxArrowColor,
+        {0x004000, 0x404000, 0x000000, 0x400000, 0x000040, 0x000040, 0x004000, 0x400040, 0x004040, 0x000000}},
+    ThemedColor{&MorphListDesign::CheckBoxColor,
+        {0x004000, 0x404000, 0x000000, 0x400000, 0x000040, 0x000040, 0x004000, 0x400040, 0x004040, 0x000000}},
+    ThemedColor{&MorphListDesign::FocusBorderColor1,
+        {0x004000, 0x404000, 0x000000, 0x400000, 0x000040, 0x8000FF, 0x004000, 0x400040, 0x004040, 0x404080}},
+    ThemedColor{&MorphListDesign::FocusBorderColor2,
+        {0x00C000, 0xC0C000, 0x808080, 0xFF0000, 0x0000FF, 0xC0C0FF, 0x00C000, 0xC000C0, 0x00C0C0, 0x0080FF}},
+    ThemedColor{&MorphListDesign::FocusRectColor,
+        {0xC0C0C0, 0xFFFFC0, 0xFFFFFF, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFFC0FF, 0xC0FFFF, 0xC0E0FF}},
+    ThemedColor{&MorphListDesign::SelColor1,
+        {0x000000, 0x808000, 0x404040, 0x800000, 0x000080, 0x8000FF, 0x008000, 0x800080, 0x008080, 0x004080}},
+    ThemedColor{&MorphListDesign::SelColor2,
+        {0x000000, 0x808000, 0x404040, 0x800000, 0x000080, 0xC0C0FF, 0x008000, 0x800080, 0x008080, 0x004080}},
+    ThemedColor{&MorphListDesign::HighlightColor,
+        {0xFFFFFF, 0xFFFFC0, 0xE0E0E0, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFFC0FF, 0xC0FFFF, 0xC0E0FF}},
+    ThemedColor{&MorphListDesign::ThumbBorderColor,
+        {0x000000, 0xFFFF00, 0xE0E0E0, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFF00FF, 0x00FFFF, 0x0080FF}},
+    ThemedColor{&MorphListDesign::ThumbColor1,
+        {0xC0C0C0, 0x404000, 0x000000, 0x400000, 0x000040, 0x8000FF, 0x004000, 0x400040, 0x004040, 0x404080}},
+    ThemedColor{&MorphListDesign::ThumbColor2,
+        {0xFFFFFF, 0x808000, 0x909090, 0xFF8080, 0x8080FF, 0x8080FF, 0x00FF00, 0x800080, 0x008080, 0x0040C0}},
+    ThemedColor{&MorphListDesign::TrackBarColor1,
+        {0xFFFFFF, 0x808000, 0x606060, 0x800000, 0x000080, 0xB366FF, 0x008000, 0x800080, 0x008080, 0x004080}},
+    ThemedColor{&MorphListDesign::TrackBarColor2,
+        {0xFFFFFF, 0xFFFFC0, 0xE0E0E0, 0xFFC0C0, 0xC0C0FF, 0xC0C0FF, 0xC0FFC0, 0xFFC0FF, 0xC0FFFF, 0xC0E0FF}},
+    ThemedColor{&MorphListDesign::TrackClickColor1,
+        {0xC0C0C0, 0x404000, 0x000000, 0x400000, 0x000040, 0x6262FF, 0x004000, 0x400040, 0x004040, 0x404080}},
+    ThemedColor{&MorphListDesign::TrackClickColor2,
+        {0xFFFFFF, 0xFFFF80, 0xE0E0E0, 0xFF8080, 0x8080FF, 0xC0C0FF, 0x80FF80, 0xFF80FF, 0x80FFFF, 0x80C0FF}},
+};
+// clang-format on
+
+} // namespace
+
+bool applyMorphTheme(int theme, MorphListDesign& design)
+{
+    if (theme < 0 || theme >= morphThemeByHand)
+        return false;
+    // A fresh design brings the defaults that no theme changes, the disabled colours among them.
+    design = MorphListDesign{};
+    for (const ThemedColor& color : themedColors)
+        design.*color.field = color.byTheme.at(size_t(theme));
+    design.ForeColor = 0;
+    design.BorderWidth = 0; // the default is 1, so the rows of a themed list begin a pixel higher
+    return true;
+}
+
+} // namespace varnhold
