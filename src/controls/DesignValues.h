@@ -19,10 +19,11 @@ inline constexpr int picture = 8;
 inline constexpr int media = 9;
 } // namespace progresslook
 
-/// Which look each window's bar has.
-inline constexpr int frmMain_ProgressBar1_Scrolling = progresslook::pastel;
-inline constexpr int frmSearch_PB_Scrolling = progresslook::pastel;
-inline constexpr int frm_Winsock_PB_Scrolling = progresslook::pastel;
+/// Which look each window's bar has. All take their colour from the skin, so it must be one whose bar stands
+/// out from its track in light and in dark colours: only the media look does.
+inline constexpr int frmMain_ProgressBar1_Scrolling = progresslook::media;
+inline constexpr int frmSearch_PB_Scrolling = progresslook::media;
+inline constexpr int frm_Winsock_PB_Scrolling = progresslook::media;
 
 /// ucSlider1(0) to (4) of frmSettings: window opacity.
 inline constexpr int ucSlider1_Min = 0;

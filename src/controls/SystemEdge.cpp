@@ -18,6 +18,11 @@ ColorValue mixed(ColorValue color, int other, int percent)
     return colorOf(channel(redOf(color)), channel(greenOf(color)), channel(blueOf(color)));
 }
 
+bool isDark(ColorValue color)
+{
+    return 2 * redOf(color) + 5 * greenOf(color) + blueOf(color) < 8 * 96;
+}
+
 Shades shadesOf(ColorValue face)
 {
     const ColorValue resolved = GetLngColor(face);
@@ -25,7 +30,9 @@ Shades shadesOf(ColorValue face)
         return {GetLngColor(systemcolors::buttonHighlight), GetLngColor(systemcolors::light),
                 GetLngColor(systemcolors::buttonShadow), GetLngColor(systemcolors::darkShadow)};
     }
-    return {mixed(resolved, 255, 40), resolved, mixed(resolved, 0, 40), mixed(resolved, 0, 70)};
+    // On a dark face a shade darker cannot be told from it, so the light sides carry the shape.
+    const ColorValue light = isDark(resolved) ? mixed(resolved, 255, 18) : resolved;
+    return {mixed(resolved, 255, 40), light, mixed(resolved, 0, 40), mixed(resolved, 0, 70)};
 }
 
 } // namespace
@@ -49,7 +56,8 @@ SystemEdge systemEdge(EdgeKind kind, ColorValue face)
     case EdgeKind::flat:
         break;
     }
-    return {{shades.shadow, shades.shadow}, {shades.light, shades.light}, 1};
+    const ColorValue line = isDark(GetLngColor(face)) ? shades.highlight : shades.shadow;
+    return {{line, line}, {line, line}, 1};
 }
 
 } // namespace varnhold

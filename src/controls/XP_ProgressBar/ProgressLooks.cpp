@@ -115,11 +115,10 @@ void Looks::DrawProgressBar()
     }
     constexpr int top = 4;
     const int bottom = m_breadth - top;
-    const int right = qMin(m_end, m_length - 3);
     const int band = qMin(3, (bottom - top) / 2);
-    shade(shifted(150), m_state.color, {m_start, top, right, top + band});
-    fill({m_start, top + band, right, bottom - band}, m_state.color);
-    shade(m_state.color, shifted(150), {m_start, bottom - band, right, bottom});
+    shade(shifted(150), m_state.color, {m_start, top, m_end, top + band});
+    fill({m_start, top + band, m_end, bottom - band}, m_state.color);
+    shade(m_state.color, shifted(150), {m_start, bottom - band, m_end, bottom});
 }
 
 void Looks::DrawSearchBlocks()
@@ -148,7 +147,7 @@ void Looks::DrawPastelProgressbar()
 void Looks::DrawJavTProgressbar()
 {
     m_surface.drawEdge(m_metrics.client(), EdgeKind::etched);
-    shade(shifted(140), shifted(200), {m_start, 2, m_end, 2 + m_breadth - 3});
+    shade(shifted(140), shifted(200), {m_start, 2, m_end, m_breadth - 3});
 }
 
 void Looks::DrawOfficeXPProgressbar()
@@ -163,7 +162,7 @@ void Looks::DrawMetalProgressbar()
 {
     fill(whole(), darkened(200));
     const ColorValue dark = darkened(100);
-    shade(ShiftColorXP(dark, 10), dark, {m_start, 2, m_end, 2 + m_breadth - 2});
+    shade(ShiftColorXP(dark, 10), dark, {m_start, 2, m_end, m_breadth - 2});
 }
 
 void Looks::DrawCustomBrushProgressbar()

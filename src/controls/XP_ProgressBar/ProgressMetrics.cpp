@@ -67,9 +67,12 @@ void ProgressMetrics::CalcBarSize(const ProgressState& state)
 {
     m_blockWidth = blockWidthOf(state.scrolling);
     m_start = blockInset;
-    // Meant: the bar is full at 98 already, and the looks clip what lies past the end.
+    // Meant: the bar is full at 98 already. What goes past the track is cut off before the last whole
+    // block is counted; only the blocks of the searching look run out of the track.
     const double filled = m_percent / 98.0;
     m_end = m_start + static_cast<int>((m_length - m_start) * filled);
+    if (state.scrolling != look::searching)
+        m_end = qMin(m_end, m_length - blockInset);
     m_end -= (m_end - m_start) % (m_blockWidth + blockSpace);
     m_end = qMax(m_end, m_start);
 }

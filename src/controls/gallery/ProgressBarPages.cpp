@@ -19,7 +19,7 @@ constexpr std::array<const char16_t*, 10> lookNames = {
 };
 
 constexpr ColorValue blue = 0x00D07A1E;
-constexpr ColorValue green = 0x003CA02D;
+constexpr std::array<ColorValue, 4> windowColors = {0x00503A28, 0x00E4EEF4, 0x001C2A3C, 0x00FF3333};
 
 QPixmap weave()
 {
@@ -90,11 +90,25 @@ QWidget* details()
         made->setBrushStyle(style);
         sheet->add(made, QString::number(style));
     }
-    sheet->heading(u"Heights of 6 to 32, looks of the program's windows"_s);
-    for (const int height : {6, 9, 12, 15, 24, 32}) {
-        XP_ProgressBar* made = bar(design::frmMain_ProgressBar1_Scrolling, 60, {104, height});
-        made->setColor(green);
-        sheet->add(made, QString::number(height));
+    sheet->heading(u"Heights of 6 to 32"_s);
+    for (const int look : {design::progresslook::segmented, design::progresslook::pastel,
+                           design::progresslook::office, design::progresslook::media}) {
+        sheet->newRow();
+        for (const int height : {6, 9, 12, 15, 24, 32})
+            sheet->add(bar(look, 60, {104, height}), QString::number(height));
+    }
+    sheet->heading(u"Bars of the program's windows in light and dark colours"_s);
+    for (const ColorValue color : windowColors) {
+        XP_ProgressBar* made = bar(design::frmMain_ProgressBar1_Scrolling, 60, {96, 12});
+        made->setColor(color);
+        sheet->add(made, u"frmMain"_s);
+        made = bar(design::frm_Winsock_PB_Scrolling, 60, {200, 14});
+        made->setColor(color);
+        sheet->add(made, u"frm_Winsock"_s);
+        made = bar(design::frmSearch_PB_Scrolling, 60, {200, 14});
+        made->setColor(color);
+        sheet->add(made, u"frmSearch"_s);
+        sheet->newRow();
     }
     sheet->heading(u"The searching look on its way, no picture in look 8"_s);
     for (const int percent : {5, 30, 70, 95})

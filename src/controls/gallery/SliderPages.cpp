@@ -2,6 +2,8 @@
 #include "controls/gallery/GallerySheet.h"
 #include "controls/ucSlider/ucSlider.h"
 
+#include <QCoreApplication>
+#include <QFocusEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -64,6 +66,11 @@ void addAll(GallerySheet* sheet, ColorValue back)
         pictured->setRailPicture(railPicture(orientation == 0 ? QSize(150, 8) : QSize(8, 110)));
         pictured->setSliderIcon(knobPicture());
         sheet->add(pictured, u"99 picture, icon"_s);
+        ucSlider* focused = slider(orientation, 5);
+        focused->setBackColor(back);
+        QFocusEvent reached(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(focused, &reached);
+        sheet->add(focused, u"keyboard"_s);
         ucSlider* disabled = slider(orientation, 5);
         disabled->setBackColor(back);
         disabled->setEnabled(false);

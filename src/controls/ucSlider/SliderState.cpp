@@ -2,13 +2,14 @@
 
 #include "platform/RunTimeError.h"
 
-#include <QRect>
-
 namespace varnhold {
 
 namespace {
 
-// round(a x b / c) for c above 0, wide enough for any three ints.
+constexpr int longest = 1 << 24;
+constexpr int pagesInRange = 10;
+
+// round(a x b / c) for a up to `longest`, b up to the widest range of values, and c above 0.
 int scaled(qint64 a, qint64 b, qint64 c)
 {
     return static_cast<int>((2 * a * b + c) / (2 * c));
@@ -46,9 +47,17 @@ void SliderState::setVertical(bool vertical)
 
 void SliderState::setSizes(QSize control, QSize knob)
 {
-    m_control = control.expandedTo({0, 0});
-    m_knob = knob.expandedTo({0, 0});
+    const auto limited = [](QSize size) { return size.expandedTo({0, 0}).boundedTo({longest, longest}); };
+    m_control = limited(control);
+    m_knob = limited(knob);
     placeKnob();
+}
+
+QRect SliderState::knobRect() const
+{
+    const QPoint corner = m_vertical ? QPoint((m_control.width() - m_knob.width()) / 2, m_position)
+                                     : QPoint(m_position, (m_control.height() - m_knob.height()) / 2);
+    return {corner, m_knob};
 }
 
 int SliderState::travel() const
@@ -74,7 +83,7 @@ int SliderState::valueAt(int position) const
 bool SliderState::press(QPoint at)
 {
     m_dragging = true;
-    if (onKnob(at)) {
+    if (knobRect().contains(at)) {
         m_offset = along(at) - m_position;
         return false;
     }
@@ -93,21 +102,15 @@ bool SliderState::drag(QPoint to)
 
 int SliderState::pageStep() const
 {
-    return static_cast<int>(qMax(qint64{1}, (qint64{m_max} - m_min) / 10));
+    return static_cast<int>(qMax(qint64{1}, (qint64{m_max} - m_min) / pagesInRange));
 }
 
-int SliderState::stepped(int units) const
+int SliderState::stepped(qint64 units) const
 {
     if (m_max <= m_min)
         return m_value;
-    return static_cast<int>(qBound(qint64{m_min}, qint64{m_value} + units, qint64{m_max}));
-}
-
-bool SliderState::onKnob(QPoint at) const
-{
-    const QPoint corner = m_vertical ? QPoint((m_control.width() - m_knob.width()) / 2, m_position)
-                                     : QPoint(m_position, (m_control.height() - m_knob.height()) / 2);
-    return QRect(corner, m_knob).contains(at);
+    const qint64 limited = qBound(qint64{m_min} - m_max, units, qint64{m_max} - m_min);
+    return static_cast<int>(qBound(qint64{m_min}, m_value + limited, qint64{m_max}));
 }
 
 void SliderState::limitValue()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 
 namespace varnhold {
@@ -26,13 +27,15 @@ public:
     [[nodiscard]] bool vertical() const { return m_vertical; }
     void setVertical(bool vertical);
 
-    /// Sizes of the control and of its knob; the knob is placed anew. Negative sizes count as 0.
+    /// Sizes of the control and of its knob; the knob is placed anew. Limited to 0 to 16 million pixels.
     void setSizes(QSize control, QSize knob);
     [[nodiscard]] QSize controlSize() const { return m_control; }
     [[nodiscard]] QSize knobSize() const { return m_knob; }
 
     /// The knob's left, or top when vertical.
     [[nodiscard]] int knobPosition() const { return m_position; }
+    /// The knob at its position, centred across the control.
+    [[nodiscard]] QRect knobRect() const;
     /// Longest way of the knob: rail length less knob length, never below 0.
     [[nodiscard]] int travel() const;
     /// (rail length - knob length) x (value - Min) / (Max - Min), rounded; 0 when Max is not above Min.
@@ -52,12 +55,11 @@ public:
     /// One page, as keys and wheel step it: a tenth of the range, at least 1.
     [[nodiscard]] int pageStep() const;
     /// The value that many units on, limited to Min and Max.
-    [[nodiscard]] int stepped(int units) const;
+    [[nodiscard]] int stepped(qint64 units) const;
 
 private:
     [[nodiscard]] int along(QSize size) const { return m_vertical ? size.height() : size.width(); }
     [[nodiscard]] int along(QPoint point) const { return m_vertical ? point.y() : point.x(); }
-    [[nodiscard]] bool onKnob(QPoint at) const;
     void limitValue();
     void placeKnob() { m_position = positionOf(m_value); }
 

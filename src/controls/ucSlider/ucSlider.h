@@ -34,7 +34,7 @@ public:
     /// The pointer over the control when MousePointer is 99.
     [[nodiscard]] QPixmap mouseIcon() const { return m_mouseIcon; }
     void setMouseIcon(const QPixmap& icon);
-    /// 0 is the default pointer; the other numbers are listed with their shapes in the source.
+    /// See applyMousePointer(); 0 is the default pointer.
     [[nodiscard]] int mousePointer() const { return m_mousePointer; }
     void setMousePointer(int pointer);
 
@@ -47,7 +47,8 @@ public:
     [[nodiscard]] int orientation() const { return m_state.vertical() ? 1 : 0; }
     void setOrientation(int orientation);
 
-    /// 0 to 4: raised, sunken, etched, bump, flat edge. 99: the rail is RailPicture.
+    /// 0 to 4: a sunken, raised, etched, bump or flat edge. 99: the rail is RailPicture. Any other number
+    /// is drawn as 0.
     [[nodiscard]] int railStyle() const { return m_railStyle; }
     void setRailStyle(int style);
     [[nodiscard]] QPixmap railPicture() const { return m_railPicture; }
@@ -68,6 +69,11 @@ public:
     /// range is left without effect.
     void tryValue(int value);
 
+    /// A step by the user, also of keys, wheel and assistive tools: limited to Min and Max, and raises
+    /// Change if it moves.
+    void step(qint64 units);
+
+    /// The control itself takes the size that SliderMetrics tells; windows place it and give the long side.
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -82,9 +88,20 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
+    [[nodiscard]] QSize knobSize() const;
+    [[nodiscard]] QSize railSize() const;
     void layOut();
+    void tellValue();
+    void showTip();
+    void endDrag();
 
     SliderState m_state;
     QPixmap m_sliderIcon;
@@ -94,6 +111,10 @@ private:
     int m_railStyle = 0;
     int m_mousePointer = 0;
     bool m_showValueTip = true;
+    bool m_keyboardFocus = false; ///< has the focus by keyboard, so that it is shown
+    int m_wheel = 0;              ///< turn of the wheel that is not yet a whole notch
+    QSize m_askedSize;            ///< as last set from outside
+    QSize m_ownSize;              ///< what the control made of it
 };
 
 } // namespace varnhold
