@@ -15,7 +15,7 @@ public:
     bool pump() override { return step(); }
     bool pumpNext() override { return step(); }
 
-    void at(int count, std::function<void()> action) { m_actions[count] = std::move(action); }
+    void at(int nth, std::function<void()> action) { m_actions[nth] = std::move(action); }
 
     int count = 0;
     bool ending = false;

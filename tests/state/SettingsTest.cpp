@@ -1,0 +1,178 @@
+#include "state/Settings.h"
+
+#include "platform/RunTimeError.h"
+#include "state/ApplicationState.h"
+#include "state/SettingsFile.h"
+#include "support/PrintText.h"
+#include "support/TempRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <QLocale>
+
+#include <functional>
+
+namespace varnhold {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SettingsTest : public testing::Test
+{
+protected:
+    test::TempRoot root;
+    ApplicationState state;
+    SettingsFile file{root.paths(), state};
+    Settings settings{file};
+};
+
+TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // files do not follow it
+    const struct
+    {
+        std::function<void(Settings&)> change;
+        QByteArray lines;
+        bool told = true; ///< raises changed()
+    } cases[] = {
+        {[](Settings& s) { s.setServer(4); }, "Server=4\r\n"},
+        {[](Settings& s) { s.setDownloadMax(5); }, "DL Max=5\r\n"},
+        {[](Settings& s) { s.setChecked(Check::Exit, true); }, "Exit=1\r\n"},
+        {[](Settings& s) { s.setChecked(Check::CGNFolder, false); }, "Create GNFolder=0\r\n"},
+        {[](Settings& s) { s.setChecked(Check::ListText6, true); }, "ListText6=1\r\n"},
+        {[](Settings& s) {
+             s.unwrittenValues().unwantedStrings = u" a,\r\nb "_s;
+             s.setChecked(Check::RemoveUnw, true);
+         },
+         "Remove Unwanted=1\r\nUnwanted Strings=a,b\r\n"},
+        {[](Settings& s) { s.setUnwantedStrings(u"  a, b  "_s); }, "Unwanted Strings=a, b\r\n"},
+        {[](Settings& s) { s.setUnwantedStrings(QString(1600, u'x')); },
+         "Unwanted Strings=" + QByteArray(1600, 'x') + "\r\n"},
+        {[](Settings& s) { s.chooseCertOption(1); }, "Opt0 Cert=False\r\nOpt1 Cert=True\r\n"},
+        {[](Settings& s) { s.chooseAutoSsl(0); }, "Auto SSL 0=1\r\nAuto SSL 1=0\r\n"},
+        {[](Settings& s) { s.setOpacity(OpacityOf::Main, 10); }, "Main Opacity=10\r\n"},
+        {[](Settings& s) { s.setOpacity(OpacityOf::Download, 0); }, "DL Opacity=0\r\n"},
+        {[](Settings& s) { s.setOrder(Order::AscDesc, 2); }, "Asc Desc=2\r\n"},
+        {[](Settings& s) { s.setOrder(Order::SearchTable, 1); }, "Search Table=1\r\n"},
+        {[](Settings& s) { s.setOrder(Order::DBTable, 1); }, "DB Table=1\r\n"},
+        {[](Settings& s) { s.setSaveDir(u"/games/my updates"_s); },
+         "SaveDir Name=my updates\r\nSaveDir Path=/games/my updates\r\n"},
+        {[](Settings& s) {
+             s.setSound(2, {u"o.wav"_s, u"/o.wav"_s});
+         },
+         "Open Sound File=o.wav\r\nOpen Sound Path=/o.wav\r\n"},
+        {[](Settings& s) {
+             s.setIdList({u"g.mdb"_s, u"/g.mdb"_s});
+         },
+         "IDList File=g.mdb\r\nIDList Path=/g.mdb\r\n"},
+        {[](Settings& s) {
+             s.setListUrl({u"n"_s, u"u"_s});
+         },
+         "GameID Name=n\r\nGameID Url=u\r\n"},
+        {[](Settings& s) {
+             s.setCovers({u"c"_s, u"/c"_s});
+         },
+         "Cover Name=c\r\nCover Path=/c\r\n"},
+        {[](Settings& s) { s.writePosition(-15, 1234567.5); }, "Varnhold X=-15\r\nVarnhold Y=1234567.5\r\n",
+         false},
+        {[](Settings& s) { s.writeBarMain(3285); }, "Mainbar Top=3285\r\n", false},
+        {[](Settings& s) { s.writeBarLeft(540.5); }, "LeftBar Top=540.5\r\n", false},
+        {[](Settings& s) { s.writeLayout(2); }, "Miximize=2\r\n", false},
+    };
+    for (const auto& c : cases) {
+        SettingsValues fresh;
+        fresh.orders = {1, 2, 2};
+        settings.unwrittenValues() = fresh;
+        int told = 0;
+        const auto connection = QObject::connect(&settings, &Settings::changed, &settings, [&] { ++told; });
+        const QByteArray before = "; mine\r\n[Settings]\r\nother=1\r\n";
+        root.write(u"Settings.ini"_s, before);
+        c.change(settings);
+        EXPECT_EQ(root.read(u"Settings.ini"_s), before + c.lines);
+        EXPECT_EQ(told > 0, c.told) << c.lines.constData();
+        QObject::disconnect(connection);
+    }
+    QLocale::setDefault(QLocale::system());
+}
+
+TEST_F(SettingsTest, AnUnchangedControlWritesNothing)
+{
+    const QByteArray before = "[Settings]\r\n";
+    root.write(u"Settings.ini"_s, before);
+    settings.setServer(settings.server());
+    settings.setDownloadMax(settings.downloadMax());
+    settings.setOpacity(OpacityOf::Main, settings.opacity(OpacityOf::Main));
+    settings.setOrder(Order::DBTable, settings.order(Order::DBTable));
+    settings.setUnwantedStrings(settings.unwantedStrings());
+    EXPECT_EQ(root.read(u"Settings.ini"_s), before);
+}
+
+TEST_F(SettingsTest, WhatAControlRefusesIsNeitherHeldNorWritten)
+{
+    const QByteArray before = "[Settings]\r\n";
+    root.write(u"Settings.ini"_s, before);
+    const std::function<void()> refused[] = {
+        [&] { settings.setServer(0); },
+        [&] { settings.setServer(7); },
+        [&] { settings.setDownloadMax(6); },
+        [&] { settings.setOpacity(OpacityOf::Main, 256); },
+        [&] { settings.setOrder(Order::AscDesc, 3); },
+    };
+    for (const auto& change : refused) {
+        try {
+            change();
+            ADD_FAILURE();
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.number(), errors::invalidPropertyValue);
+        }
+    }
+    EXPECT_EQ(settings.server(), 1);
+    EXPECT_EQ(root.read(u"Settings.ini"_s), before);
+}
+
+TEST_F(SettingsTest, TheSettingLivesOnWhenItsFileCannotBeWritten)
+{
+    root.makeFolder(u"Settings.ini"_s);
+    settings.setServer(3);
+    EXPECT_EQ(settings.server(), 3);
+}
+
+TEST_F(SettingsTest, TextsAreHeldAsTheyStandAndCutOnlyByReading)
+{
+    settings.setUnwantedStrings(u"  a  "_s);
+    EXPECT_EQ(settings.unwantedStrings(), u"  a  "_s);
+    settings.setUnwantedStrings(u"a,\r\nb"_s);
+    EXPECT_EQ(root.read(u"Settings.ini"_s), "[Settings]\r\nUnwanted Strings=a,\r\nb\r\n")
+        << "a line end goes out as it was typed";
+}
+
+TEST_F(SettingsTest, OneOptionClearsTheOther)
+{
+    settings.chooseCertOption(0);
+    settings.chooseCertOption(1);
+    EXPECT_TRUE(!settings.certOption(0) && settings.certOption(1));
+    settings.chooseAutoSsl(1);
+    settings.chooseAutoSsl(0);
+    EXPECT_TRUE(settings.isChecked(Check::AutoSSL0) && !settings.isChecked(Check::AutoSSL1));
+}
+
+TEST_F(SettingsTest, TheSkinsFileStandsInItsFolder)
+{
+    state.SkinPath = root.path(u"skin/dark"_s);
+    root.write(u"skin/dark/Skin.ini"_s, "[A]\r\nk=1\r\n[B]\r\n");
+    file.Skin_Write(u"B"_s, u"k"_s, u" 2 "_s);
+    EXPECT_EQ(root.read(u"skin/dark/Skin.ini"_s), "[A]\r\nk=1\r\n[B]\r\nk= 2 \r\n") << "untrimmed";
+    EXPECT_EQ(file.Skin_Read(u"A"_s, u"k"_s, {}), u"1"_s);
+    file.Skin_Delete_Section(u"A"_s);
+    EXPECT_EQ(file.Skin_Read(u"A"_s, u"k"_s, u"none"_s), u"none"_s);
+
+    settings.writeSkinPath(state.SkinPath);
+    settings.writeSkinName(u"dark"_s);
+    EXPECT_EQ(root.read(u"Settings.ini"_s),
+              "[Skin]\r\nSkin Path=" + state.SkinPath.toUtf8() + "\r\nSkin Name=dark\r\n");
+    file.INI_Delete_Section(u"Skin"_s);
+    EXPECT_EQ(root.read(u"Settings.ini"_s), "");
+}
+
+} // namespace
+} // namespace varnhold
