@@ -38,7 +38,6 @@ bool ExitPath::run()
     m_host.unloadOtherWindows();
     Wait_Loop(2, m_services.pump);
     m_host.unloadMainWindow();
-    m_services.pump.end();
     m_host.endProgram();
     return true;
 }

@@ -2,7 +2,7 @@
 
 namespace varnhold {
 
-class EventLoopPump;
+class MessagePump;
 class MessageBoxes;
 class Settings;
 class Sounds;
@@ -16,7 +16,7 @@ public:
     virtual void setFadeOpacity(int value) = 0; ///< of the main window, at once on the screen
     virtual void unloadOtherWindows() = 0;
     virtual void unloadMainWindow() = 0;
-    virtual void endProgram() = 0; ///< leaves the event loop
+    virtual void endProgram() = 0; ///< every pump leaves its wait, then the event loop ends
 };
 
 /// From the wish to close the main window to the program's end. May run inside a pump of a lookup or a
@@ -29,7 +29,7 @@ public:
         const Settings& settings;
         MessageBoxes& boxes;
         Sounds& sounds;
-        EventLoopPump& pump;
+        MessagePump& pump;
     };
 
     ExitPath(const Services& services, ExitHost& host);

@@ -26,8 +26,8 @@ struct MainLayout
 
 /// Places of the controls that are the same in both sizes.
 namespace mainplaces {
-inline constexpr QRect btnFile{8, 4, 28, 14};
-inline constexpr QRect btn_Tools1{40, 4, 14, 14};
+inline constexpr QRect btnFile{8, 5, 28, 14};
+inline constexpr QRect btn_Tools1{40, 5, 14, 14};
 inline constexpr QRect txtGameID{8, 23, 82, 18};
 inline constexpr QRect btnFetch{94, 24, 40, 16};
 } // namespace mainplaces

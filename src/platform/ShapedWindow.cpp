@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -25,6 +26,28 @@ void ShapedWindow::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_picture);
+}
+
+namespace {
+
+void stayOnTop(QWidget& window, bool on)
+{
+    // Through the window handle where there is one: the widget's own way hides a window that is shown.
+    window.overrideWindowFlags(window.windowFlags().setFlag(Qt::WindowStaysOnTopHint, on));
+    if (QWindow* handle = window.windowHandle())
+        handle->setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
+} // namespace
+
+void SetTopMost(QWidget& window)
+{
+    stayOnTop(window, true);
+}
+
+void ClearTopMost(QWidget& window)
+{
+    stayOnTop(window, false);
 }
 
 void SetOpacity(int value, QWidget& window)

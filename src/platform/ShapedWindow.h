@@ -27,6 +27,10 @@ private:
     QPixmap m_picture;
 };
 
+/// Keeps a window above all others, or no longer.
+void SetTopMost(QWidget& window);
+void ClearTopMost(QWidget& window);
+
 /// Opacity 0 to 255; kept at 20 or above, so that no window becomes invisible through a setting.
 void SetOpacity(int value, QWidget& window);
 /// Opacity 0 to 255 without that floor; at once on the screen, with no event handled meanwhile.

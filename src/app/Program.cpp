@@ -1,0 +1,171 @@
+#include "app/Program.h"
+
+#include "app/PlainLook.h"
+#include "lookup/UpdateServers.h"
+#include "platform/Shell.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace varnhold {
+
+Program::Program(const Paths& paths, World world)
+    : m_paths(paths),
+      m_world(std::move(world)),
+      m_file(m_paths, m_state),
+      m_settings(m_file),
+      m_sounds(m_settings, m_world.player, m_state),
+      m_menu(m_sounds),
+      m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen}),
+      m_settingsWindow({m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths}),
+      m_certificates(m_alert, m_settings,
+                     {.pressYes = [this] { return m_alert.pressYes(); },
+                      .showCaption = [this](const QString& text) { m_main.setCaption(text); }}),
+      m_browser(m_certificates, [this](const QString& authority) { return tlsOf(authority); }),
+      m_lookup({m_state, m_settings, m_hosts, m_list, m_main, m_browser, m_sounds, m_world.boxes, m_pump}),
+      m_downloads({.client = {m_world.sockets, m_files, m_clock, m_pump, m_world.boxes,
+                              QCoreApplication::applicationName()},
+                   .state = m_state,
+                   .settings = m_settings,
+                   .sounds = m_sounds,
+                   .screen = m_world.screen,
+                   .skin = plainlook::dress},
+                  m_main),
+      m_planner({m_state, m_settings, m_list, m_downloads, m_files, m_world.dialogs, m_world.boxes, m_sounds,
+                 QCoreApplication::applicationName()}),
+      m_startUp({.state = m_state,
+                 .settings = m_settings,
+                 .file = m_file,
+                 .paths = m_paths,
+                 .hosts = m_hosts,
+                 .boxes = m_world.boxes,
+                 .sounds = m_sounds,
+                 .pump = m_pump,
+                 .screen = m_world.screen,
+                 .browser = m_browser,
+                 .certificates = m_certificates,
+                 .main = m_main,
+                 .settingsWindow = m_settingsWindow,
+                 .skin = plainlook::dress,
+                 .isFirst = m_world.isFirst,
+                 .activatePrevious = m_world.activatePrevious,
+                 .findHosts = m_world.findHosts}),
+      m_exitPath({m_settings, m_world.boxes, m_sounds, m_pump}, *this)
+{
+    connectMainWindow();
+    connectMenus();
+    m_downloads.onUnload([this](const DownloadClient& client) { m_planner.windowUnloaded(client); });
+    m_startUp.onAbandoned([this] { endProgram(); });
+}
+
+Program::~Program() = default;
+
+bool Program::start()
+{
+    return m_startUp.run() == StartUp::Outcome::Running;
+}
+
+void Program::comeToFront()
+{
+    m_main.setWindowState(m_main.windowState() & ~Qt::WindowMinimized);
+    m_main.show();
+    m_main.raise();
+    m_main.activateWindow();
+}
+
+void Program::connectMainWindow()
+{
+    connect(&m_main, &frmMain::fetchRequested, &m_lookup, &Lookup::btnFetch_Click);
+    connect(&m_main, &frmMain::gameRowDoubleClicked, &m_lookup, &Lookup::MorphListBox1_DblClick);
+    connect(&m_main, &frmMain::textDropped, this, [this](const QString& text) {
+        m_lookup.dropText(text, [this](const QString& url) { m_planner.DownloadUrl(url); });
+    });
+    connect(&m_main, &frmMain::updateRowActivated, this, [this] { m_planner.ListView1_DblClick(); });
+    connect(&m_main, &frmMain::mnuMenuWanted, &m_menu, &frmMenu::popUp_mnuMenu);
+    connect(&m_main, &frmMain::mnuLViewWanted, &m_menu, &frmMenu::popUp_mnuLView);
+    connect(&m_main, &frmMain::settingsRequested, this, [this] {
+        m_sounds.play(Sound::Menu);
+        openSettings();
+    });
+    connect(&m_main, &frmMain::exitRequested, this, [this] { m_exitPath.run(); });
+    connect(&m_main, &frmMain::closedByDesktop, this, [this] { m_world.endProcess(); });
+    connect(&m_main, &frmMain::layoutChanged, this, [this] { plainlook::dress(m_main); });
+    m_main.setTipTitle([this] { return m_lookup.title(); });
+    connect(&m_settingsWindow, &frmSettings::autoSslReleased, this, [this] { m_certificates.start(); });
+    connect(&m_browser, &BrowserControl::statusTextChanged, this, [this] {
+        if (m_main.showsPage())
+            m_main.setPage(m_browser.bodyText());
+    });
+}
+
+void Program::connectMenus()
+{
+    connect(&m_menu, &frmMenu::mnuSettings_Click, this, &Program::openSettings);
+    connect(&m_menu, &frmMenu::mnuWebOpen_Click, this, &Program::openWeb);
+    connect(&m_menu, &frmMenu::mnuRaw_Click, this, &Program::showRaw);
+    connect(&m_menu, &frmMenu::mnuExit_Click, this, [this] { m_exitPath.run(); });
+    connect(&m_menu, &frmMenu::mnuDLoad_Click, this, [this] { m_planner.mnuDLoad_Click(); });
+}
+
+HostTls Program::tlsOf(const QString& authority) const
+{
+    for (const HostEntry& entry : m_hosts.servers) {
+        if (entry.authority == authority)
+            return {entry.certificateFile, entry.allowsOldTls};
+    }
+    return {};
+}
+
+void Program::openSettings()
+{
+    constexpr QPoint offset(23, 8); // 340 and 120 twips
+    plainlook::dress(m_settingsWindow);
+    m_settingsWindow.open(m_main.pos() + offset);
+}
+
+void Program::openWeb()
+{
+    const QString url = Document_Url(m_hosts, m_settings.server(), m_main.gameIdText().toUpper());
+    if (!url.isEmpty())
+        m_world.shell.open(url);
+}
+
+void Program::showRaw()
+{
+    m_main.mnuRaw();
+    m_main.setPage(m_main.showsPage() ? m_browser.bodyText() : std::nullopt);
+}
+
+void Program::enableExitButton()
+{
+    m_main.enableExitButton();
+}
+
+void Program::setFadeOpacity(int value)
+{
+    SetFadeOpacity(value, m_main);
+}
+
+void Program::unloadOtherWindows()
+{
+    m_downloads.unloadAll();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window != &m_main)
+            window->hide();
+    }
+}
+
+void Program::unloadMainWindow()
+{
+    m_main.hide();
+}
+
+void Program::endProgram()
+{
+    m_pump.end();
+    QCoreApplication::quit();
+}
+
+} // namespace varnhold

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "platform/ShapedWindow.h"
+#include "state/SettingsValues.h"
+
+#include <functional>
+#include <vector>
+
+class QFrame;
+class QLabel;
+class QListWidget;
+class QPlainTextEdit;
+
+namespace varnhold {
+
+class ButtonEx;
+class CaptionDrag;
+class FileDialogs;
+class MessagePump;
+class Screen;
+class Settings;
+class Sounds;
+struct ApplicationState;
+struct Paths;
+
+/// The settings window. Its controls show the live settings and change them as the user acts; closing only
+/// hides it.
+class frmSettings : public ShapedWindow
+{
+    Q_OBJECT
+
+public:
+    struct Services
+    {
+        ApplicationState& state;
+        Settings& settings;
+        Sounds& sounds;
+        FileDialogs& dialogs;
+        MessagePump& pump;
+        const Screen& screen;
+        const Paths& paths;
+    };
+
+    explicit frmSettings(const Services& services);
+
+    /// Shows it at this place in pixels; a window that is open only comes to the front.
+    void open(const QPoint& place);
+    /// Fills all controls from the settings; nothing is written.
+    void refresh();
+
+Q_SIGNALS:
+    /// The mouse let go of an Auto box; raised before the box's setting changes.
+    void autoSslReleased();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// A page: one title line, one column of controls.
+    struct Page
+    {
+        QString caption;
+        QFrame* frame;
+    };
+
+    void buildFrame();
+    QFrame* addPage(const QString& row, const char* name, const QString& caption);
+    void buildDownload();
+    void buildOptions();
+    void buildSounds();
+    void buildUnwanted();
+    void addCheck(QFrame& page, const char* name, const QString& caption, const QString& toolTip, Check check,
+                  const QPoint& place);
+    void addScroll(QFrame& page, const char* name, const char* labelName, int top, int least, int most,
+                   std::function<int()> read, std::function<void(int)> write, std::function<QString()> text);
+    ButtonEx* addButton(QWidget& page, const char* name, const QString& toolTip, const QRect& place);
+    void showPage(int row);
+    void chooseSaveDir();
+    void chooseSound();
+    void warn();
+    void updateUnwantedTips();
+
+    Services m_services;
+    std::vector<Page> m_pages;
+    std::vector<std::function<void()>> m_refreshers; ///< one for each control
+    bool m_refreshing = false;
+    QLabel* m_caption = nullptr;
+    QListWidget* m_list = nullptr;
+    QPlainTextEdit* m_unwanted = nullptr;
+    QLabel* m_count = nullptr;
+    QLabel* m_warning = nullptr;
+};
+
+} // namespace varnhold

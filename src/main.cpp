@@ -1,0 +1,112 @@
+#include "app/PlainLook.h"
+#include "app/Program.h"
+#include "platform/QtFileDialogs.h"
+#include "platform/QtMessageBoxes.h"
+#include "platform/QtScreen.h"
+#include "platform/QtShell.h"
+#include "platform/RunTimeError.h"
+#include "platform/SampleServiceProcess.h"
+#include "platform/SdlSoundPlayer.h"
+#include "platform/SingleInstance.h"
+#include "platform/TcpSocket.h"
+#include "state/SampleHosts.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace varnhold;
+
+namespace {
+
+void describe(QCommandLineParser& options)
+{
+    options.setApplicationDescription(u"Looks up game updates and downloads their packages."_s);
+    options.addHelpOption();
+    options.addVersionOption();
+    options.addOption({u"root"_s, u"The program's folder: settings, database, skins."_s, u"folder"_s});
+}
+
+/// Help and version need no display, so they are answered before one is asked for.
+bool isQuestion(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArrayView word(argv[i]);
+        if (word == "--help" || word == "-h" || word == "--version" || word == "-v")
+            return true;
+    }
+    return false;
+}
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+int run(QApplication& application, const QString& root)
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    const Paths paths = findPaths(root, folder, folder + u"/../share/varnhold"_s);
+    plainlook::apply(application);
+    QtMessageBoxes boxes;
+    QtFileDialogs dialogs;
+    QtShell shell;
+    SdlSoundPlayer player;
+    TcpSocketMaker sockets;
+    const QtScreen screen;
+    SampleServiceProcess sampleService;
+    SingleInstance instance(paths.root);
+    Program program(paths, {.boxes = boxes,
+                            .dialogs = dialogs,
+                            .shell = shell,
+                            .player = player,
+                            .sockets = sockets,
+                            .screen = screen,
+                            .isFirst = [&] { return instance.isFirst(); },
+                            .activatePrevious = [&] { return instance.askFirst(); },
+                            .findHosts = [&] { return hostsInUse(paths.hostsIni(), sampleService); },
+                            .endProcess = [] { std::_Exit(0); }});
+    QObject::connect(&instance, &SingleInstance::activationRequested, &program, &Program::comeToFront);
+    if (!program.start())
+        return 0;
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setApplicationName(u"Varnhold"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VARNHOLD_VERSION));
+    QGuiApplication::setDesktopFileName(u"varnhold"_s);
+    if (isQuestion(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        QCommandLineParser options;
+        describe(options);
+        options.process(application);
+        return 0;
+    }
+    if (!hasDisplay()) {
+        std::fputs("varnhold: there is no display here. varnhold-cli does the same job in the terminal.\n",
+                   stderr);
+        return 1;
+    }
+    // Only X11 lets a window place itself, and this program's windows do.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QCommandLineParser options;
+    describe(options);
+    options.process(application);
+    try {
+        return run(application, options.value(u"root"_s));
+    } catch (const RunTimeError& error) {
+        std::fprintf(stderr, "varnhold: %s\n", qPrintable(error.description()));
+        return 1;
+    }
+}
