@@ -92,7 +92,7 @@ void ButtonEx::drawOn(QPainter& painter) const
     const int shown = m_state.shownState();
     ButtonExLook look;
     look.bevel.size = size();
-    look.bevel.state = shown;
+    look.bevel.state = m_state.bevelState();
     look.bevel.appearance = Appearance();
     look.bevel.borderStyle = m_borderStyle;
     look.bevel.focused = m_state.hasFocus();
@@ -101,17 +101,15 @@ void ButtonEx::drawOn(QPainter& painter) const
     look.bevel.displayAsDefault = m_default;
     look.skinned = m_state.isSkinned();
     look.face = m_face;
-    QPixmap picture = glyph(up);
-    if (shown != up && !glyph(shown).isNull())
-        picture = glyph(shown);
-    look.glyph = cutColor(picture.toImage(), colorOfPicture);
+    const QImage& own = m_cutGlyphs.at(static_cast<std::size_t>(shown));
+    look.glyph = own.isNull() ? m_cutGlyphs[up] : own;
     look.glyphOffset = m_pictureOffset;
     look.caption = m_caption;
     look.captionOffset = m_captionOffset;
     look.font = font();
     look.backColor = m_backColor;
     look.textColor = m_borderStyle == 4 ? systemcolors::grayText : m_foreColor;
-    if (shown == over || (shown == pressed && m_state.lastEvent() != ButtonExEvent::MouseExit))
+    if (m_state.isCaptionHighlighted())
         look.textColor = m_highlightColor;
     look.rightToLeft = m_rightToLeft;
     look.highlight = m_highlightDrawn || (m_allowFocus && m_state.hasFocus() && m_keyboardFocus);
@@ -129,6 +127,11 @@ void ButtonEx::redraw()
     m_highlightDrawn = false;
     applyFace();
     update();
+    if (m_toldValue != Value()) {
+        m_toldValue = Value();
+        if (Style() == 1)
+            tellAssistiveTools(QAccessible::StateChanged);
+    }
 }
 
 void ButtonEx::startTimer1()
@@ -285,7 +288,9 @@ void ButtonEx::keyReleaseEvent(QKeyEvent* event)
 
 void ButtonEx::focusInEvent(QFocusEvent* event)
 {
-    m_keyboardFocus = isByKey(event->reason());
+    // A window that comes back to the front finds its highlight as it was.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        m_keyboardFocus = isByKey(event->reason());
     m_state.setFocused(true);
 }
 
@@ -321,9 +326,10 @@ bool ButtonEx::event(QEvent* event)
 {
     if (event->type() == QEvent::Shortcut &&
         static_cast<QShortcutEvent*>(event)->shortcutId() == m_mnemonic) {
+        const QPointer<ButtonEx> alive(this);
         if (m_allowFocus)
             setFocus(Qt::ShortcutFocusReason);
-        if (!static_cast<QShortcutEvent*>(event)->isAmbiguous())
+        if (alive && !static_cast<QShortcutEvent*>(event)->isAmbiguous())
             click();
         return true;
     }

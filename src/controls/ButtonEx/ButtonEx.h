@@ -227,6 +227,7 @@ private:
     ButtonExState m_state;
     std::array<QPixmap, buttonstate::count> m_skins;
     std::array<QPixmap, buttonstate::count> m_glyphs;
+    std::array<QImage, buttonstate::count> m_cutGlyphs;
     QImage m_face;        ///< the face shown, its transparent colour cut out
     qint64 m_faceKey = 0; ///< cache key of the picture that m_face was made from
     QPixmap m_mouseIcon;
@@ -240,6 +241,7 @@ private:
     quint32 m_highlightColor = systemcolors::buttonText;
     quint32 m_transparentColor = 0xFF0000; ///< pure blue
     int m_borderStyle = 1;
+    int m_toldValue = 1; ///< what assistive tools know
     int m_mousePointer = 0;
     int m_oleDropMode = 0;
     int m_whatsThisHelpId = 0;

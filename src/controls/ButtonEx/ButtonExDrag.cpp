@@ -102,11 +102,11 @@ void ButtonEx::dragLeaveEvent(QDragLeaveEvent*)
 void ButtonEx::dropEvent(QDropEvent* event)
 {
     int effect = copyEffect;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
     m_state.dispatch(ButtonExEvent::OLEDragDrop, {});
     Q_EMIT OLEDragDrop(event->mimeData(), &effect, buttonOf(event->buttons()), shiftOf(event->modifiers()),
                        event->position().x(), event->position().y());
+    event->setDropAction(actionOf(effect));
+    event->setAccepted(effect != 0);
 }
 
 } // namespace varnhold

@@ -1,6 +1,7 @@
 #include "controls/ButtonEx/ButtonEx.h"
 
 #include "controls/ButtonEx/ButtonExMetrics.h"
+#include "controls/ButtonEx/TransparentCopy.h"
 
 #include <QAccessible>
 
@@ -184,7 +185,6 @@ void ButtonEx::setTransparentColor(quint32 color)
 void ButtonEx::setValue(int value)
 {
     m_state.setValue(value);
-    tellAssistiveTools(QAccessible::StateChanged);
 }
 
 void ButtonEx::setWhatsThisHelpID(int id)
@@ -215,6 +215,7 @@ void ButtonEx::setSkin(int state, const QPixmap& face)
 void ButtonEx::setGlyph(int state, const QPixmap& picture)
 {
     m_glyphs.at(static_cast<std::size_t>(state)) = picture;
+    m_cutGlyphs.at(static_cast<std::size_t>(state)) = cutColor(picture.toImage(), colorOfPicture);
     m_state.redrawState();
 }
 

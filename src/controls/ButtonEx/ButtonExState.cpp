@@ -1,5 +1,7 @@
 #include "controls/ButtonEx/ButtonExState.h"
 
+#include <algorithm>
+
 namespace varnhold {
 
 using namespace buttonstate;
@@ -21,6 +23,17 @@ void ButtonExState::SetState(int state)
     // A press that was dragged out stays un-pressed until another event is raised.
     if (m_lastEvent == ButtonExEvent::MouseExit && state == pressed)
         return;
+    show(state);
+}
+
+void ButtonExState::redrawState()
+{
+    show(m_state);
+}
+
+void ButtonExState::show(int state)
+{
+    state = std::clamp(state, pressed, focused);
     if (m_style == 1) {
         if (m_value == 0)
             state = pressed;
@@ -28,24 +41,19 @@ void ButtonExState::SetState(int state)
             state = up;
     }
     m_state = state;
+    m_bevel = m_enabled || m_style == 1 ? state : disabled;
     if (isSkinned()) {
         if (!m_enabled)
             state = disabled;
         if (m_focused && state == up)
             state = focused;
         // A face that is missing leaves the one before in place.
-        if (state == up || (state >= 0 && state < count && m_faceSet[static_cast<std::size_t>(state)]))
+        if (state == up || m_faceSet.at(static_cast<std::size_t>(state)))
             m_face = state;
-    } else if (!m_enabled && m_style != 1) {
-        state = disabled;
     }
     m_shown = m_enabled ? state : disabled;
+    m_captionHighlighted = m_shown == over || (m_shown == pressed && m_lastEvent != ButtonExEvent::MouseExit);
     m_host.redraw();
-}
-
-void ButtonExState::redrawState()
-{
-    SetState(m_state);
 }
 
 void ButtonExState::setAppearance(int appearance)
@@ -57,14 +65,14 @@ void ButtonExState::setAppearance(int appearance)
 void ButtonExState::setStyle(int style)
 {
     m_style = style == 1 ? 1 : 0;
-    SetState(m_state);
+    redrawState();
 }
 
 void ButtonExState::setValue(int value)
 {
     m_value = value == 0 ? 0 : 1;
     // A push button keeps its look; a toggle button takes the one of its value.
-    SetState(m_style == 1 ? up : m_state);
+    show(m_style == 1 && m_state != over ? up : m_state);
 }
 
 void ButtonExState::setEnabled(bool enabled)

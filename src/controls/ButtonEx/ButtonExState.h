@@ -66,7 +66,7 @@ public:
 
     /// The centre of the control: decides what is shown when a state (0 to 4) is asked for.
     void SetState(int state);
-    /// Draws the present state again.
+    /// Draws the present state again, whatever the last event was.
     void redrawState();
 
     void setAppearance(int appearance);
@@ -91,8 +91,13 @@ public:
 
     /// The state that was asked for last, after the toggle rule.
     [[nodiscard]] int state() const { return m_state; }
+    /// What the bevel goes by: 0 to 3. A disabled push button is flat, a disabled toggle button shows its
+    /// value.
+    [[nodiscard]] int bevelState() const { return m_bevel; }
     /// What glyph and caption go by: also 3 and 4.
     [[nodiscard]] int shownState() const { return m_shown; }
+    /// Whether the caption takes HighlightColor.
+    [[nodiscard]] bool isCaptionHighlighted() const { return m_captionHighlighted; }
     /// Which face picture is on the control; -1 before the first.
     [[nodiscard]] int face() const { return m_face; }
     [[nodiscard]] int Value() const { return m_value; }
@@ -104,12 +109,14 @@ public:
     [[nodiscard]] ButtonExEvent lastEvent() const { return m_lastEvent; }
 
 private:
+    void show(int state);
     void press();
 
     Host& m_host;
     std::array<bool, buttonstate::count> m_faceSet{};
     int m_state = buttonstate::up;
     int m_shown = buttonstate::up;
+    int m_bevel = buttonstate::up;
     int m_face = -1;
     int m_appearance = 1;
     int m_style = 0;
@@ -117,6 +124,7 @@ private:
     ButtonExEvent m_lastEvent = ButtonExEvent::None;
     bool m_leftDuringPress = false;
     bool m_entered = false; ///< between MouseEnter and MouseExit, which is when Timer1 runs
+    bool m_captionHighlighted = false;
     bool m_enabled = true;
     bool m_focused = false;
 };

@@ -4,6 +4,7 @@
 
 #include <QPaintDevice>
 #include <QPainter>
+#include <QWidget>
 
 #include <cmath>
 
@@ -17,8 +18,8 @@ QImage cutColor(const QImage& picture, ColorValue color, const QPoint& probe)
     cut.setDevicePixelRatio(1);
     QRgb key = 0;
     if (color == colorOfPicture) {
-        if (!cut.valid(probe))
-            return cut;
+        if (!cut.valid(probe) || qAlpha(cut.pixel(probe)) == 0)
+            return cut.convertToFormat(QImage::Format_ARGB32_Premultiplied);
         key = cut.pixel(probe) & RGB_MASK;
     } else {
         key = toQColor(color).rgb() & RGB_MASK;
@@ -31,6 +32,44 @@ QImage cutColor(const QImage& picture, ColorValue color, const QPoint& probe)
         }
     }
     return cut.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+namespace {
+
+void copyCut(QImage& destination, const QPoint& at, const QImage& cut, const QSize& size, const QRect& clip)
+{
+    const QRect wanted = QRect(QPoint(0, 0), size).intersected(cut.rect());
+    if (destination.isNull() || wanted.isEmpty())
+        return;
+    QPainter painter(&destination);
+    painter.setClipRect(clip);
+    painter.drawImage(at, cut, wanted);
+}
+
+} // namespace
+
+void maskCopy(QImage& destination, const QPoint& at, const QImage& source, const QSize& size, ColorValue color)
+{
+    copyCut(destination, at, cutColor(source, color), size, destination.rect());
+}
+
+void maskCopy(QImage& destination, const QPoint& at, const QImage& source, const QSize& size,
+              ColorValue color, const QRect& clip)
+{
+    copyCut(destination, at, cutColor(source, color), size, clip);
+}
+
+bool pictureCopy(QImage& destination, const QPoint& at, const QImage& source, const QSize& size,
+                 ColorValue color, QWidget* shown)
+{
+    if (destination.isNull() || source.isNull())
+        return false;
+    const QSize wanted(size.width() == -1 ? source.width() : size.width(),
+                       size.height() == -1 ? source.height() : size.height());
+    copyCut(destination, at, cutColor(source, color, QPoint(0, 0)), wanted, destination.rect());
+    if (shown)
+        shown->update();
+    return true;
 }
 
 void drawSharp(QPainter& painter, const QPoint& at, const QImage& picture)
