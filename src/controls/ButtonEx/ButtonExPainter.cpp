@@ -6,7 +6,9 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
 
 namespace varnhold {
 
@@ -22,6 +24,15 @@ struct Shades
           shadow(mixed(back, 0, 35)),
           dark(mixed(back, 0, 65))
     {
+    }
+
+    /// What fills the button: hover and press tint it, away from white where there is nothing lighter.
+    [[nodiscard]] QColor fill(int state) const
+    {
+        constexpr int nearlyWhite = 230;
+        if (state == buttonstate::over)
+            return mixed(face, qGray(face.rgb()) > nearlyWhite ? 0 : 255, 8);
+        return state == buttonstate::pressed ? mixed(face, 0, 12) : face;
     }
 
     static QColor mixed(const QColor& color, int with, int percent)
@@ -127,6 +138,67 @@ void caption(QPainter& painter, const ButtonExLook& look, const std::optional<QR
     painter.drawText(QRect(at, size), flags, drawn);
 }
 
+double channelLight(int channel)
+{
+    const double part = channel / 255.0;
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double relativeLight(const QColor& color)
+{
+    return 0.2126 * channelLight(color.red()) + 0.7152 * channelLight(color.green()) +
+           0.0722 * channelLight(color.blue());
+}
+
+/// WCAG contrast, 1 to 21.
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = relativeLight(one);
+    const double b = relativeLight(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+/// What the ring will lie on: the mean of the face's pixels along it.
+QColor meanAlong(const QImage& face, const QRect& rect)
+{
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    int count = 0;
+    for (int x = rect.left(); x <= rect.right(); ++x) {
+        for (const int y : {rect.top(), rect.bottom()}) {
+            if (!face.valid(x, y))
+                continue;
+            const QRgb pixel = face.pixel(x, y);
+            red += qRed(pixel);
+            green += qGreen(pixel);
+            blue += qBlue(pixel);
+            ++count;
+        }
+    }
+    return count == 0 ? QColor(Qt::black) : QColor(red / count, green / count, blue / count);
+}
+
+/// A ring with clipped corners that can be told from whatever it lies on: in the highlight colour where that
+/// stands out, otherwise black or white.
+void ring(QPainter& painter, const ButtonExLook& look)
+{
+    constexpr int ringInset = 2;
+    constexpr double enough = 3;
+    const QRect rect =
+        QRect(QPoint(0, 0), look.bevel.size).adjusted(ringInset, ringInset, -ringInset, -ringInset);
+    if (rect.width() < 3 || rect.height() < 3)
+        return;
+    const QColor under = look.skinned ? meanAlong(look.face, rect) : toQColor(look.backColor);
+    QColor color = toQColor(look.highlightColor);
+    if (contrast(color, under) < enough)
+        color = contrast(Qt::white, under) > contrast(Qt::black, under) ? Qt::white : Qt::black;
+    painter.fillRect(rect.left() + 1, rect.top(), rect.width() - 2, 1, color);
+    painter.fillRect(rect.left() + 1, rect.bottom(), rect.width() - 2, 1, color);
+    painter.fillRect(rect.left(), rect.top() + 1, 1, rect.height() - 2, color);
+    painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
+}
+
 } // namespace
 
 void paintButtonEx(QPainter& painter, const ButtonExLook& look)
@@ -141,7 +213,7 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
         drawSharp(painter, QPoint(0, 0), look.face);
     } else {
         const Shades shades(toQColor(look.backColor));
-        painter.fillRect(all, shades.face);
+        painter.fillRect(all, shades.fill(look.bevel.state));
         for (const BevelStroke& one : bevelStrokes(look.bevel))
             stroke(painter, one, shades, text);
     }
@@ -152,7 +224,7 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
     }
     caption(painter, look, glyph);
     if (look.highlight)
-        dots(painter, all.adjusted(2, 2, -2, -2), text);
+        ring(painter, look);
     painter.restore();
 }
 

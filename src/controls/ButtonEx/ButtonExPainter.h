@@ -24,7 +24,8 @@ struct ButtonExLook
     ColorValue backColor = systemcolors::buttonFace;
     ColorValue textColor = systemcolors::buttonText;
     bool rightToLeft = false;
-    bool highlight = false; ///< the control's own keyboard highlight
+    ColorValue highlightColor = systemcolors::buttonText;
+    bool highlight = false; ///< the control's own keyboard highlight, a ring inside the edge
 };
 
 /// Draws the button at (0, 0). Any size will do; nothing is drawn outside it.

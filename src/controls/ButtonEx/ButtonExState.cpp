@@ -48,8 +48,10 @@ void ButtonExState::show(int state)
         if (m_focused && state == up)
             state = focused;
         // A face that is missing leaves the one before in place.
-        if (state == up || m_faceSet.at(static_cast<std::size_t>(state)))
+        if (m_faceSet.at(static_cast<std::size_t>(state)))
             m_face = state;
+        else if (m_face < 0)
+            m_face = up;
     }
     m_shown = m_enabled ? state : disabled;
     m_captionHighlighted = m_shown == over || (m_shown == pressed && m_lastEvent != ButtonExEvent::MouseExit);

@@ -48,7 +48,8 @@ void copyCut(QImage& destination, const QPoint& at, const QImage& cut, const QSi
 
 } // namespace
 
-void maskCopy(QImage& destination, const QPoint& at, const QImage& source, const QSize& size, ColorValue color)
+void maskCopy(QImage& destination, const QPoint& at, const QImage& source, const QSize& size,
+              ColorValue color)
 {
     copyCut(destination, at, cutColor(source, color), size, destination.rect());
 }
