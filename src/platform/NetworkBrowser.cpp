@@ -3,15 +3,14 @@
 #include "platform/XmlTreeText.h"
 
 #include <QCryptographicHash>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QPointer>
 #include <QSslCertificate>
 #include <QSslConfiguration>
+#include <QSslSocket>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace varnhold {
 
@@ -31,6 +30,7 @@ constexpr int redirectFailed = -2146697196;
 constexpr int notFound = 404;
 } // namespace codes
 
+// Bounds what waits in the socket while the program is busy elsewhere.
 constexpr qint64 readBuffer = qint64{4} * 1024 * 1024;
 
 bool isFetchable(const QUrl& url)
@@ -48,34 +48,20 @@ bool isRedirect(int status)
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
 }
 
-/// True when the peer answered, whatever its status says; false when the connection failed.
-bool isAnswer(QNetworkReply::NetworkError error)
-{
-    return error == QNetworkReply::NoError ||
-           (error >= QNetworkReply::ContentAccessDenied && error <= QNetworkReply::UnknownContentError) ||
-           (error >= QNetworkReply::InternalServerError && error <= QNetworkReply::UnknownServerError);
-}
-
-int codeOf(QNetworkReply::NetworkError error)
+/// `connected`: the peer had taken the connection before it failed.
+int codeOf(QAbstractSocket::SocketError error, bool connected)
 {
     switch (error) {
-    case QNetworkReply::ConnectionRefusedError:
-    case QNetworkReply::TemporaryNetworkFailureError:
-    case QNetworkReply::NetworkSessionFailedError:
-    case QNetworkReply::UnknownNetworkError:
-        return codes::cannotConnect;
-    case QNetworkReply::HostNotFoundError:
+    case QAbstractSocket::HostNotFoundError:
         return codes::hostNotFound;
-    case QNetworkReply::TimeoutError:
-    // Our own aborts are never heard of: this one is the manager's, after too long a silence.
-    case QNetworkReply::OperationCanceledError:
+    case QAbstractSocket::SocketTimeoutError:
         return codes::timedOut;
-    case QNetworkReply::SslHandshakeFailedError:
+    case QAbstractSocket::SslHandshakeFailedError:
+    case QAbstractSocket::SslInternalError:
+    case QAbstractSocket::SslInvalidUserDataError:
         return codes::securityProblem;
-    case QNetworkReply::ProtocolUnknownError:
-        return codes::unknownProtocol;
     default:
-        return codes::downloadFailed;
+        return connected ? codes::downloadFailed : codes::cannotConnect;
     }
 }
 
@@ -119,20 +105,19 @@ int bounded(qint64 value)
 
 NetworkBrowser::NetworkBrowser(SecurityAlert& alert, std::function<HostTls(const QString&)> policy,
                                QObject* parent, const BrowserLimits& limits)
-    : BrowserControl(parent), m_alert(alert), m_policy(std::move(policy)), m_limits(limits)
+    : BrowserControl(parent),
+      m_alert(alert),
+      m_policy(std::move(policy)),
+      m_limits(limits),
+      m_response(limits.largestDocument)
 {
+    m_silence.setSingleShot(true);
+    connect(&m_silence, &QTimer::timeout, this, [this] { fail(codes::timedOut); });
 }
 
 NetworkBrowser::~NetworkBrowser()
 {
     stop();
-}
-
-QNetworkAccessManager& NetworkBrowser::manager()
-{
-    if (m_manager == nullptr)
-        m_manager = new QNetworkAccessManager(this);
-    return *m_manager;
 }
 
 void NetworkBrowser::later(std::function<void()> action)
@@ -149,16 +134,21 @@ void NetworkBrowser::later(std::function<void()> action)
 void NetworkBrowser::stop()
 {
     ++m_page;
-    if (m_reply != nullptr) {
-        QNetworkReply* reply = std::exchange(m_reply, nullptr);
-        disconnect(reply, nullptr, this, nullptr);
-        reply->abort();
-        reply->deleteLater();
-    }
-    m_document.clear();
+    dropSocket();
     m_problems.clear();
     if (std::exchange(m_asking, false))
         m_alert.cancel();
+}
+
+void NetworkBrowser::dropSocket()
+{
+    m_silence.stop();
+    if (m_socket == nullptr)
+        return;
+    QTcpSocket* socket = std::exchange(m_socket, nullptr);
+    disconnect(socket, nullptr, this, nullptr);
+    socket->abort();
+    socket->deleteLater(); // it may be the one whose signal runs
 }
 
 void NetworkBrowser::navigate(const QString& url)
@@ -170,10 +160,7 @@ void NetworkBrowser::navigate(const QString& url)
     const QString address = url.trimmed();
     const QUrl target(address);
     if (address.compare(u"about:blank"_s, Qt::CaseInsensitive) == 0)
-        later([this] {
-            manager(); // the first lookup finds it ready
-            show(u""_s);
-        });
+        later([this] { show(u""_s); });
     else if (target.isValid() && !target.scheme().isEmpty() && !isFetchable(target))
         later([this] { fail(codes::unknownProtocol); });
     else if (!target.isValid() || target.host().isEmpty())
@@ -182,94 +169,125 @@ void NetworkBrowser::navigate(const QString& url)
         fetch(target);
 }
 
-QNetworkRequest NetworkBrowser::requestFor(const QUrl& url) const
-{
-    QNetworkRequest request(url);
-    // Redirects are followed here, since each host has a TLS policy of its own.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    // Documents are small, and what is not packed cannot unpack into more than the limit.
-    request.setRawHeader("Accept-Encoding", "identity");
-    request.setTransferTimeout(static_cast<int>(m_limits.silence.count()));
-    if (url.scheme() == u"https"_s)
-        request.setSslConfiguration(tlsOf(m_policy ? m_policy(authorityOf(url)) : HostTls{}));
-    return request;
-}
-
 void NetworkBrowser::fetch(const QUrl& url)
 {
+    dropSocket();
     m_url = url;
-    m_document.clear();
+    m_response = HttpResponseReader(m_limits.largestDocument);
     m_problems.clear();
-    m_reply = manager().get(requestFor(url));
-    m_reply->setReadBufferSize(readBuffer);
-    connect(m_reply, &QNetworkReply::metaDataChanged, this, &NetworkBrowser::onHead);
-    connect(m_reply, &QNetworkReply::readyRead, this, &NetworkBrowser::onData);
-    connect(m_reply, &QNetworkReply::downloadProgress, this, &NetworkBrowser::onProgress);
-    connect(m_reply, &QNetworkReply::sslErrors, this, &NetworkBrowser::onSslErrors);
-    connect(m_reply, &QNetworkReply::finished, this, &NetworkBrowser::onFinished);
+    m_told = false;
+    m_connected = false;
     later([this] { Q_EMIT statusTextChanged(u"Connecting to "_s + authorityOf(m_url) + u"..."_s); });
+    m_silence.start(m_limits.silence);
+    if (url.scheme() == u"https"_s) {
+        connectSecurely();
+    } else {
+        m_socket = new QTcpSocket(this);
+        connect(m_socket, &QTcpSocket::connected, this, &NetworkBrowser::sendRequest);
+    }
+    connect(m_socket, &QTcpSocket::connected, this, [this] { m_connected = true; });
+    m_socket->setReadBufferSize(readBuffer);
+    connect(m_socket, &QTcpSocket::readyRead, this, &NetworkBrowser::onData);
+    connect(m_socket, &QTcpSocket::errorOccurred, this, &NetworkBrowser::onSocketError);
+    if (auto* secure = qobject_cast<QSslSocket*>(m_socket))
+        secure->connectToHostEncrypted(url.host(), static_cast<quint16>(url.port(443)));
+    else
+        m_socket->connectToHost(url.host(), static_cast<quint16>(url.port(80)));
 }
 
-void NetworkBrowser::onHead()
+void NetworkBrowser::connectSecurely()
 {
-    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (isRedirect(status))
-        return;
-    if (m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong() > m_limits.largestDocument)
-        fail(codes::downloadFailed);
-    else if (status != codes::notFound)
-        Q_EMIT statusTextChanged(u"Downloading "_s + m_url.toString() + u"..."_s);
+    auto* secure = new QSslSocket(this);
+    m_socket = secure;
+    secure->setSslConfiguration(tlsOf(m_policy ? m_policy(authorityOf(m_url)) : HostTls{}));
+    connect(secure, &QSslSocket::encrypted, this, &NetworkBrowser::sendRequest);
+    connect(secure, &QSslSocket::sslErrors, this, &NetworkBrowser::onSslErrors);
+}
+
+void NetworkBrowser::sendRequest()
+{
+    m_silence.start();
+    QByteArray target = m_url.path(QUrl::FullyEncoded).toLatin1();
+    if (target.isEmpty())
+        target = "/";
+    if (m_url.hasQuery())
+        target += '?' + m_url.query(QUrl::FullyEncoded).toLatin1();
+    // What comes unpacked cannot unpack into more than the limit.
+    m_socket->write("GET " + target + " HTTP/1.1\r\nHost: " + m_url.authority(QUrl::FullyEncoded).toLatin1() +
+                    "\r\nUser-Agent: Varnhold/" VARNHOLD_VERSION
+                    "\r\nAccept: */*\r\nAccept-Encoding: identity\r\nConnection: close\r\n\r\n");
 }
 
 void NetworkBrowser::onData()
 {
-    m_document += m_reply->readAll();
-    if (m_document.size() > m_limits.largestDocument)
-        fail(codes::downloadFailed);
+    m_silence.start();
+    m_response.feed(m_socket->readAll());
+    if (m_response.state() == HttpResponseReader::State::Head)
+        return;
+    const int status = m_response.status();
+    const quint64 page = m_page;
+    if (m_response.state() != HttpResponseReader::State::Broken && !isRedirect(status) &&
+        status != codes::notFound) {
+        if (!std::exchange(m_told, true))
+            Q_EMIT statusTextChanged(u"Downloading "_s + m_url.toString() + u"..."_s);
+        if (page == m_page)
+            Q_EMIT progressChanged(bounded(m_response.bodyReceived()), bounded(m_response.bodyLength()));
+    }
+    if (page == m_page)
+        onAnswer();
 }
 
-void NetworkBrowser::onProgress(qint64 received, qint64 total)
+void NetworkBrowser::onSocketError(QAbstractSocket::SocketError error)
 {
-    Q_EMIT progressChanged(bounded(received), bounded(total));
+    if (error == QAbstractSocket::RemoteHostClosedError && m_socket->bytesAvailable() > 0) {
+        const QTcpSocket* socket = m_socket;
+        onData();
+        if (m_socket != socket)
+            return; // that was the answer
+    }
+    if (!m_problems.isEmpty()) {
+        dropSocket();
+        // Out of the socket's own signal: the question may stay open for long.
+        later([this] { ask(); });
+    } else if (error == QAbstractSocket::RemoteHostClosedError && m_connected) {
+        m_response.finish();
+        onAnswer();
+    } else {
+        fail(codeOf(error, m_connected));
+    }
 }
 
 void NetworkBrowser::onSslErrors(const QList<QSslError>& problems)
 {
-    const QSslCertificate peer = m_reply->sslConfiguration().peerCertificate();
-    m_problemsKey = keyOf(authorityOf(m_url), peer, problems);
+    auto* secure = qobject_cast<QSslSocket*>(m_socket);
+    m_problemsKey = keyOf(authorityOf(m_url), secure->peerCertificate(), problems);
     if (m_accepted.contains(m_problemsKey))
-        m_reply->ignoreSslErrors(problems);
+        secure->ignoreSslErrors(problems);
     else
         m_problems = problems;
 }
 
-void NetworkBrowser::onFinished()
+/// Acts on the answer as far as it is here.
+void NetworkBrowser::onAnswer()
 {
-    QNetworkReply* reply = std::exchange(m_reply, nullptr);
-    disconnect(reply, nullptr, this, nullptr);
-    reply->deleteLater();
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (!isAnswer(reply->error())) {
-        // Out of the reply's own signal: the question may stay open for long.
-        if (reply->error() == QNetworkReply::SslHandshakeFailedError && !m_problems.isEmpty())
-            later([this] { ask(); });
-        else
-            fail(codeOf(reply->error()));
-    } else if (isRedirect(status) && reply->hasRawHeader("Location")) {
-        redirect(reply->url(), reply->rawHeader("Location"));
+    using State = HttpResponseReader::State;
+    const int status = m_response.status();
+    const QByteArray location = m_response.header("Location");
+    if (m_response.state() == State::Broken) {
+        fail(codes::downloadFailed);
+    } else if (isRedirect(status) && !location.isNull()) {
+        redirect(location);
     } else if (status == codes::notFound) {
         fail(codes::notFound);
-    } else {
-        m_document += reply->readAll();
-        const QByteArray document = std::exchange(m_document, {});
-        show(xmlTreeText(document).value_or(u"The XML page cannot be displayed"_s));
+    } else if (m_response.state() == State::Complete) {
+        dropSocket();
+        show(xmlTreeText(m_response.takeBody()).value_or(u"The XML page cannot be displayed"_s));
     }
 }
 
-void NetworkBrowser::redirect(const QUrl& from, const QByteArray& location)
+void NetworkBrowser::redirect(const QByteArray& location)
 {
-    const QUrl target = from.resolved(QUrl::fromEncoded(location.trimmed()));
+    const QUrl target = m_url.resolved(QUrl::fromEncoded(location));
     if (++m_redirects > m_limits.mostRedirects || !target.isValid() || !isFetchable(target) ||
         target.host().isEmpty())
         fail(codes::redirectFailed);

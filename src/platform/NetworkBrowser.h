@@ -1,19 +1,20 @@
 #pragma once
 
 #include "platform/BrowserControl.h"
+#include "platform/HttpResponseReader.h"
 
+#include <QAbstractSocket>
 #include <QByteArray>
 #include <QList>
 #include <QSet>
 #include <QSslError>
+#include <QTimer>
 #include <QUrl>
 
 #include <chrono>
 #include <functional>
 
-class QNetworkAccessManager;
-class QNetworkReply;
-class QNetworkRequest;
+class QTcpSocket;
 
 namespace varnhold {
 
@@ -42,12 +43,15 @@ struct BrowserLimits
     int mostRedirects = 20;
 };
 
-/// The browser control on Qt's network manager: http and https, well-formed XML shown as its tree text. What
-/// is no XML is shown as a page that says "The XML page cannot be displayed".
+/// The browser control over http and https: well-formed XML is shown as its tree text, and what is no XML as
+/// a page that says "The XML page cannot be displayed".
+///
+/// It stands on a socket of its own: Qt's network manager reads a head without end into memory and cannot be
+/// stopped from it.
 ///
 /// A certificate that does not verify ends its connection; the question is asked after that, and a Yes
-/// fetches once more. Asking while the handshake waits would hold up the manager's thread, and with it the
-/// page that the user asks for meanwhile. A Yes is remembered for that certificate, host and set of errors.
+/// fetches once more. So no handshake waits for the user, and nothing of the old page stands on the stack
+/// when a new one is asked for meanwhile. A Yes is remembered for that certificate, host and set of errors.
 class NetworkBrowser : public BrowserControl
 {
     Q_OBJECT
@@ -63,17 +67,17 @@ public:
     [[nodiscard]] std::optional<QString> bodyText() const override { return m_text; }
 
 private:
-    QNetworkAccessManager& manager();
     void later(std::function<void()> action);
     void stop();
+    void dropSocket();
     void fetch(const QUrl& url);
-    [[nodiscard]] QNetworkRequest requestFor(const QUrl& url) const;
-    void onHead();
+    void connectSecurely();
+    void sendRequest();
     void onData();
-    void onProgress(qint64 received, qint64 total);
+    void onSocketError(QAbstractSocket::SocketError error);
     void onSslErrors(const QList<QSslError>& problems);
-    void onFinished();
-    void redirect(const QUrl& from, const QByteArray& location);
+    void onAnswer();
+    void redirect(const QByteArray& location);
     void ask();
     void show(const QString& text);
     void fail(int code);
@@ -81,12 +85,14 @@ private:
     SecurityAlert& m_alert;
     std::function<HostTls(const QString&)> m_policy;
     BrowserLimits m_limits;
-    QNetworkAccessManager* m_manager = nullptr; ///< child, made at first use
-    QNetworkReply* m_reply = nullptr;
+    QTcpSocket* m_socket = nullptr; ///< child
+    QTimer m_silence;
+    HttpResponseReader m_response;
     quint64 m_page = 0; ///< counts navigate() calls; what belongs to an older page is dropped
     QUrl m_url;
     int m_redirects = 0;
-    QByteArray m_document;
+    bool m_connected = false;
+    bool m_told = false; ///< that the page is being downloaded
     bool m_busy = false;
     bool m_asking = false;
     std::optional<QString> m_text;

@@ -53,6 +53,8 @@ public:
 
     void endElement(const QXmlStreamReader& reader)
     {
+        if (!m_openElement)
+            flushText();
         --m_depth;
         if (m_openElement && m_text.isEmpty()) {
             m_out.append(u" />");
@@ -61,7 +63,6 @@ public:
                 m_out.append(u'>');
                 appendText(m_text);
             } else {
-                flushText();
                 newLine();
             }
             m_out.append(u"</").append(reader.qualifiedName()).append(u'>');
