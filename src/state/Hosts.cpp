@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
@@ -107,6 +109,20 @@ Hosts readHosts(const QString& path)
     hosts.imageSearch = reader.entry(u"ImageSearch"_s, u"Host"_s, {});
     hosts.forum = reader.entry(u"Forum"_s, u"Host"_s, {});
     return hosts;
+}
+
+const HostEntry* findHost(const Hosts& hosts, const QString& authority)
+{
+    const auto matches = [&](const HostEntry& entry) {
+        return !entry.authority.isEmpty() && entry.authority.compare(authority, Qt::CaseInsensitive) == 0;
+    };
+    const auto server = std::ranges::find_if(hosts.servers, matches);
+    if (server != hosts.servers.end())
+        return &*server;
+    for (const HostEntry* entry : {&hosts.update, &hosts.imageSearch, &hosts.forum})
+        if (matches(*entry))
+            return entry;
+    return nullptr;
 }
 
 } // namespace varnhold

@@ -31,4 +31,7 @@ struct Hosts
 /// with a sentence that names section and key for a value that is none.
 Hosts readHosts(const QString& path);
 
+/// The entry with this authority, whatever its case; null when there is none.
+const HostEntry* findHost(const Hosts& hosts, const QString& authority);
+
 } // namespace varnhold

@@ -1,0 +1,146 @@
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/PackageCheck.h"
+#include "cli/PackageFetch.h"
+#include "cli/Session.h"
+#include "cli/TitleLookup.h"
+#include "lookup/MarkRows.h"
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace varnhold::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestFileName = 255; ///< bytes, on all usual file systems
+
+[[noreturn]] void fail(const QString& sentence)
+{
+    throw RunTimeError(errors::pathFileAccess, sentence);
+}
+
+/// Where the packages go. Throws RunTimeError with a sentence.
+QString folderFor(const Arguments& arguments, const Session& session, const QString& title)
+{
+    const Settings& settings = session.settings();
+    QString folder = arguments.folder;
+    if (folder.isEmpty() && settings.isChecked(Check::UseDLD)) {
+        if (settings.saveDir().tag.isEmpty())
+            fail(u"The settings use a download folder and name none; name one with --to."_s);
+        folder = titleFolder(settings, arguments.gameId, title);
+        if (!FolderExists(folder))
+            MakeFolder(folder);
+    }
+    if (folder.isEmpty())
+        folder = QDir::currentPath();
+    if (!FolderExists(folder))
+        fail(u"There is no folder \"%1\"."_s.arg(folder));
+    return QDir::cleanPath(QDir(folder).absolutePath());
+}
+
+/// The last part of the package's address, as far as a file may have that name. Throws RunTimeError.
+QString fileNameOf(const Package& package)
+{
+    if (package.url.isEmpty())
+        fail(u"The document gives no address for package %1."_s.arg(package.version));
+    const QString name = package.url.sliced(package.url.lastIndexOf(u'/') + 1);
+    const bool odd = std::ranges::any_of(name, [](QChar character) { return !character.isPrint(); });
+    if (odd || !name.endsWith(u".pkg"_s) || name == u".pkg"_s || name.toUtf8().size() > longestFileName)
+        fail(u"The address of package %1 does not end in the name of a .pkg file: %2"_s.arg(package.version,
+                                                                                            package.url));
+    return name;
+}
+
+QList<Package> chosen(const Arguments& arguments, const QList<Package>& packages)
+{
+    if (arguments.all)
+        return packages;
+    if (arguments.packageVersion.isEmpty())
+        return packages.isEmpty() ? packages : QList{packages.last()};
+    const auto found = std::ranges::find(packages, arguments.packageVersion, &Package::version);
+    return found == packages.end() ? QList<Package>{} : QList{*found};
+}
+
+ExitCode report(Terminal& terminal, const QString& line, SumAgreement agreement)
+{
+    terminal.print(line);
+    if (agreement == SumAgreement::Neither) {
+        terminal.complain(agreementText(agreement));
+        return ExitCode::SumDiffers;
+    }
+    terminal.print(agreementText(agreement));
+    return ExitCode::Fine;
+}
+
+/// Throws RunTimeError with a sentence for what cannot be downloaded.
+ExitCode downloadOne(const Arguments& arguments, Session& session, const Package& package,
+                     const QString& folder)
+{
+    Terminal& terminal = session.terminal();
+    const QString target = (folder.endsWith(u'/') ? folder : folder + u'/') + fileNameOf(package);
+    if (QFileInfo::exists(target) && !arguments.overwrite) {
+        const bool isFile = QFileInfo(target).isFile();
+        const SumAgreement agreement = isFile ? compareSum(target, package.sha1) : SumAgreement::Neither;
+        if (agreement == SumAgreement::WholeFile || agreement == SumAgreement::AllButTail)
+            return report(terminal, printable(u"%1  %2  is there already"_s.arg(package.version, target)),
+                          agreement);
+        fail(isFile ? u"%1 is there already and is not that package; --overwrite replaces it."_s.arg(target)
+                    : u"%1 is there already and is no file."_s.arg(target));
+    }
+    if (const std::optional<QString> problem = fetchPackage(session, package, target)) {
+        if (!problem->isEmpty())
+            terminal.complain(printable(*problem));
+        return ExitCode::Failed;
+    }
+    const qint64 size = QFileInfo(target).size();
+    const std::optional<qint64> wanted = package.size();
+    if (wanted && *wanted != size)
+        fail(u"%1 has %2 bytes, and the document says %3; --overwrite fetches it again."_s.arg(target)
+                 .arg(size)
+                 .arg(*wanted));
+    return report(terminal, printable(u"%1  %2  %3 bytes"_s.arg(package.version, target).arg(size)),
+                  compareSum(target, package.sha1));
+}
+
+} // namespace
+
+ExitCode runDownload(const Arguments& arguments, Session& session)
+{
+    Terminal& terminal = session.terminal();
+    const TitleUpdates updates = lookUp(session, arguments.gameId);
+    if (updates.outcome != TitleUpdates::Outcome::Found) {
+        terminal.complain(updates.problem);
+        return updates.outcome == TitleUpdates::Outcome::NoSuchTitle ? ExitCode::NoSuchTitle
+                                                                     : ExitCode::Failed;
+    }
+    const QList<Package> packages = chosen(arguments, updates.packages);
+    if (packages.isEmpty()) {
+        terminal.complain(
+            printable(arguments.packageVersion.isEmpty()
+                          ? u"%1 has no packages."_s.arg(arguments.gameId)
+                          : u"%1 has no package %2."_s.arg(arguments.gameId, arguments.packageVersion)));
+        return ExitCode::NoSuchTitle;
+    }
+    const QString folder = folderFor(arguments, session, updates.title);
+    ExitCode worst = ExitCode::Fine;
+    for (const Package& package : packages) {
+        ExitCode one = ExitCode::Failed;
+        try {
+            one = downloadOne(arguments, session, package, folder);
+        } catch (const RunTimeError& error) {
+            terminal.complain(printable(error.description()));
+        }
+        if (worst == ExitCode::Fine)
+            worst = one;
+    }
+    return worst;
+}
+
+} // namespace varnhold::cli

@@ -1,0 +1,47 @@
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/Session.h"
+#include "cli/Table.h"
+#include "lookup/UpdateServers.h"
+
+namespace varnhold::cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void addHost(Table& table, const QString& number, const QString& name, const QString& scheme,
+             const HostEntry& host)
+{
+    table.addRow({number, name, host.authority.isEmpty() ? u"(none)"_s : scheme + u"://"_s + host.authority,
+                  host.certificateFile.isEmpty() ? u"-"_s : host.certificateFile,
+                  host.allowsOldTls ? u"allowed"_s : u"-"_s});
+}
+
+} // namespace
+
+ExitCode runHosts(const Arguments& arguments, Terminal& terminal)
+{
+    const QString file = pathsFor(arguments).hostsIni();
+    const Hosts hosts = readHosts(file);
+    if (hosts.sample) {
+        terminal.print(
+            printable(u"%1: sample. Each start runs the sample service, varnhold-host, on free ports of "
+                      "this machine and asks it for everything."_s.arg(file)));
+        return ExitCode::Fine;
+    }
+    terminal.print(printable(file));
+    Table table({u"No"_s, u"Host of"_s, u"Address"_s, u"Authority"_s, u"Old TLS"_s});
+    for (int value = 1; value <= 6; ++value) {
+        const UpdateServer& server = *updateServer(value);
+        addHost(table, QString::number(value), QStringView(server.label).toString(),
+                QStringView(server.scheme).toString(), hosts.servers.at(static_cast<std::size_t>(value - 1)));
+    }
+    addHost(table, {}, u"Update files"_s, u"http"_s, hosts.update);
+    addHost(table, {}, u"Image search"_s, u"http"_s, hosts.imageSearch);
+    addHost(table, {}, u"Forum"_s, u"http"_s, hosts.forum);
+    terminal.print(table.text());
+    return ExitCode::Fine;
+}
+
+} // namespace varnhold::cli

@@ -1,0 +1,53 @@
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/Session.h"
+#include "cli/Terminal.h"
+#include "platform/RunTimeError.h"
+
+#include <QCoreApplication>
+
+using namespace varnhold;
+using namespace varnhold::cli;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ExitCode run(const Arguments& arguments, Terminal& terminal)
+{
+    switch (arguments.command) {
+    case Command::Help:
+        terminal.printRaw(helpText().toUtf8());
+        return ExitCode::Fine;
+    case Command::Version:
+        terminal.print(u"varnhold-cli "_s + QCoreApplication::applicationVersion());
+        return ExitCode::Fine;
+    case Command::Hosts:
+        return runHosts(arguments, terminal);
+    case Command::Lookup:
+    case Command::Download:
+        break;
+    }
+    Session session(arguments, terminal);
+    return arguments.command == Command::Lookup ? runLookup(arguments, session)
+                                                : runDownload(arguments, session);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"varnhold-cli"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VARNHOLD_VERSION));
+    Terminal terminal;
+    try {
+        return static_cast<int>(run(readArguments(QCoreApplication::arguments()), terminal));
+    } catch (const UsageError& usage) {
+        terminal.complain(printable(usage.problem));
+        terminal.complain(u"\"varnhold-cli --help\" tells more."_s);
+        return static_cast<int>(ExitCode::Usage);
+    } catch (const RunTimeError& error) {
+        terminal.complain(printable(error.description()));
+        return static_cast<int>(ExitCode::Failed);
+    }
+}
