@@ -21,7 +21,8 @@ namespace varnhold {
 
 namespace {
 
-constexpr qint64 chunkLimit = 1 << 20;
+// Half of what the kernel's pipe holds: pages that are not full still fit at once.
+constexpr qint64 chunkLimit = 512 * 1024;
 
 int errorNumber(int cause)
 {
