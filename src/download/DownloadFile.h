@@ -22,7 +22,8 @@ public:
     virtual void close() = 0;
     /// At the current position, which moves on.
     virtual void write(QByteArrayView bytes) = 0;
-    /// At the end of the file, whatever the position is; moves the socket's waiting chunk there. Bytes moved.
+    /// Moves the socket's waiting chunk to the end of the file, whatever the position is, which then stands
+    /// behind it. Bytes moved.
     virtual qint64 appendFrom(Socket& socket) = 0;
 };
 
