@@ -56,8 +56,10 @@ QString progressOf(const Package& package, const DownloadLabels& labels)
     const auto withoutBytes = [](const QString& text) { return text.section(u" ("_s, 0, 0); };
     if (labels.done.isEmpty())
         return package.version + u"  connecting ..."_s;
-    return u"%1  %2  %3 of %4  %5"_s.arg(package.version, labels.done, withoutBytes(labels.loaded),
-                                         withoutBytes(labels.fileSize), labels.speed);
+    const QString line = u"%1  %2  %3 of %4"_s.arg(package.version, labels.done, withoutBytes(labels.loaded),
+                                                   withoutBytes(labels.fileSize));
+    // The first half second has no speed.
+    return labels.speed.startsWith(u"0 ") ? line : line + u"  "_s + labels.speed;
 }
 
 } // namespace

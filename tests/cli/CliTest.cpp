@@ -1,0 +1,300 @@
+#include "support/PrintText.h"
+#include "support/RunningService.h"
+#include "support/TempRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+namespace varnhold::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct Ran
+{
+    int code = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+/// The built program, as a script would run it.
+Ran run(const QStringList& arguments, const QString& workingFolder = QDir::tempPath())
+{
+    QProcess process;
+    process.setWorkingDirectory(workingFolder);
+    process.start(QCoreApplication::applicationDirPath() + u"/varnhold-cli"_s, arguments);
+    if (!process.waitForFinished(60000))
+        return {};
+    Ran ran{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            process.readAllStandardOutput(), process.readAllStandardError()};
+    return ran;
+}
+
+/// A program folder whose hosts are one running service, and a folder for downloads.
+class Cli : public testing::Test
+{
+protected:
+    Cli()
+    {
+        const QByteArray http = service.httpAuthority().toLatin1();
+        root.write(u"hosts.ini"_s,
+                   "[Hosts]\r\nUse=these\r\n[Servers]\r\n1=" + service.httpsAuthority().toLatin1() +
+                       "\r\n1 CA=" + service.caFile().toUtf8() + "\r\n2=" + http +
+                       "\r\n4=localhost:" + service.httpsAuthority().section(u':', 1).toLatin1() +
+                       "\r\n[Update]\r\nHost=" + http + "\r\n");
+        root.makeFolder(u"down"_s);
+    }
+
+    Ran cli(const QStringList& arguments) { return run(QStringList{u"--root"_s, root.path({})} + arguments); }
+    Ran download(const QStringList& arguments)
+    {
+        return cli(QStringList{u"download"_s, u"--to"_s, root.path(u"down"_s)} + arguments);
+    }
+
+    static QString package(const QString& id, const QString& version)
+    {
+        return u"UP0001-%1_00-VARNHOLDSAMPLE00-A%2-V0100.pkg"_s.arg(id, version);
+    }
+    [[nodiscard]] QStringList downloaded() const { return QDir(root.path(u"down"_s)).entryList(QDir::Files); }
+
+    RunningService service;
+    TempRoot root;
+};
+
+TEST_F(Cli, ListsPackagesInAlignedColumns)
+{
+    const Ran ran = cli({u"lookup"_s, u"bcus-10027"_s});
+    EXPECT_EQ(ran.code, 0);
+    EXPECT_EQ(ran.err, "");
+    const QList<QByteArray> lines = ran.out.split('\n');
+    ASSERT_EQ(lines.size(), 5) << ran.out.constData();
+    EXPECT_EQ(lines.at(0), "BCUS10027  Copper Tide  [2 Updates]");
+    EXPECT_TRUE(lines.at(2).startsWith("01.01  02.7600  1.72 MB (1805056 bytes)    "))
+        << lines.at(2).constData();
+    for (const char* const heading : {"Version", "Bytes", "Sha1", "Url"}) {
+        const qsizetype column = lines.at(1).indexOf(heading);
+        for (int row = 2; row < 4; ++row) {
+            EXPECT_EQ(lines.at(row).sliced(column - 2, 2), "  ") << heading;
+            EXPECT_NE(lines.at(row).at(column), ' ') << heading;
+        }
+    }
+}
+
+TEST_F(Cli, TellsTheSameInJson)
+{
+    const Ran ran = cli({u"lookup"_s, u"BLUS30512"_s, u"--json"_s, u"--server"_s, u"2"_s});
+    EXPECT_EQ(ran.code, 0);
+    const QJsonObject title = QJsonDocument::fromJson(ran.out).object();
+    EXPECT_EQ(title.value("id"_L1), u"BLUS30512"_s);
+    EXPECT_EQ(title.value("title"_L1), u"Tin Cathedral"_s);
+    const QJsonArray packages = title.value("packages"_L1).toArray();
+    ASSERT_EQ(packages.size(), 3);
+    // A missing system version shifts those behind it forward, and the last row is left without.
+    EXPECT_EQ(packages.at(1).toObject().value("systemVersion"_L1), u"03.3000"_s);
+    EXPECT_TRUE(packages.at(2).toObject().value("systemVersion"_L1).isNull());
+    EXPECT_EQ(packages.at(2).toObject().value("size"_L1).toInteger(), 4'000'000);
+    EXPECT_EQ(packages.at(2).toObject().value("sha1"_L1).toString().size(), 40);
+    EXPECT_EQ(service.requests().last(), "/tppkg/np/'BLUS30512/BLUS30512-ver.xml");
+}
+
+TEST_F(Cli, DownloadsAndSaysWhichSumAgrees)
+{
+    const struct
+    {
+        QStringList arguments;
+        QStringList files;
+        QByteArray says;
+    } cases[] = {
+        {{u"BCUS10027"_s, u"--package"_s, u"01.01"_s},
+         {package(u"BCUS10027"_s, u"0101"_s)},
+         "all but the last 32 bytes"},
+        {{u"BLES00256"_s}, {package(u"BLES00256"_s, u"0102"_s)}, "over the whole file"}, // the last one
+        {{u"BCES11093"_s, u"--all"_s},
+         {package(u"BCES11093"_s, u"0101"_s), package(u"BCES11093"_s, u"0102"_s)},
+         "over the whole file"}, // through redirects
+    };
+    for (const auto& row : cases) {
+        const Ran ran = download(row.arguments);
+        EXPECT_EQ(ran.code, 0) << ran.err.constData();
+        EXPECT_EQ(ran.err, "");
+        EXPECT_EQ(ran.out.count(row.says), row.files.size()) << ran.out.constData();
+        for (const QString& file : row.files) {
+            const QByteArray bytes = root.read(u"down/"_s + file);
+            EXPECT_EQ(bytes.last(32).first(20),
+                      QCryptographicHash::hash(bytes.chopped(32), QCryptographicHash::Sha1));
+        }
+    }
+    EXPECT_EQ(downloaded().filter(u".pkg"_s).size(), 4);
+    EXPECT_EQ(downloaded().filter(u".txt"_s).size(), 4);
+    EXPECT_EQ(downloaded().filter(u".temp"_s).size(), 0);
+}
+
+TEST_F(Cli, KeepsFilesThatAreThere)
+{
+    const QString name = u"down/"_s + package(u"NPUB30055"_s, u"0101"_s);
+    ASSERT_EQ(download({u"NPUB30055"_s}).code, 0);
+    const QByteArray good = root.read(name);
+    const Ran again = download({u"NPUB30055"_s});
+    EXPECT_EQ(again.code, 0);
+    EXPECT_TRUE(again.out.contains("is there already"));
+
+    root.write(name, "mine");
+    EXPECT_EQ(download({u"NPUB30055"_s}).code, 1);
+    EXPECT_EQ(root.read(name), "mine");
+    // A rest of an earlier run must not spoil the new file either.
+    root.write(QString(name).replace(u".pkg"_s, u".temp"_s), QByteArray(100'000, 'x'));
+    EXPECT_EQ(download({u"NPUB30055"_s, u"--overwrite"_s}).code, 0);
+    EXPECT_EQ(root.read(name), good);
+}
+
+TEST_F(Cli, GoesToTheFolderOfTheSettings)
+{
+    root.write(u"Settings.ini"_s,
+               "[Settings]\r\nServer=2\r\nUse DLDir=1\r\nCreate GNFolder=1\r\nSaveDir Path=" +
+                   root.path(u"down"_s).toUtf8() + "\r\n");
+    EXPECT_EQ(cli({u"download"_s, u"NPUB30055"_s}).code, 0);
+    EXPECT_TRUE(QFileInfo::exists(
+        root.path(u"down/NPUB30055-[Kite Harbor]/"_s + package(u"NPUB30055"_s, u"0101"_s))));
+    EXPECT_TRUE(service.requests().first().startsWith("/tppkg/np/'"));
+}
+
+TEST_F(Cli, FailuresHaveCodesAndSentences)
+{
+    root.write(u"file"_s, "no folder");
+    service.with([](host::SampleService& running) {
+        const auto document = [&](const QString& id, const QByteArray& attributes) {
+            running.site().addPage(u"/tppkg/np/'%1/%1-ver.xml"_s.arg(id), "text/xml",
+                                   "<titlepatch titleid=\"" + id.toLatin1() +
+                                       "\"><package version=\"01.01\" " + attributes +
+                                       "><TITLE>Odd</TITLE></package></titlepatch>");
+        };
+        const QByteArray origin = "http://" + running.httpAuthority().toLatin1();
+        document(u"ODDD00001"_s, "size=\"4\" url=\"" + origin + "/four.pkg\" sha1sum=\"00\"");
+        document(u"ODDD00002"_s, "size=\"5\" url=\"" + origin + "/four.pkg\"");
+        document(u"ODDD00003"_s, "size=\"4\" url=\"" + origin + "/four.pkg?x=/../\"");
+        document(u"ODDD00004"_s,
+                 "size=\"4\" url=\"https://" + running.httpsAuthority().toLatin1() + "/four.pkg\"");
+        document(u"ODDD00005"_s, "size=\"4\" url=\"http://127.0.0.1:1/four.pkg\"");
+        document(u"ODDD00006"_s, "size=\"four\"");
+        document(u"ODDD00007"_s, "size=\"4\"");
+        running.site().addPage(u"/four.pkg"_s, "application/octet-stream", "four");
+    });
+    service.misbehave(u"*/'BCUS10001/*"_s, u"not-xml"_s);
+    service.misbehave(u"*/'BCUS10027/*"_s, u"early-close"_s);
+    service.misbehave(u"*/'BCES10002/*"_s, u"endless-redirect"_s);
+    service.misbehave(u"*BLES00256*A0101*"_s, u"404"_s);
+    service.misbehave(u"*BLES00256*A0102*"_s, u"early-close:500000"_s);
+    service.misbehave(u"*BCUS10244*.pkg"_s, u"reset"_s);
+    const QStringList server2 = {u"--server"_s, u"2"_s};
+    const struct
+    {
+        QStringList arguments;
+        int code;
+        QByteArray says;
+    } cases[] = {
+        {{}, 2, "A command is missing"},
+        {{u"fetch"_s, u"BCUS10001"_s}, 2, "no command \"fetch\""},
+        {{u"lookup"_s}, 2, "needs the id"},
+        {{u"lookup"_s, u"BCUS1000"_s}, 2, "is no id"},
+        {{u"lookup"_s, u"BCUS10\u00e401"_s}, 2, "is no id"},
+        {{u"lookup"_s, u"../../../x"_s}, 2, "is no id"},
+        {{u"lookup"_s, u"BCUS10001"_s, u"BCUS10027"_s}, 2, "is too much"},
+        {{u"lookup"_s, u"BCUS10001"_s, u"--all"_s}, 2, "--all does not go with"},
+        {{u"lookup"_s, u"BCUS10001"_s, u"--server"_s, u"7"_s}, 2, "1 to 6"},
+        {{u"lookup"_s, u"BCUS10001"_s, u"--nonsense"_s}, 2, "nonsense"},
+        {{u"download"_s, u"BCUS10001"_s, u"--all"_s, u"--package"_s, u"01.01"_s}, 2, "exclude"},
+        {{u"hosts"_s, u"BCUS10001"_s}, 2, "takes no id"},
+        {QStringList{u"lookup"_s, u"XXXX00000"_s} + server2, 3, "There are no updates of XXXX00000"},
+        {QStringList{u"lookup"_s, u"BCUS10001"_s} + server2, 1, "did not answer with the update document"},
+        {QStringList{u"lookup"_s, u"BCUS10027"_s} + server2, 1, "Failure occurred during download"},
+        {QStringList{u"lookup"_s, u"BCES10002"_s} + server2, 1, "Attempt to redirect the navigation failed"},
+        {QStringList{u"lookup"_s, u"ODDD00006"_s} + server2, 1, "Type mismatch"},
+        // The authority is not named for this one.
+        {{u"lookup"_s, u"BCES11093"_s, u"--server"_s, u"4"_s}, 1, "certificate of localhost"},
+        {{u"lookup"_s, u"BCUS10027"_s, u"--server"_s, u"5"_s}, 1, "no host for server 5"},
+        {{u"download"_s, u"BCUS10027"_s, u"--package"_s, u"09.99"_s}, 3, "has no package 09.99"},
+        {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"nowhere"_s)}, 1, "There is no folder"},
+        {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"file"_s)}, 1, "There is no folder"},
+        {{u"download"_s, u"BLES00256"_s, u"--package"_s, u"01.01"_s},
+         1,
+         "the server answered \"404 Not Found\""},
+        {{u"download"_s, u"BLES00256"_s}, 1, "has 500000 bytes, and the document says 2000000"},
+        {{u"download"_s, u"BCUS10244"_s}, 1, "reset by remote side"},
+        {QStringList{u"download"_s, u"ODDD00001"_s} + server2, 4, "SHA-1 does not agree"},
+        {QStringList{u"download"_s, u"ODDD00002"_s} + server2, 1, "is there already"},
+        {QStringList{u"download"_s, u"ODDD00002"_s, u"--overwrite"_s} + server2, 1, "the document says 5"},
+        {QStringList{u"download"_s, u"ODDD00003"_s} + server2, 1, "does not end in the name of a .pkg file"},
+        {QStringList{u"download"_s, u"ODDD00004"_s, u"--overwrite"_s} + server2, 1, "URL is not valid"},
+        {QStringList{u"download"_s, u"ODDD00005"_s, u"--overwrite"_s} + server2, 1, "rejected"},
+        {QStringList{u"download"_s, u"ODDD00007"_s} + server2, 1, "gives no address"},
+    };
+    for (const auto& row : cases) {
+        QStringList arguments = row.arguments;
+        if (arguments.value(0) == u"download" && !arguments.contains(u"--to"_s))
+            arguments += {u"--to"_s, root.path(u"down"_s)};
+        const Ran ran = cli(arguments);
+        EXPECT_EQ(ran.code, row.code) << row.arguments.join(u' ').toStdString() << '\n'
+                                      << ran.err.constData();
+        EXPECT_TRUE(ran.err.contains(row.says)) << row.arguments.join(u' ').toStdString() << '\n'
+                                                << ran.err.constData();
+        EXPECT_FALSE(ran.err.contains('\t'));
+    }
+    EXPECT_EQ(downloaded().filter(u".temp"_s), QStringList());
+}
+
+TEST_F(Cli, DocumentsCannotSteerTheTerminal)
+{
+    service.with([](host::SampleService& running) {
+        running.site().addPage(
+            u"/tppkg/np/'ODDD00001/ODDD00001-ver.xml"_s, "text/xml",
+            "<t id=\"ODDD00001\"><package version=\"01.01&#x85;\"/><TITLE>a&#x9b;31mb</TITLE></t>");
+    });
+    const Ran ran = cli({u"lookup"_s, u"ODDD00001"_s, u"--server"_s, u"2"_s});
+    EXPECT_EQ(ran.code, 0) << ran.err.constData();
+    EXPECT_TRUE(ran.out.contains("a?31mb")) << ran.out.constData();
+}
+
+TEST_F(Cli, ShowsHostsAndHelp)
+{
+    const Ran named = cli({u"hosts"_s});
+    EXPECT_EQ(named.code, 0);
+    EXPECT_TRUE(named.out.contains("https://" + service.httpsAuthority().toLatin1() + "  " +
+                                   service.caFile().toUtf8()));
+    EXPECT_TRUE(named.out.contains("(none)"));
+    const Ran help = run({u"--help"_s});
+    EXPECT_EQ(help.code, 0);
+    EXPECT_TRUE(help.out.contains("Exit codes:"));
+    EXPECT_EQ(run({u"--version"_s}).out, "varnhold-cli " VARNHOLD_VERSION "\n");
+    root.write(u"hosts.ini"_s, "[Hosts]\r\nUse=these\r\n[Servers]\r\n1=a b\r\n");
+    const Ran wrong = cli({u"hosts"_s});
+    EXPECT_EQ(wrong.code, 1);
+    EXPECT_TRUE(wrong.err.contains("[Servers] 1")) << wrong.err.constData();
+}
+
+TEST(CliAlone, BringsItsOwnSampleService)
+{
+    const TempRoot root;
+    const Ran hosts = run({u"hosts"_s, u"--root"_s, root.path({})});
+    EXPECT_TRUE(hosts.out.contains("sample")) << hosts.out.constData();
+    for (int server = 1; server <= 6; ++server) {
+        const Ran ran = run({u"lookup"_s, u"BCUS10001"_s, u"--root"_s, root.path({}), u"--server"_s,
+                             QString::number(server)});
+        EXPECT_EQ(ran.code, 0) << server << ran.err.constData();
+        EXPECT_TRUE(ran.out.startsWith("BCUS10001  Lantern Reach  [1 Update]\n")) << ran.out.constData();
+    }
+    // Into the current folder, where neither the settings nor --to name one.
+    root.makeFolder(u"here"_s);
+    EXPECT_EQ(run({u"download"_s, u"NPEB00112"_s, u"--root"_s, root.path({})}, root.path(u"here"_s)).code, 0);
+    EXPECT_EQ(QDir(root.path(u"here"_s)).entryList({u"*.pkg"_s}, QDir::Files).size(), 1);
+}
+
+} // namespace
+} // namespace varnhold::test
