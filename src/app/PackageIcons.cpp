@@ -107,7 +107,9 @@ QIcon packageIcon(const QString& key)
             painter.scale(scale, scale);
             (*draw)(painter);
             painter.end();
-            icon.addPixmap(picture);
+            // The selection tints no icon: its colour is what it says.
+            icon.addPixmap(picture, QIcon::Normal);
+            icon.addPixmap(picture, QIcon::Selected);
         }
     }
     made.insert(key, icon);

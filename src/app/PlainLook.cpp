@@ -2,7 +2,9 @@
 
 #include "app/PlainColors.h"
 #include "app/PlainFaces.h"
+#include "app/PlainStyle.h"
 #include "controls/ButtonEx/ButtonEx.h"
+#include "controls/CTooltip/CTooltip.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
@@ -11,7 +13,6 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QPainter>
-#include <QStyleFactory>
 
 namespace varnhold::plainlook {
 
@@ -27,7 +28,7 @@ QString styleSheet()
 {
     return uR"(
 QLabel { color: #dfe9f7; background: transparent; }
-QLabel#lblCaption, QLabel#lbl_Caption { font-weight: bold; }
+QWidget#frmMain > QLabel#lblCaption, QLabel#lbl_Caption { font-weight: bold; }
 QLabel#lblStatus, QLabel#lblBlank, QLabel#lblPath, QLabel#lblUrl, QLabel#lblPlatform,
 QLabel#lblCompanyProduct, QLabel#Label2, QLabel#lblVersion, QLabel[quiet="true"] { color: #9fb2cf; }
 QLabel#lblInfo, QLabel#lblName { color: #ffffff; font-weight: bold; }
@@ -43,23 +44,22 @@ QLineEdit, QPlainTextEdit, QTextEdit, QListWidget, QTreeView {
 QLineEdit { padding: 0 3px; border-radius: 2px; }
 QLineEdit:focus, QPlainTextEdit:focus, QListWidget:focus { border-color: #3fd4e8; }
 QWidget#picMain > QTreeView, QWidget#picMain > QTextEdit, QWidget#picMain > QPlainTextEdit { border: none; }
-QTreeView { alternate-background-color: #111c32; outline: none; }
-QTreeView::item { padding: 0 3px; }
-QTreeView::item:hover { background: #152239; }
-QTreeView::item:selected { background: #16506a; color: #ffffff; }
-QListWidget::item { height: 20px; padding-left: 6px; }
+QTreeView { outline: none; }
+QListWidget { outline: none; }
+QListWidget::item { height: 20px; border: 0px solid transparent; padding-left: 6px; color: #dfe9f7; }
+QListWidget::item:hover { background: #152239; }
 QListWidget::item:selected { background: #16506a; color: #ffffff; }
 QHeaderView { background: #152239; }
 QHeaderView::section { color: #9fb2cf; background: #152239; border: none;
     border-right: 1px solid #2d4166; border-bottom: 1px solid #2d4166; padding: 2px 4px; }
-QScrollBar:vertical { background: #0d1628; width: 10px; margin: 0; }
-QScrollBar:horizontal { background: #0d1628; height: 10px; margin: 0; }
-QScrollBar::handle { background: #344c78; border-radius: 3px; margin: 2px; }
-QScrollBar::handle:vertical { min-height: 20px; }
-QScrollBar::handle:horizontal { min-width: 20px; }
-QScrollBar::handle:hover { background: #3fd4e8; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+QAbstractScrollArea QScrollBar:vertical { background: #0d1628; width: 10px; margin: 0; }
+QAbstractScrollArea QScrollBar:horizontal { background: #0d1628; height: 10px; margin: 0; }
+QAbstractScrollArea QScrollBar::handle { background: #344c78; border-radius: 3px; margin: 2px; }
+QAbstractScrollArea QScrollBar::handle:vertical { min-height: 20px; }
+QAbstractScrollArea QScrollBar::handle:horizontal { min-width: 20px; }
+QAbstractScrollArea QScrollBar::handle:hover { background: #3fd4e8; }
+QAbstractScrollArea QScrollBar::add-line, QAbstractScrollArea QScrollBar::sub-line { width: 0; height: 0; }
+QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-page { background: none; }
 QMenu { color: #dfe9f7; background: #111c32; border: 1px solid #3d5686; padding: 4px 0; }
 QMenu::item { padding: 4px 28px 4px 20px; }
 QMenu::item:selected { background: #16506a; color: #ffffff; }
@@ -166,7 +166,7 @@ void dressList(MorphListBox& list)
 
 void apply(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new PlainStyle);
     QApplication::setPalette(palette());
     QFont font = QApplication::font();
     font.setPixelSize(textPixels);
@@ -183,8 +183,12 @@ void dress(QWidget& window)
         giveFaces(*button);
     for (MorphListBox* list : window.findChildren<MorphListBox*>())
         dressList(*list);
+    for (CTooltip* tip : window.findChildren<CTooltip*>()) {
+        tip->setForeColor(toColorValue(text));
+        tip->setBackColor(toColorValue(panelRaised));
+    }
     for (XP_ProgressBar* bar : window.findChildren<XP_ProgressBar*>())
-        bar->setColor(toColorValue(accent));
+        bar->setColor(toColorValue(QColor(0x0a4152)));
 }
 
 } // namespace varnhold::plainlook

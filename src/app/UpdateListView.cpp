@@ -31,6 +31,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
+        option->state.setFlag(QStyle::State_HasFocus, false); // the whole row shows it
         const QString key = index.data(UpdateList::IconKeyRole).toString();
         if (key.isEmpty())
             return;

@@ -5,6 +5,7 @@
 #include "app/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/CTooltip/CTooltip.h"
+#include "controls/DesignValues.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "lookup/TitleCleaner.h"
@@ -203,6 +204,7 @@ void frmMain::buildFoot()
     m_progress = new XP_ProgressBar(this);
     m_progress->setObjectName("ProgressBar1"_L1);
     m_progress->setAccessibleName(tr("Progress"));
+    m_progress->setScrolling(design::frmMain_ProgressBar1_Scrolling);
     m_progress->hide();
     m_count = new QLabel(u"0"_s, this);
     m_count->setObjectName("lblCnt"_L1);

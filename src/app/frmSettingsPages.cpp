@@ -189,7 +189,7 @@ void frmSettings::buildSounds()
         connect(play, &ButtonEx::Click, this,
                 [this, i] { m_services.sounds.playAlways(static_cast<Sound>(i)); });
     }
-    auto* hint = new QLabel(tr("Another file for the chosen row"), &page);
+    auto* hint = new QLabel(tr("Change the chosen row"), &page);
     hint->setProperty("quiet", true);
     hint->setGeometry(column + 68, 150, controlWidth - 104, rowHeight);
     ButtonEx* choose =

@@ -11,6 +11,7 @@
 #include "state/Sounds.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -22,9 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize windowSize{304, 164};
+constexpr QSize windowSize{352, 164};
 constexpr int margin = 8;
-constexpr int valueLeft = 96;
+constexpr int valueLeft = 108;
 constexpr int firstRow = 72;
 constexpr int rowHeight = 14;
 
@@ -115,22 +116,24 @@ void frm_Winsock::build()
     addHeading(u"Received :"_s, 1);
     m_lblLoaded = addLabel("lbl_Loaded", {valueLeft, rowTop(1), values, rowHeight});
     addHeading(u"kB's Received :"_s, 2);
-    m_lblBytesR = addLabel("lblBytesR", {valueLeft, rowTop(2), 96, rowHeight});
-    m_lblkBytes = addLabel("lblkBytes", {valueLeft + 100, rowTop(2), values - 100, rowHeight});
+    m_lblBytesR = addLabel("lblBytesR", {valueLeft, rowTop(2), 108, rowHeight});
+    m_lblkBytes = addLabel("lblkBytes", {valueLeft + 112, rowTop(2), values - 112, rowHeight});
     m_lblkBytes->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     addHeading(u"Speed :"_s, 3);
-    m_lblSpeed = addLabel("lbl_Speed", {valueLeft, rowTop(3), 96, rowHeight});
-    m_lblDone = addLabel("lbl_Done", {valueLeft + 100, rowTop(3), values - 100, rowHeight});
+    m_lblSpeed = addLabel("lbl_Speed", {valueLeft, rowTop(3), 108, rowHeight});
+    m_lblDone = addLabel("lbl_Done", {valueLeft + 112, rowTop(3), values - 112, rowHeight});
     m_lblDone->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     m_bar = new XP_ProgressBar(this);
     m_bar->setObjectName("PB"_L1);
     m_bar->setAccessibleName(tr("Downloaded"));
     m_bar->setScrolling(design::frm_Winsock_PB_Scrolling);
-    m_bar->setGeometry(margin, 132, inner, 8);
+    m_bar->setGeometry(margin, 131, inner, 9);
 
-    auto* image = addLabel("Image1", {margin, 145, 14, 14});
+    auto* image = new QLabel(this);
+    image->setObjectName("Image1"_L1);
     image->setPixmap(decoration());
+    image->setGeometry(margin, 145, 14, 14);
     auto* maker = addLabel("Label2", {margin + 20, 144, 100, 16});
     maker->setText(u"Brackwater"_s);
 
