@@ -14,7 +14,7 @@ namespace varnhold {
 namespace {
 
 constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
-constexpr qint64 largestFile = 16 * 1024 * 1024; // a larger one is no settings file: neither read nor written
+constexpr qint64 largestFile = 4 * 1024 * 1024; // a larger one is no settings file: neither read nor written
 
 /// The file as lines of bytes, each with its own line end, so that what is not touched is written back as it
 /// was, whatever it is.

@@ -102,11 +102,12 @@ Paths findPaths(const QString& given, const QString& executableFolder, const QSt
     const QString named = qEnvironmentVariable("VARNHOLD_ROOT");
     if (!named.isEmpty())
         return {usable(named)};
-    if (canHoldFiles(executableFolder))
+    const bool installed = QFileInfo(shareFolder).isDir();
+    if (!installed && canHoldFiles(executableFolder))
         return {QDir::cleanPath(QDir(executableFolder).absolutePath())};
     const QString own =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/varnhold"_s;
-    if (!QFileInfo::exists(own) && QFileInfo(shareFolder).isDir())
+    if (installed && !QFileInfo::exists(own))
         fill(own, shareFolder);
     return {usable(own)};
 }

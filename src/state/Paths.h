@@ -20,8 +20,9 @@ struct Paths
 };
 
 /// Finds the program's folder: the given one (from --root), else VARNHOLD_ROOT, else the folder of the
-/// executable when that is writable, else $XDG_DATA_HOME/varnhold, filled on first use from `shareFolder`
-/// when that exists. Throws RunTimeError 76 or 75 when the folder cannot be made or used.
+/// executable when that is writable and the program is not installed (no `shareFolder`), else
+/// $XDG_DATA_HOME/varnhold, filled on first use from `shareFolder` when that exists. Throws RunTimeError 76
+/// or 75 when the folder cannot be made or used.
 Paths findPaths(const QString& given, const QString& executableFolder, const QString& shareFolder);
 
 } // namespace varnhold

@@ -131,8 +131,12 @@ void Settings::chooseCertOption(int index)
 
 void Settings::chooseAutoSsl(int index)
 {
-    setChecked(Check::AutoSSL0, index == 0);
-    setChecked(Check::AutoSSL1, index == 1);
+    for (int i = 0; i < 2; ++i) {
+        const Check box = i == 0 ? Check::AutoSSL0 : Check::AutoSSL1;
+        m_values.checks.at(static_cast<std::size_t>(box)) = i == index;
+        write(settingsKeys::check(box), i == index ? u"1"_s : u"0"_s);
+    }
+    Q_EMIT changed();
 }
 
 int Settings::order(Order which) const

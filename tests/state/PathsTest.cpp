@@ -57,8 +57,9 @@ TEST_F(PathsTest, TheOrderOfPlaces)
     EXPECT_EQ(findPaths({}, portable, share).root, place.path(u"named/deep"_s));
     EXPECT_TRUE(QFileInfo(place.path(u"named/deep"_s)).isDir());
     qunsetenv("VARNHOLD_ROOT");
-    EXPECT_EQ(findPaths({}, portable + u'/', share).root, portable);
-    EXPECT_EQ(findPaths({}, nowhere, share).root, place.path(u"data/varnhold"_s));
+    EXPECT_EQ(findPaths({}, portable + u'/', place.path(u"no share"_s)).root, portable);
+    EXPECT_EQ(findPaths({}, nowhere, {}).root, place.path(u"data/varnhold"_s));
+    EXPECT_EQ(findPaths({}, portable, share).root, place.path(u"data/varnhold"_s)) << "installed";
 }
 
 TEST_F(PathsTest, TheUsersFolderIsFilledOnce)
