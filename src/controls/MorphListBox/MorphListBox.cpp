@@ -1,10 +1,17 @@
 #include "controls/MorphListBox/MorphListBox.h"
 
+#include "controls/MorphListBox/MorphListAccessible.h"
+#include "controls/MorphListBox/MorphListBackground.h"
 #include "controls/MorphListBox/MorphListKeys.h"
 
+#include <QAccessible>
+#include <QApplication>
+#include <QBitmap>
+#include <QDrag>
 #include <QElapsedTimer>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -42,7 +49,8 @@ MorphListBox::MorphListBox(QWidget* parent) : QWidget(parent), m_model(std::make
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    measure();
+    installMorphListAccessibility();
+    lookChanged();
 }
 
 MorphListBox::~MorphListBox() = default;
@@ -267,9 +275,20 @@ void MorphListBox::setEnabled(bool enabled)
 
 void MorphListBox::setRedrawFlag(bool redraw)
 {
+    if (m_redraw && !redraw && isVisible() && !size().isEmpty()) {
+        // Whatever uncovers the list meanwhile shows it as it was.
+        m_held = QPixmap(size() * devicePixelRatioF());
+        m_held.setDevicePixelRatio(devicePixelRatioF());
+        m_held.fill(Qt::transparent);
+        QPainter painter(&m_held);
+        m_painter.paint(painter, rect(), rect(), *m_model, m_look);
+    }
     m_redraw = redraw;
-    if (redraw)
-        lookChanged();
+    if (!redraw)
+        return;
+    m_held = {};
+    repaintDirty();
+    lookChanged();
 }
 
 void MorphListBox::setRightToLeft(bool rightToLeft)
@@ -351,7 +370,7 @@ void MorphListBox::setDisPictureMode(int mode)
 
 QSize MorphListBox::sizeHint() const
 {
-    return {120, 160};
+    return MorphListMetrics::sizeFor(measured(), 10, 14 * fontMetrics().averageCharWidth());
 }
 
 QSize MorphListBox::minimumSizeHint() const
@@ -362,7 +381,12 @@ QSize MorphListBox::minimumSizeHint() const
 void MorphListBox::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    m_painter.paint(painter, rect(), event->region(), *m_model, m_look);
+    if (m_redraw)
+        m_painter.paint(painter, rect(), event->region(), *m_model, m_look);
+    else if (!m_held.isNull())
+        painter.drawPixmap(0, 0, m_held);
+    else
+        painter.fillRect(rect(), palette().window());
 }
 
 void MorphListBox::resizeEvent(QResizeEvent*)
@@ -374,50 +398,71 @@ void MorphListBox::resizeEvent(QResizeEvent*)
 void MorphListBox::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
+    switch (event->type()) {
+    case QEvent::EnabledChange:
         m_model->setEnabled(!testAttribute(Qt::WA_ForceDisabled));
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FontChange ||
-        event->type() == QEvent::StyleChange)
         lookChanged();
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        lookChanged();
+        break;
+    default:
+        break;
+    }
 }
 
 void MorphListBox::mousePressEvent(QMouseEvent* event)
 {
-    deliver(m_model->press(buttonOf(event->button()), shiftOf(event->modifiers()), event->position().toPoint(),
-                         now()));
+    m_pressed = event->position().toPoint();
+    deliver(m_model->press(buttonOf(event->button()), shiftOf(event->modifiers()), m_pressed, now()));
 }
 
 void MorphListBox::mouseMoveEvent(QMouseEvent* event)
 {
-    deliver(
-        m_model->move(buttonOf(event->buttons()), shiftOf(event->modifiers()), event->position().toPoint()));
+    const QPoint position = event->position().toPoint();
+    const QPointer<MorphListBox> alive(this);
+    deliver(m_model->move(buttonOf(event->buttons()), shiftOf(event->modifiers()), position));
+    if (alive && m_model->dragEnabled && m_model->capture() == CaptureMode::SelectingRows &&
+        (position - m_pressed).manhattanLength() >= QApplication::startDragDistance())
+        dragRows();
 }
 
 void MorphListBox::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPoint position = event->position().toPoint();
     deliver(m_model->release(buttonOf(event->button()), shiftOf(event->modifiers()), position,
-                           rect().contains(position)));
+                             rect().contains(position)));
 }
 
 void MorphListBox::mouseDoubleClickEvent(QMouseEvent* event)
 {
     deliver(m_model->doubleClick(buttonOf(event->button()), shiftOf(event->modifiers()),
-                               event->position().toPoint(), now()));
+                                 event->position().toPoint(), now()));
 }
 
 void MorphListBox::wheelEvent(QWheelEvent* event)
 {
-    m_model->wheel(event->angleDelta().y());
+    const QPoint delta = event->angleDelta();
+    if (delta.y() == 0 && delta.x() != 0) {
+        event->ignore();
+        return;
+    }
+    if (isWholeNotch(delta.y()))
+        m_model->wheel(delta.y());
     deliver({});
 }
 
 void MorphListBox::keyPressEvent(QKeyEvent* event)
 {
+    const int key = keyCodeOf(event->key());
+    // What the list makes nothing of is left to its window.
+    event->setAccepted(key == keycode::enter || (key >= keycode::space && key <= keycode::down));
+    const QString text = event->text();
     const QPointer<MorphListBox> alive(this);
-    deliver(m_model->keyDown(keyCodeOf(event->key()), shiftOf(event->modifiers())));
-    if (alive && !event->text().isEmpty() && Enabled())
-        Q_EMIT KeyPress(event->text().at(0).unicode());
+    deliver(m_model->keyDown(key, shiftOf(event->modifiers())));
+    if (alive && !text.isEmpty() && Enabled())
+        Q_EMIT KeyPress(text.at(0).unicode());
 }
 
 void MorphListBox::keyReleaseEvent(QKeyEvent* event)
@@ -451,33 +496,116 @@ void MorphListBox::timerEvent(QTimerEvent* event)
 
 void MorphListBox::lookChanged()
 {
-    measure();
-    if (!m_redraw)
-        return;
-    m_painter.forgetBackground();
-    update();
+    m_look.font = font();
+    m_look.enabled = isEnabled();
+    m_model->setMeasure(measured());
+    shape();
+    m_painter.forget();
+    if (m_redraw)
+        update();
 }
 
-void MorphListBox::measure()
+MorphListMeasure MorphListBox::measured() const
 {
-    m_look.font = font();
-    MorphListMeasure measured;
-    measured.ScaleWidth = width();
-    measured.ScaleHeight = height();
-    measured.fontHeight = fontMetrics().height();
-    measured.BorderWidth = m_look.design.BorderWidth;
-    measured.ItemImageSize = m_look.ItemImageSize;
-    measured.ShowItemImages = m_look.ShowItemImages;
-    measured.RightToLeft = m_look.RightToLeft;
-    measured.scrollBarWidth = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    measured.thumbMinimum = style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, this);
-    m_model->setMeasure(measured);
+    MorphListMeasure measure;
+    measure.ScaleWidth = width();
+    measure.ScaleHeight = height();
+    measure.fontHeight = fontMetrics().height();
+    measure.BorderWidth = m_look.design.BorderWidth;
+    measure.ItemImageSize = m_look.ItemImageSize;
+    measure.ShowItemImages = m_look.ShowItemImages;
+    measure.RightToLeft = m_look.RightToLeft;
+    measure.scrollBarWidth = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    measure.thumbMinimum = style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, this);
+    return measure;
+}
+
+void MorphListBox::shape()
+{
+    if (!isCurved(m_look.design) || size().isEmpty()) {
+        if (!mask().isEmpty())
+            clearMask();
+        return;
+    }
+    QBitmap shown(size());
+    shown.clear();
+    QPainter painter(&shown);
+    painter.fillPath(morphOutline(size(), m_look.design, 0, 1), Qt::color1);
+    painter.end();
+    setMask(shown);
+}
+
+void MorphListBox::dragRows()
+{
+    auto* const drag = new QDrag(this);
+    auto* const text = new QMimeData;
+    text->setText(m_model->dragText());
+    drag->setMimeData(text);
+    const QPointer<MorphListBox> alive(this);
+    drag->exec(Qt::CopyAction);
+    if (alive)
+        m_model->cancelCapture(); // the drag has swallowed the release
+}
+
+bool MorphListBox::isWholeNotch(int delta)
+{
+    constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+    if (delta == 0 || qAbs(delta) >= notch) {
+        m_partOfNotch = 0;
+        return true;
+    }
+    // A fine wheel or a touch pad: its first piece counts, the rest of that notch does not.
+    if (m_partOfNotch == 0 || (m_partOfNotch < 0) != (delta < 0)) {
+        m_partOfNotch = delta;
+        return true;
+    }
+    m_partOfNotch += delta;
+    if (qAbs(m_partOfNotch) <= notch)
+        return false;
+    m_partOfNotch -= delta < 0 ? -notch : notch;
+    return true;
 }
 
 void MorphListBox::repaintDirty()
 {
-    if (m_redraw && m_model->takeDirty().any())
+    if (!m_redraw)
+        return;
+    const MorphListDirty dirty = m_model->takeDirty();
+    if (dirty.all) {
         update();
+    } else {
+        const MorphListMetrics& metrics = m_model->metrics();
+        for (const int row : dirty.rows) {
+            if (row >= m_model->topIndex() && row <= m_model->lastVisible())
+                update(metrics.row(row - m_model->topIndex()));
+        }
+        if (dirty.scrollBar)
+            update(metrics.bar());
+    }
+    if (QAccessible::isActive())
+        tellAssistiveTools(dirty.items);
+}
+
+void MorphListBox::tellAssistiveTools(bool itemsChanged)
+{
+    if (itemsChanged)
+        announceMorphListItems(this);
+    const int row = m_model->listIndex();
+    if (!itemsChanged && row == m_toldRow)
+        return;
+    m_toldRow = row;
+    announceMorphListRow(this, row);
+}
+
+void MorphListBox::activateRow(int index)
+{
+    deliver(m_model->activate(index));
+}
+
+QRect MorphListBox::rowRect(int index) const
+{
+    const int visible = index - m_model->topIndex();
+    return visible >= 0 && index <= m_model->lastVisible() ? m_model->metrics().row(visible) : QRect();
 }
 
 void MorphListBox::deliver(const MorphListEvents& events)

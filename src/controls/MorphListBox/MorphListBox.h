@@ -286,6 +286,11 @@ public:
     }
     void setDisPictureMode(int mode);
 
+    /// What a press on a row does, without a mouse: selects it and raises Click.
+    void activateRow(int index);
+    /// Where the item shows; empty when it does not.
+    [[nodiscard]] QRect rowRect(int index) const;
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -330,7 +335,11 @@ private:
         lookChanged();
     }
     void lookChanged();
-    void measure();
+    [[nodiscard]] MorphListMeasure measured() const;
+    void shape();
+    void dragRows();
+    bool isWholeNotch(int delta);
+    void tellAssistiveTools(bool itemsChanged);
     void repaintDirty();
     void deliver(const MorphListEvents& events);
 
@@ -340,6 +349,10 @@ private:
     QBasicTimer m_beat;
     int m_theme = morphThemeByHand;
     bool m_redraw = true;
+    QPixmap m_held; ///< what the list shows while RedrawFlag is false
+    QPoint m_pressed;
+    int m_partOfNotch = 0; ///< of the wheel
+    int m_toldRow = -1;    ///< the current row that assistive tools know
 };
 
 } // namespace varnhold

@@ -200,6 +200,37 @@ MorphListEvents MorphListModel::focusOut()
     return events;
 }
 
+void MorphListModel::cancelCapture()
+{
+    MorphListEvents unheard;
+    endCapture(unheard);
+}
+
+MorphListEvents MorphListModel::activate(int index)
+{
+    if (!m_enabled || !contains(index))
+        return {};
+    settle();
+    const int current = m_selection.listIndex();
+    const int focus = m_selection.focusRow();
+    m_selection.press(index, 0);
+    selectionChanged(current, focus, multiSelect() == SelectMode::Extended);
+    static_cast<void>(metrics());
+    scrolled(m_scroll.showRow(index));
+    return {{Kind::Click, 0, 0, {}}};
+}
+
+QString MorphListModel::dragText()
+{
+    settle();
+    QStringList texts;
+    for (int i = 0; i < count(); ++i) {
+        if (m_selection.showsSelected(i))
+            texts.append(m_items.text(i));
+    }
+    return texts.join(u'\n');
+}
+
 void MorphListModel::hold(CaptureMode mode, qint64 now, const MorphListEvent& down)
 {
     m_capture = mode;

@@ -13,6 +13,15 @@ MorphListMetrics::MorphListMetrics(const MorphListMeasure& measure, int count, i
     placeBar(first);
 }
 
+QSize MorphListMetrics::sizeFor(const MorphListMeasure& measure, int rows, int textWidth)
+{
+    const MorphListMetrics metrics(measure, 0, 0);
+    const int inset = measure.BorderWidth + Constants::rowTopInset;
+    const int image = measure.ShowItemImages ? metrics.imageSide() + 1 : 0;
+    return {metrics.contentLeft() + image + textWidth + measure.scrollBarWidth + measure.BorderWidth,
+            2 * inset + rows * metrics.rowHeight()};
+}
+
 void MorphListMetrics::placeRows()
 {
     const int font = std::max(1, m_measure.fontHeight);
@@ -68,6 +77,11 @@ QRect MorphListMetrics::mirrored(QRect rectangle) const
     return rectangle;
 }
 
+int MorphListMetrics::contentLeft() const
+{
+    return m_measure.BorderWidth + (m_measure.checkList ? Constants::checkTextInset : Constants::textInset);
+}
+
 QRect MorphListMetrics::trackAbove() const
 {
     return {m_track.left(), m_track.top(), m_track.width(), m_thumb.top() - m_track.top()};
@@ -94,18 +108,13 @@ QRect MorphListMetrics::checkBox(int visible) const
 
 QRect MorphListMetrics::image(int visible) const
 {
-    const int left =
-        m_measure.BorderWidth + (m_measure.checkList ? Constants::checkTextInset : Constants::textInset);
     const int top = m_rowTops.at(size_t(visible)) + (m_rowHeight - m_imageSide) / 2;
-    return mirrored(QRect(left, top, m_imageSide, m_imageSide));
+    return mirrored(QRect(contentLeft(), top, m_imageSide, m_imageSide));
 }
 
 QRect MorphListMetrics::text(int visible) const
 {
-    int left =
-        m_measure.BorderWidth + (m_measure.checkList ? Constants::checkTextInset : Constants::textInset);
-    if (m_measure.ShowItemImages)
-        left += m_imageSide + 1;
+    const int left = contentLeft() + (m_measure.ShowItemImages ? m_imageSide + 1 : 0);
     const int right = m_measure.BorderWidth + m_contentWidth;
     return mirrored(QRect(left, m_rowTops.at(size_t(visible)), std::max(0, right - left), m_rowHeight));
 }

@@ -43,6 +43,9 @@ public:
     /// `count` items, of which `first` is the top row.
     MorphListMetrics(const MorphListMeasure& measure, int count, int first);
 
+    /// The size at which that many rows with texts of that width fit beside a scroll bar.
+    [[nodiscard]] static QSize sizeFor(const MorphListMeasure& measure, int rows, int textWidth);
+
     [[nodiscard]] int rowHeight() const { return m_rowHeight; }
     [[nodiscard]] int rows() const { return m_rows; }           ///< rows that fit, 0 to rowLimit
     [[nodiscard]] int imageSide() const { return m_imageSide; } ///< 0 without images
@@ -74,6 +77,7 @@ public:
 private:
     void placeRows();
     void placeBar(int first);
+    [[nodiscard]] int contentLeft() const; ///< of the text, or of the image in front of it
     [[nodiscard]] QRect mirrored(QRect rectangle) const;
 
     MorphListMeasure m_measure;

@@ -4,6 +4,16 @@
 
 namespace varnhold {
 
+void MorphListDirty::addRow(int row)
+{
+    if (all || rows.contains(row))
+        return;
+    if (rows.size() == rows.capacity())
+        all = true;
+    else
+        rows.append(row);
+}
+
 void MorphListModel::AddItem(QString text, std::optional<int> index)
 {
     if (!m_enabled)
@@ -78,7 +88,7 @@ void MorphListModel::ReverseStringArray()
     settle();
     m_items.reverse();
     m_selection.onReversed();
-    m_dirty.all = true;
+    itemsChanged();
 }
 
 int MorphListModel::FindIndex(const QString& text, bool matchCase)
@@ -119,7 +129,7 @@ void MorphListModel::setText(int index, const QString& text)
         return;
     settle();
     m_items.setText(index, text);
-    m_dirty.rows.append(index);
+    m_dirty.addRow(index);
 }
 
 qint32 MorphListModel::itemData(int index)
@@ -148,7 +158,7 @@ void MorphListModel::setImageIndex(int index, int image)
         return;
     settle();
     m_items.images.set(index, image, count());
-    m_dirty.rows.append(index);
+    m_dirty.addRow(index);
 }
 
 bool MorphListModel::selected(int index)
@@ -165,7 +175,7 @@ void MorphListModel::setSelected(int index, bool selected)
     const int current = m_selection.listIndex();
     const int focus = m_selection.focusRow();
     m_selection.setSelected(index, selected);
-    m_dirty.rows.append(index);
+    m_dirty.addRow(index);
     selectionChanged(current, focus, false);
 }
 
@@ -309,6 +319,7 @@ void MorphListModel::itemsChanged()
 {
     m_metrics.reset();
     m_dirty.all = true;
+    m_dirty.items = true;
 }
 
 void MorphListModel::selectionChanged(int oldCurrent, int oldFocus, bool flags)
@@ -318,8 +329,8 @@ void MorphListModel::selectionChanged(int oldCurrent, int oldFocus, bool flags)
         return;
     }
     for (const int row : {oldCurrent, oldFocus, m_selection.listIndex(), m_selection.focusRow()}) {
-        if (row >= 0 && !m_dirty.rows.contains(row))
-            m_dirty.rows.append(row);
+        if (row >= 0)
+            m_dirty.addRow(row);
     }
 }
 

@@ -50,10 +50,11 @@ using MorphListEvents = QVarLengthArray<MorphListEvent, 3>;
 struct MorphListDirty
 {
     bool all = false;
+    bool items = false; ///< `all`, since the items are others
     bool scrollBar = false;
-    QVarLengthArray<int, 4> rows; ///< item indexes
+    QVarLengthArray<int, 8> rows; ///< item indexes, few; more count as `all`
 
-    [[nodiscard]] bool any() const { return all || scrollBar || !rows.isEmpty(); }
+    void addRow(int row);
 };
 
 /// Whole state and behaviour of a list, without a widget: items, selection, scrolling, mouse, keys, focus
@@ -137,6 +138,11 @@ public:
     void wheel(int delta); ///< below 1, also 0, scrolls down; only while focused
     void focusIn();
     [[nodiscard]] MorphListEvents focusOut();
+    void cancelCapture(); ///< the mouse went elsewhere for good
+    /// Presses and releases a row without a mouse.
+    [[nodiscard]] MorphListEvents activate(int index);
+    /// What a drag of rows carries: the selected texts, a line each.
+    [[nodiscard]] QString dragText();
 
     [[nodiscard]] MorphListDirty takeDirty();
 

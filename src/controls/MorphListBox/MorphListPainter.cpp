@@ -1,35 +1,158 @@
 #include "controls/MorphListBox/MorphListPainter.h"
 
+#include "controls/MorphListBox/MorphListBackground.h"
+#include "controls/MorphListBox/MorphListMarks.h"
 #include "controls/SystemColorsUi.h"
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace varnhold {
+
+namespace {
+
+/// An item's picture in device pixels. One without transparency of its own has magenta cut away.
+QImage itemImage(const QPixmap& picture, int side)
+{
+    QImage image = picture.toImage();
+    image.setDevicePixelRatio(1);
+    if (!image.hasAlphaChannel()) {
+        const QImage mask = image.createMaskFromColor(qRgb(255, 0, 255), Qt::MaskOutColor);
+        image.setAlphaChannel(mask);
+    }
+    return image.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
 
 void MorphListPainter::paint(QPainter& painter, const QRect& place, const QRegion& dirty,
                              MorphListModel& model, const MorphListLook& look)
 {
+    if (place.isEmpty())
+        return;
     painter.save();
-    painter.setClipRegion(dirty);
-    painter.fillRect(place, toQColor(look.design.BackColor2));
-    painter.setFont(look.font);
-    const MorphListMetrics& metrics = model.metrics();
-    for (int index = model.topIndex(); index <= model.lastVisible(); ++index) {
-        const int visible = index - model.topIndex();
-        if (model.showsSelected(index))
-            painter.fillRect(metrics.row(visible).translated(place.topLeft()),
-                             toQColor(look.design.SelColor1));
-        painter.setPen(
-            toQColor(model.showsSelected(index) ? look.design.HighlightColor : look.design.ForeColor));
-        painter.drawText(metrics.text(visible).translated(place.topLeft()),
-                         Qt::AlignVCenter | (look.RightToLeft ? Qt::AlignRight : Qt::AlignLeft),
-                         model.text(index));
+    // From here on a unit is a device pixel and the list begins at a whole one.
+    const QTransform device = painter.deviceTransform();
+    painter.resetTransform();
+    const QTransform base = painter.deviceTransform();
+    const QPointF corner = device.map(QPointF(place.topLeft()));
+    painter.setWorldTransform(QTransform::fromTranslate(qRound(corner.x()), qRound(corner.y())) *
+                              base.inverted());
+    if (m_ratio != device.m11()) {
+        forget();
+        m_ratio = device.m11();
     }
-    if (metrics.hasScrollBar()) {
-        painter.fillRect(metrics.track().translated(place.topLeft()), toQColor(look.design.TrackBarColor1));
-        painter.fillRect(metrics.thumb().translated(place.topLeft()), toQColor(look.design.ThumbColor2));
+    const QRect list = toDevice(QRect(QPoint(), place.size()));
+    renewBackground(list.size(), model.focused(), look);
+    m_texts.setFont(look.font, m_ratio);
+
+    const QRect touched = dirty.boundingRect().translated(-place.topLeft());
+    const QRect strip = toDevice(touched).intersected(list);
+    painter.drawImage(strip.topLeft(), m_background, strip);
+    const MorphListMetrics& metrics = model.metrics();
+    const int top = model.topIndex();
+    for (int index = top; index <= model.lastVisible(); ++index) {
+        const QRect row = metrics.row(index - top);
+        if (touched.intersects(row) && dirty.intersects(row.translated(place.topLeft())))
+            paintRow(painter, index, model, look);
+    }
+    if (metrics.hasScrollBar() && touched.intersects(metrics.bar())) {
+        m_scrollBar.paint(
+            painter, model, look.design, look.enabled, [this](const QRect& part) { return toDevice(part); },
+            std::max(1, qRound(m_ratio)));
     }
     painter.restore();
+}
+
+void MorphListPainter::forget()
+{
+    m_background = {};
+    m_selection = {};
+    m_images.clear();
+    m_scrollBar.forget();
+    m_texts.forget();
+}
+
+void MorphListPainter::paintRow(QPainter& painter, int index, MorphListModel& model,
+                                const MorphListLook& look)
+{
+    const MorphListDesign& design = look.design;
+    const MorphListMetrics& metrics = model.metrics();
+    const int visible = index - model.topIndex();
+    const QRect row = toDevice(metrics.row(visible));
+    const bool selected = model.showsSelected(index);
+    if (row.isEmpty())
+        return;
+    if (selected)
+        painter.drawImage(row.topLeft(), selectionStrip(row.size(), look), QRect(QPoint(), row.size()));
+
+    if (model.checkList()) {
+        const QRect box = toDevice(metrics.checkBox(visible));
+        const int line = std::max(1, qRound(m_ratio));
+        paintFrame(painter, box, line,
+                   toQColor(look.enabled ? design.CheckBoxColor : design.DisCheckboxColor));
+        if (model.selected(index)) {
+            paintCheckMark(painter, box, look.CheckStyle,
+                           toQColor(look.enabled ? design.CheckboxArrowColor : design.DisCheckboxArrowColor));
+        }
+    }
+    if (look.ShowItemImages)
+        paintImage(painter, toDevice(metrics.image(visible)), model.imageIndex(index), look);
+
+    const ColorValue color = selected ? (look.enabled ? design.HighlightColor : design.DisHighlightColor)
+                                      : (look.enabled ? design.ForeColor : design.DisForeColor);
+    m_texts.paint(painter, toDevice(metrics.text(visible)), model.text(index), toQColor(color),
+                  look.RightToLeft);
+
+    if (look.ShowSelectRect && model.focused() && index == model.focusRow()) {
+        paintDottedFrame(painter, row, std::max(1, qRound(m_ratio)),
+                         toQColor(look.enabled ? design.FocusRectColor : design.DisFocusRectColor));
+    }
+}
+
+void MorphListPainter::paintImage(QPainter& painter, const QRect& place, int image, const MorphListLook& look)
+{
+    if (image < 0 || image >= look.images.size() || look.images.at(image).isNull() || place.isEmpty())
+        return;
+    if (m_images.size() < look.images.size())
+        m_images.resize(look.images.size());
+    QImage& scaled = m_images[image];
+    if (scaled.height() != place.height())
+        scaled = itemImage(look.images.at(image), place.height());
+    painter.drawImage(place.topLeft(), scaled);
+}
+
+const QImage& MorphListPainter::selectionStrip(const QSize& size, const MorphListLook& look)
+{
+    // At fractional ratios rows differ by a pixel in height; the strip is a pixel higher and runs sideways.
+    if (m_selection.width() != size.width() || m_selection.height() < size.height()) {
+        const MorphListDesign& design = look.design;
+        m_selection = morphGradientImage({size.width(), size.height() + 1,
+                                          look.enabled ? design.SelColor1 : design.DisSelColor1,
+                                          look.enabled ? design.SelColor2 : design.DisSelColor2,
+                                          look.RightToLeft ? 180.0F : 0.0F, false, false});
+    }
+    return m_selection;
+}
+
+void MorphListPainter::renewBackground(const QSize& size, bool focused, const MorphListLook& look)
+{
+    if (m_background.size() == size && m_focusedBackground == focused)
+        return;
+    m_focusedBackground = focused;
+    m_background = paintMorphBackground({size, m_ratio, look.enabled, focused, look.design,
+                                         look.enabled ? look.Picture : look.DisPicture,
+                                         look.enabled ? look.PictureMode : look.DisPictureMode});
+}
+
+QRect MorphListPainter::toDevice(const QRect& logical) const
+{
+    // Edges are rounded, not sizes, so that neighbours meet.
+    const auto scaled = [this](int edge) { return qRound(edge * m_ratio); };
+    return {QPoint(scaled(logical.left()), scaled(logical.top())),
+            QPoint(scaled(logical.right() + 1) - 1, scaled(logical.bottom() + 1) - 1)};
 }
 
 } // namespace varnhold
