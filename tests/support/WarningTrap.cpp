@@ -21,8 +21,9 @@ void onMessage(QtMsgType type, const QMessageLogContext&, const QString& message
     std::fprintf(stderr, "%s\n", qPrintable(message));
     if (type != QtWarningMsg && type != QtCriticalMsg)
         return;
-    // The platform without a display says so whenever a tip or a menu comes up.
-    if (message == QLatin1String("This plugin does not support raise()"))
+    // The platform without a display says so whenever a tip or a menu comes up, or a window is shaped.
+    if (message == QLatin1String("This plugin does not support raise()") ||
+        message == QLatin1String("This plugin does not support setting window masks"))
         return;
     const QMutexLocker lock(&trapMutex);
     for (qsizetype i = 0; i < expected.size(); ++i) {

@@ -4,97 +4,87 @@
 
 namespace varnhold {
 
-CTooltip::CTooltip(QObject* parent) : QObject(parent) {}
+CTooltip::CTooltip(QObject* parent) : QObject(parent), m_state(*this) {}
 
-CTooltip::~CTooltip() = default;
+CTooltip::~CTooltip()
+{
+    Destroy();
+}
 
 bool CTooltip::Create(QWidget* owner)
 {
-    Destroy();
-    if (!owner)
-        return false;
-    TipTimes times;
-    times.delay = m_delayTime;
-    times.visible = m_visibleTime;
-    m_tip = std::make_unique<TipWindow>(owner, m_style == 1, m_centered, times);
-    m_tip->setText(m_tipText);
-    if (!m_title.isEmpty() || m_icon != 0)
-        m_tip->setTitle(m_icon, m_title);
-    if (m_foreColor != 0)
-        m_tip->setTextColor(m_foreColor);
-    if (m_backColor != 0)
-        m_tip->setBackColor(m_backColor);
-    return true;
+    m_owner = owner;
+    const bool made = m_state.Create();
+    m_owner = nullptr;
+    return made;
 }
 
 void CTooltip::Destroy()
 {
-    m_tip.reset();
-}
-
-bool CTooltip::exists() const
-{
-    return m_tip != nullptr;
+    m_state.Destroy();
 }
 
 QWidget* CTooltip::window() const
 {
-    return m_tip && m_tip->isVisible() ? m_tip.get() : nullptr;
+    return m_window && m_window->isVisible() ? m_window.data() : nullptr;
 }
 
-void CTooltip::setStyle(int style)
+bool CTooltip::createWindow(bool balloon)
 {
-    m_style = style == 1 ? 1 : 0;
+    if (!m_owner)
+        return false;
+    m_window = new TipWindow(m_owner, balloon);
+    connect(m_window, &QObject::destroyed, this, [this](const QObject* gone) {
+        // A newer window may stand in its place by now.
+        if (!m_window || m_window == gone)
+            m_state.forgetWindow();
+    });
+    return true;
 }
 
-void CTooltip::setCentered(bool centered)
+void CTooltip::destroyWindow()
 {
-    m_centered = centered;
+    if (!m_window)
+        return;
+    m_window->disconnect(this);
+    m_window->retire();
+    m_window.clear();
 }
 
-void CTooltip::setIcon(int icon)
+void CTooltip::addTool(bool centered, const QString& text)
 {
-    m_icon = icon;
-    if (m_tip && m_icon != 0 && !m_title.isEmpty())
-        m_tip->setTitle(m_icon, m_title);
+    m_window->setCentered(centered);
+    m_window->setText(text);
 }
 
-void CTooltip::setForeColor(quint32 color)
+void CTooltip::sendTitle(int icon, const QString& title)
 {
-    m_foreColor = color;
-    if (m_tip)
-        m_tip->setTextColor(color);
+    if (m_window)
+        m_window->setTitle(icon, title);
 }
 
-void CTooltip::setBackColor(quint32 color)
+void CTooltip::sendTextColor(ColorValue color)
 {
-    m_backColor = color;
-    if (m_tip)
-        m_tip->setBackColor(color);
+    if (m_window)
+        m_window->setTextColor(color);
 }
 
-void CTooltip::setTitle(const QString& title)
+void CTooltip::sendBackColor(ColorValue color)
 {
-    m_title = title;
-    if (m_tip && m_icon != 0 && !m_title.isEmpty())
-        m_tip->setTitle(m_icon, m_title);
+    if (m_window)
+        m_window->setBackColor(color);
 }
 
-void CTooltip::setTipText(const QString& text)
+void CTooltip::sendDelays(int visible, int initial)
 {
-    m_tipText = text;
-    if (m_tip)
-        m_tip->setText(text);
+    if (m_window)
+        m_window->start(visible, initial);
 }
 
-void CTooltip::setVisibleTime(int milliseconds)
+void CTooltip::sendText(const QString& text)
 {
-    m_visibleTime = milliseconds;
-}
-
-void CTooltip::setDelayTime(int milliseconds)
-{
-    m_delayTime = milliseconds;
+    if (m_window)
+        m_window->setText(text);
 }
 
 } // namespace varnhold

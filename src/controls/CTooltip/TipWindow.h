@@ -1,32 +1,37 @@
 #pragma once
 
-#include "controls/SystemColors.h"
+#include "controls/CTooltip/TipPainter.h"
+#include "controls/CTooltip/TipRest.h"
+#include "platform/Clock.h"
 
 #include <QBasicTimer>
-#include <QPointer>
 #include <QWidget>
 
 namespace varnhold {
 
-/// Milliseconds.
-struct TipTimes
-{
-    int delay = 500;
-    int visible = 5000;
-};
-
-/// The tip's own window. It watches its owner: shows when the pointer has rested there for the delay, hides
-/// after its time, or when the pointer leaves, a button or key goes down, or the owner goes away.
+/// The tip's own window, a child of its owner that ends with it. It watches its owner: shows when the pointer
+/// has rested there for the delay, hides after its time, when the pointer leaves, or at a press or a key.
 class TipWindow : public QWidget
 {
-public:
-    TipWindow(QWidget* owner, bool balloon, bool centered, TipTimes times);
+    Q_OBJECT
 
+public:
+    TipWindow(QWidget* owner, bool balloon);
+
+    void setCentered(bool centered);
     void setText(const QString& text);
     void setTitle(int icon, const QString& title);
     /// 0 is the platform's colour.
     void setTextColor(ColorValue color);
     void setBackColor(ColorValue color);
+    /// Milliseconds. Starts to wait when the pointer is on the owner already.
+    void start(int visible, int initial);
+
+    /// Hides for good and deletes itself when its own events are over.
+    void retire();
+
+    /// Title and text, for assistive tools.
+    [[nodiscard]] QString wholeText() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,19 +39,20 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void relayout();
+    void poll();
+    void act(TipRest::Act what);
+    void refresh();
+    void place();
 
-    QPointer<QWidget> m_owner;
-    TipTimes m_times;
-    QBasicTimer m_delayTimer;
-    QBasicTimer m_visibleTimer;
-    QString m_text;
-    QString m_title;
-    int m_icon = 0;
-    ColorValue m_textColor = 0;
-    ColorValue m_backColor = 0;
-    bool m_balloon;
-    bool m_centered;
+    QWidget& m_owner;
+    MonotonicClock m_clock;
+    QBasicTimer m_poll;
+    TipRest m_rest;
+    TipContent m_content;
+    TipPlace m_place;
+    QImage m_shape;
+    QPoint m_pointer; ///< where it was when the tip came
+    bool m_centered = false;
 };
 
 } // namespace varnhold
