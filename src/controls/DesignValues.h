@@ -25,9 +25,26 @@ inline constexpr int frmMain_ProgressBar1_Scrolling = progresslook::media;
 inline constexpr int frmSearch_PB_Scrolling = progresslook::media;
 inline constexpr int frm_Winsock_PB_Scrolling = progresslook::media;
 
-/// ucSlider1(0) to (4) of frmSettings: window opacity.
-inline constexpr int ucSlider1_Min = 0;
-inline constexpr int ucSlider1_Max = 255;
+/// Milliseconds between two looks of a ButtonEx at the pointer while it is over the button. Short enough that
+/// the hover face goes when the pointer does.
+inline constexpr int ButtonEx_Timer1_Interval = 20;
+
+/// Ends of a scroll bar or slider that picks a setting.
+struct Range
+{
+    int min;
+    int max;
+};
+
+inline constexpr Range ucSlider1_Range{0, 255}; ///< opacity; 0 to 4 of frmSettings
 inline constexpr int ucSlider1_Orientation = 0;
+inline constexpr Range Vs_Server_Range{1, 6};
+inline constexpr Range vscl_LBxTheme_Range{0, 10};
+inline constexpr Range vscl_LBxAlign_Range{0, 2};
+inline constexpr Range vscl_Align_Range{0, 5};
+inline constexpr Range vSearch_Range{1, 3};
+
+/// Theme of MorphListBox1 under a skin that names none.
+inline constexpr int MorphListBox1_Theme = 2;
 
 } // namespace varnhold::design

@@ -104,7 +104,7 @@ std::vector<BarRect> ProgressMetrics::divisions() const
 BarRect ProgressMetrics::searchBlock(int index) const
 {
     const double lag = (1.0 - m_percent / 100.0) * searchRun;
-    const int left = m_end + index * (m_blockWidth + searchBlockWidth) - static_cast<int>(lag);
+    const int left = m_end + index * (m_blockWidth + searchBlockWidth) - qRound(lag);
     return {left, 3, left + searchBlockWidth, qMax(3 + 9, m_breadth - 2)};
 }
 

@@ -94,13 +94,15 @@ QSize XP_ProgressBar::minimumSizeHint() const
     return {8, 8};
 }
 
+QImage XP_ProgressBar::hdc()
+{
+    pDraw();
+    return m_surface;
+}
+
 void XP_ProgressBar::paintEvent(QPaintEvent* /*event*/)
 {
-    const qreal ratio = devicePixelRatioF();
-    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
-                       static_cast<int>(std::ceil(height() * ratio)));
-    if (!m_drawn || m_surface.size() != pixels || !qFuzzyCompare(m_surface.devicePixelRatio(), ratio))
-        draw(pixels, ratio);
+    pDraw();
     QPainter(this).drawImage(0, 0, m_surface);
 }
 
@@ -117,10 +119,18 @@ void XP_ProgressBar::redraw()
     update();
 }
 
-void XP_ProgressBar::draw(QSize pixels, qreal ratio)
+// Brings the surface up to date with state, size and ratio.
+void XP_ProgressBar::pDraw()
 {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
+                       static_cast<int>(std::ceil(height() * ratio)));
+    if (m_drawn && m_surface.size() == pixels && qFuzzyCompare(m_surface.devicePixelRatio(), ratio))
+        return;
     if (m_surface.size() != pixels)
         m_surface = QImage(pixels, QImage::Format_RGB32);
+    if (m_surface.isNull())
+        return;
     m_surface.setDevicePixelRatio(1);
     {
         QtProgressSurface surface(m_surface, size(), ratio, font(), m_image);

@@ -67,8 +67,8 @@ public:
 
     /// Window system id of the window that shows the bar, 0 while there is none.
     [[nodiscard]] qulonglong hwnd() const { return effectiveWinId(); }
-    /// The off-screen surface as last drawn.
-    [[nodiscard]] QImage hdc() const { return m_surface; }
+    /// The off-screen surface, up to date; null while the control has no size.
+    [[nodiscard]] QImage hdc();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -79,7 +79,7 @@ protected:
 
 private:
     void redraw();
-    void draw(QSize pixels, qreal ratio);
+    void pDraw();
 
     ProgressState m_state;
     QPixmap m_image;

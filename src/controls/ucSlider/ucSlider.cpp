@@ -210,6 +210,10 @@ void ucSlider::mousePressEvent(QMouseEvent* event)
 
 void ucSlider::mouseMoveEvent(QMouseEvent* event)
 {
+    if ((event->buttons() & Qt::LeftButton) == 0) {
+        endDrag(); // the release went elsewhere, to a dialog that a handler opened
+        return;
+    }
     const int before = value();
     if (!m_state.drag(event->pos()))
         return;
