@@ -113,9 +113,8 @@ void ButtonEx::drawOn(QPainter& painter) const
         look.textColor = m_highlightColor;
     look.rightToLeft = m_rightToLeft;
     look.highlightColor = m_highlightColor;
-    // The bevel has its dots for the focus; faces get the ring, and only for a focus that came by a key.
-    look.highlight =
-        m_highlightDrawn || (look.skinned && m_allowFocus && m_state.hasFocus() && m_keyboardFocus);
+    // A focus that came by the mouse needs no ring.
+    look.highlight = m_highlightDrawn || (m_allowFocus && m_state.hasFocus() && m_keyboardFocus);
     paintButtonEx(painter, look);
 }
 

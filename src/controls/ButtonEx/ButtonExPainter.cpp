@@ -29,10 +29,14 @@ struct Shades
     /// What fills the button: hover and press tint it, away from white where there is nothing lighter.
     [[nodiscard]] QColor fill(int state) const
     {
+        constexpr int bright = 128;
         constexpr int nearlyWhite = 230;
-        if (state == buttonstate::over)
-            return mixed(face, qGray(face.rgb()) > nearlyWhite ? 0 : 255, 8);
-        return state == buttonstate::pressed ? mixed(face, 0, 12) : face;
+        const int grey = qGray(face.rgb());
+        if (state == buttonstate::pressed)
+            return mixed(face, 0, 12);
+        if (state != buttonstate::over)
+            return face;
+        return grey > nearlyWhite ? mixed(face, 0, 6) : mixed(face, 255, grey > bright ? 40 : 10);
     }
 
     static QColor mixed(const QColor& color, int with, int percent)
@@ -48,22 +52,38 @@ struct Shades
     QColor dark;
 };
 
-/// A frame of one pixel: left and top in one colour, right and bottom in another.
-void frame(QPainter& painter, const QRect& rect, const QColor& topLeft, const QColor& bottomRight)
+/// The width of a line in logical pixels: whole device pixels, so that no line is thicker than its opposite.
+double lineWidth(const QPainter& painter)
+{
+    const double ratio = painter.device()->devicePixelRatioF();
+    return std::max(1.0, std::round(ratio)) / ratio;
+}
+
+/// A frame of one line: left and top in one colour, right and bottom in another. `clipped` leaves the corner
+/// pixels out.
+void frame(QPainter& painter, const QRect& rect, const QColor& topLeft, const QColor& bottomRight,
+           bool clipped = false)
 {
     if (rect.isEmpty())
         return;
-    painter.fillRect(rect.left(), rect.top(), rect.width(), 1, topLeft);
-    painter.fillRect(rect.left(), rect.top(), 1, rect.height(), topLeft);
-    painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, bottomRight);
-    painter.fillRect(rect.right(), rect.top(), 1, rect.height(), bottomRight);
+    const double line = lineWidth(painter);
+    const int cut = clipped ? 1 : 0;
+    const double right = rect.left() + rect.width();
+    const double bottom = rect.top() + rect.height();
+    const double width = rect.width() - 2 * cut;
+    const double height = rect.height() - 2 * cut;
+    painter.fillRect(QRectF(rect.left() + cut, rect.top(), width, line), topLeft);
+    painter.fillRect(QRectF(rect.left(), rect.top() + cut, line, height), topLeft);
+    painter.fillRect(QRectF(rect.left() + cut, bottom - line, width, line), bottomRight);
+    painter.fillRect(QRectF(right - line, rect.top() + cut, line, height), bottomRight);
 }
 
 void dots(QPainter& painter, const QRect& rect, const QColor& color)
 {
+    const double line = lineWidth(painter);
     const auto dot = [&](int x, int y) {
         if ((x + y) % 2 == 0)
-            painter.fillRect(x, y, 1, 1, color);
+            painter.fillRect(QRectF(x, y, line, line), color);
     };
     for (int x = rect.left(); x <= rect.right(); ++x) {
         dot(x, rect.top());
@@ -78,6 +98,7 @@ void dots(QPainter& painter, const QRect& rect, const QColor& color)
 void stroke(QPainter& painter, const BevelStroke& stroke, const Shades& shades, const QColor& text)
 {
     const QRect outer = stroke.rect;
+    // Inner lines go first: at a fractional ratio they reach under the outer ones.
     const QRect inner = outer.adjusted(1, 1, -1, -1);
     switch (stroke.kind) {
     case BevelStroke::MonoFrame:
@@ -87,20 +108,20 @@ void stroke(QPainter& painter, const BevelStroke& stroke, const Shades& shades, 
         frame(painter, outer, shades.shadow, shades.shadow);
         break;
     case BevelStroke::Raised:
-        frame(painter, outer, shades.highlight, shades.dark);
         frame(painter, inner, shades.light, shades.shadow);
+        frame(painter, outer, shades.highlight, shades.dark);
         break;
     case BevelStroke::Sunken:
-        frame(painter, outer, shades.dark, shades.highlight);
         frame(painter, inner, shades.shadow, shades.light);
+        frame(painter, outer, shades.dark, shades.highlight);
         break;
     case BevelStroke::Bump:
-        frame(painter, outer, shades.highlight, shades.dark);
         frame(painter, inner, shades.shadow, shades.light);
+        frame(painter, outer, shades.highlight, shades.dark);
         break;
     case BevelStroke::Etched:
-        frame(painter, outer, shades.shadow, shades.highlight);
         frame(painter, inner, shades.highlight, shades.shadow);
+        frame(painter, outer, shades.shadow, shades.highlight);
         break;
     case BevelStroke::ThinRaised:
         frame(painter, outer, shades.highlight, shades.shadow);
@@ -193,10 +214,7 @@ void ring(QPainter& painter, const ButtonExLook& look)
     QColor color = toQColor(look.highlightColor);
     if (contrast(color, under) < enough)
         color = contrast(Qt::white, under) > contrast(Qt::black, under) ? Qt::white : Qt::black;
-    painter.fillRect(rect.left() + 1, rect.top(), rect.width() - 2, 1, color);
-    painter.fillRect(rect.left() + 1, rect.bottom(), rect.width() - 2, 1, color);
-    painter.fillRect(rect.left(), rect.top() + 1, 1, rect.height() - 2, color);
-    painter.fillRect(rect.right(), rect.top() + 1, 1, rect.height() - 2, color);
+    frame(painter, rect, color, color, true);
 }
 
 } // namespace
@@ -209,13 +227,16 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
     painter.save();
     painter.setClipRect(all, Qt::IntersectClip);
     const QColor text = toQColor(look.textColor);
+    bool hasDots = false;
     if (look.skinned) {
         drawSharp(painter, QPoint(0, 0), look.face);
     } else {
         const Shades shades(toQColor(look.backColor));
         painter.fillRect(all, shades.fill(look.bevel.state));
-        for (const BevelStroke& one : bevelStrokes(look.bevel))
+        for (const BevelStroke& one : bevelStrokes(look.bevel)) {
             stroke(painter, one, shades, text);
+            hasDots = hasDots || one.kind == BevelStroke::FocusDots;
+        }
     }
     std::optional<QRect> glyph;
     if (!look.glyph.isNull()) {
@@ -223,7 +244,7 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
         drawSharp(painter, glyph->topLeft(), look.glyph);
     }
     caption(painter, look, glyph);
-    if (look.highlight)
+    if (look.highlight && !hasDots)
         ring(painter, look);
     painter.restore();
 }

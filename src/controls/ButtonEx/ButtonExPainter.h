@@ -25,7 +25,7 @@ struct ButtonExLook
     ColorValue textColor = systemcolors::buttonText;
     bool rightToLeft = false;
     ColorValue highlightColor = systemcolors::buttonText;
-    bool highlight = false; ///< the control's own keyboard highlight, a ring inside the edge
+    bool highlight = false; ///< the control's own keyboard highlight: a ring, where the bevel draws no dots
 };
 
 /// Draws the button at (0, 0). Any size will do; nothing is drawn outside it.

@@ -24,8 +24,10 @@ using GalleryPages = std::vector<GalleryPage>;
 
 // One function a control, each in a source of its own beside this file. To add one: declare it here, list
 // it in allGalleryPages() (GalleryPages.cpp), and name its source in CMakeLists.txt.
+GalleryPages buttonExPages();
 GalleryPages progressBarPages();
 GalleryPages sliderPages();
+GalleryPages tooltipPages();
 
 /// All pages, in the order in which they are shown.
 GalleryPages allGalleryPages();

@@ -8,7 +8,7 @@ namespace varnhold {
 GalleryPages allGalleryPages()
 {
     GalleryPages all;
-    for (const auto& pagesOf : {progressBarPages, sliderPages}) {
+    for (const auto& pagesOf : {buttonExPages, progressBarPages, sliderPages, tooltipPages}) {
         GalleryPages pages = pagesOf();
         std::move(pages.begin(), pages.end(), std::back_inserter(all));
     }
