@@ -8,7 +8,8 @@ namespace varnhold {
 GalleryPages allGalleryPages()
 {
     GalleryPages all;
-    for (const auto& pagesOf : {buttonExPages, progressBarPages, sliderPages, tooltipPages}) {
+    for (const auto& pagesOf :
+         {morphListBoxPages, buttonExPages, tooltipPages, progressBarPages, sliderPages}) {
         GalleryPages pages = pagesOf();
         std::move(pages.begin(), pages.end(), std::back_inserter(all));
     }
