@@ -40,9 +40,9 @@ void setUp(QCommandLineParser& parser)
         {u"package"_s, u"download: the package of this version."_s, u"version"_s},
         {u"all"_s, u"download: all packages of the title."_s},
         {u"to"_s,
-         u"download: into this folder, which must exist. Else the download folder of the settings where that "
-         u"is "
-         "in use, else the current folder."_s,
+         u"download: into this folder, made when it is missing. Else the download folder of the settings "
+         u"where "
+         "that is in use, else the current folder."_s,
          u"folder"_s},
         {u"overwrite"_s, u"download: replace files that are there."_s},
         {u"root"_s, u"The program's folder, with its settings and hosts.ini."_s, u"folder"_s},

@@ -35,13 +35,16 @@ QString folderFor(const Arguments& arguments, const Session& session, const QStr
         if (settings.saveDir().tag.isEmpty())
             fail(u"The settings use a download folder and name none; name one with --to."_s);
         folder = titleFolder(settings, arguments.gameId, title);
-        if (!FolderExists(folder))
-            MakeFolder(folder);
     }
     if (folder.isEmpty())
         folder = QDir::currentPath();
-    if (!FolderExists(folder))
-        fail(u"There is no folder \"%1\"."_s.arg(folder));
+    if (!FolderExists(folder)) {
+        try {
+            MakeFolder(folder);
+        } catch (const RunTimeError& error) {
+            fail(u"There is no folder \"%1\", and it cannot be made: %2."_s.arg(folder, error.description()));
+        }
+    }
     return QDir::cleanPath(QDir(folder).absolutePath());
 }
 

@@ -28,18 +28,23 @@ void printTable(Terminal& terminal, const QString& gameId, const TitleUpdates& u
     terminal.print(table.text());
 }
 
+QJsonValue textOrNull(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
 void printJson(Terminal& terminal, const QString& gameId, const TitleUpdates& updates)
 {
     QJsonArray packages;
     for (const Package& package : updates.packages) {
         const std::optional<qint64> size = package.size();
+        const bool namesSystem = package.systemVersion != u"N/A";
         packages.append(QJsonObject{
             {u"version"_s, package.version},
-            {u"systemVersion"_s,
-             package.systemVersion == u"N/A" ? QJsonValue() : QJsonValue(package.systemVersion)},
+            {u"systemVersion"_s, namesSystem ? textOrNull(package.systemVersion) : QJsonValue()},
             {u"size"_s, size ? QJsonValue(*size) : QJsonValue()},
-            {u"sha1"_s, package.sha1},
-            {u"url"_s, package.url},
+            {u"sha1"_s, textOrNull(package.sha1)},
+            {u"url"_s, textOrNull(package.url)},
         });
     }
     const QJsonObject object{{u"id"_s, gameId}, {u"title"_s, updates.title}, {u"packages"_s, packages}};

@@ -50,7 +50,6 @@ protected:
                        "\r\n1 CA=" + service.caFile().toUtf8() + "\r\n2=" + http +
                        "\r\n4=localhost:" + service.httpsAuthority().section(u':', 1).toLatin1() +
                        "\r\n[Update]\r\nHost=" + http + "\r\n");
-        root.makeFolder(u"down"_s);
     }
 
     Ran cli(const QStringList& arguments) { return run(QStringList{u"--root"_s, root.path({})} + arguments); }
@@ -122,7 +121,7 @@ TEST_F(Cli, DownloadsAndSaysWhichSumAgrees)
          "over the whole file"}, // through redirects
     };
     for (const auto& row : cases) {
-        const Ran ran = download(row.arguments);
+        const Ran ran = download(row.arguments); // into a folder that the first one makes
         EXPECT_EQ(ran.code, 0) << ran.err.constData();
         EXPECT_EQ(ran.err, "");
         EXPECT_EQ(ran.out.count(row.says), row.files.size()) << ran.out.constData();
@@ -157,6 +156,7 @@ TEST_F(Cli, KeepsFilesThatAreThere)
 
 TEST_F(Cli, GoesToTheFolderOfTheSettings)
 {
+    root.makeFolder(u"down"_s);
     root.write(u"Settings.ini"_s,
                "[Settings]\r\nServer=2\r\nUse DLDir=1\r\nCreate GNFolder=1\r\nSaveDir Path=" +
                    root.path(u"down"_s).toUtf8() + "\r\n");
@@ -221,7 +221,7 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
         {{u"lookup"_s, u"BCES11093"_s, u"--server"_s, u"4"_s}, 1, "certificate of localhost"},
         {{u"lookup"_s, u"BCUS10027"_s, u"--server"_s, u"5"_s}, 1, "no host for server 5"},
         {{u"download"_s, u"BCUS10027"_s, u"--package"_s, u"09.99"_s}, 3, "has no package 09.99"},
-        {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"nowhere"_s)}, 1, "There is no folder"},
+        {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"no/where"_s)}, 1, "There is no folder"},
         {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"file"_s)}, 1, "There is no folder"},
         {{u"download"_s, u"BLES00256"_s, u"--package"_s, u"01.01"_s},
          1,
