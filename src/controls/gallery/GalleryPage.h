@@ -24,11 +24,8 @@ using GalleryPages = std::vector<GalleryPage>;
 
 // One function a control, each in a source of its own beside this file. To add one: declare it here, list
 // it in allGalleryPages() (GalleryPages.cpp), and name its source in CMakeLists.txt.
-<<<<<<< HEAD
 GalleryPages buttonExPages();
-=======
 GalleryPages morphListBoxPages();
->>>>>>> 9174074 (Show the list's themes and states in the gallery)
 GalleryPages progressBarPages();
 GalleryPages sliderPages();
 GalleryPages tooltipPages();
