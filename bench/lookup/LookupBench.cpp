@@ -1,0 +1,259 @@
+// Lookup: cutting a document into rows against an XML parser that copies the same bytes, and a whole lookup
+// over http on loopback against the network manager's bare fetch of the same address.
+
+#include "host/SampleService.h"
+#include "lookup/Lookup.h"
+#include "lookup/LookupView.h"
+#include "lookup/UpdateList.h"
+#include "platform/MessageBoxes.h"
+#include "platform/MessagePump.h"
+#include "platform/NetworkBrowser.h"
+#include "platform/SoundPlayer.h"
+#include "platform/XmlTreeText.h"
+#include "state/ApplicationState.h"
+#include "state/Hosts.h"
+#include "state/Paths.h"
+#include "state/Settings.h"
+#include "state/SettingsFile.h"
+#include "state/Sounds.h"
+#include "support/PairedRuns.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <pugixml.hpp>
+
+#include <cstdlib>
+
+namespace varnhold::bench {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString gameId = u"BLUS30443"_s;
+
+QByteArray documentOf(int packages)
+{
+    QByteArray document =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<titlepatch status=\"alive\" "
+        "titleid=\"BLUS30443\">\n<tag name=\"BLUS30443_T1\" popup=\"true\" signoff=\"true\">\n";
+    for (int i = 0; i < packages; ++i) {
+        const QByteArray number = QByteArray::number(i).rightJustified(5, '0');
+        document += "<package version=\"01." + number + "\" size=\"" +
+                    QByteArray::number(20480 + i * 9973LL) +
+                    "\" sha1sum=\"0123456789abcdef0123456789abcdef012" + number +
+                    "\" url=\"http://127.0.0.1:8080/tppkg/np/BLUS30443/BLUS30443_T1/00112233445566" + number +
+                    "/UP0001-BLUS30443_00-PATCH0000000" + number +
+                    "-A0101-V0100-PE.pkg\" ps3_system_ver=\"03.5500\">\n</package>\n";
+    }
+    return document + "<paramsfo><TITLE>Made Up: Update</TITLE></paramsfo></tag></titlepatch>\n";
+}
+
+class QuietView : public LookupView
+{
+public:
+    [[nodiscard]] QString gameIdText() const override { return gameId; }
+    void setGameIdText(const QString&) override {}
+    [[nodiscard]] QString info() const override { return m_info; }
+    void setInfo(const QString& text) override { m_info = text; }
+    void setBlank(const QString&) override {}
+    void setStatus(const QString&) override {}
+    void hideProgress() override {}
+    void showProgress() override {}
+    void setProgressValue(int) override {}
+    void showListViews() override {}
+    void autosizeColumns() override {}
+    [[nodiscard]] int selectedGameRow() const override { return -1; }
+    [[nodiscard]] QString selectedGameText() const override { return {}; }
+    QString selectTitleRow(int) override { return {}; }
+    void setTitleRow(int, const QString&) override {}
+
+private:
+    QString m_info;
+};
+
+class NoBoxes : public MessageBoxes
+{
+public:
+    BoxAnswer show(const MessageBox& box) override
+    {
+        std::fprintf(stderr, "unexpected box: %s\n", qPrintable(box.text));
+        std::exit(1);
+    }
+};
+
+class NoSound : public SoundPlayer
+{
+public:
+    int play(const QString&) override { return 0; }
+};
+
+class NoAlert : public SecurityAlert
+{
+public:
+    bool accept(const QString&, const QStringList&) override { return false; }
+    void cancel() override {}
+};
+
+/// What a lookup stands on. Downloads go to an empty folder of its own.
+struct World
+{
+    World() { settings.unwrittenValues().saveDir.tag = folder.path(); }
+
+    QTemporaryDir folder;
+    ApplicationState state;
+    Paths paths{folder.path()};
+    SettingsFile file{paths, state};
+    Settings settings{file};
+    UpdateList list;
+    QuietView view;
+    NoBoxes boxes;
+    NoSound player;
+    Sounds sounds{settings, player, state};
+};
+
+struct PugiRow
+{
+    std::string version, system, size, sum, url;
+};
+
+std::vector<PugiRow> pugiRows(const QByteArray& bytes)
+{
+    pugi::xml_document document;
+    document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    std::vector<PugiRow> rows;
+    for (const pugi::xml_node package : document.child("titlepatch").child("tag").children("package"))
+        rows.push_back({package.attribute("version").value(), package.attribute("ps3_system_ver").value(),
+                        package.attribute("size").value(), package.attribute("sha1sum").value(),
+                        package.attribute("url").value()});
+    return rows;
+}
+
+void require(bool condition, const char* what)
+{
+    if (!condition) {
+        std::fprintf(stderr, "%s\n", what);
+        std::exit(1);
+    }
+}
+
+void benchCut(int packages, int pairs, double atMost)
+{
+    const QByteArray bytes = documentOf(packages);
+    const QString tree = xmlTreeText(bytes).value();
+    World world;
+    world.settings.unwrittenValues().checks.at(static_cast<std::size_t>(Check::UseDLD)) = true;
+    world.settings.unwrittenValues().saveDir.tag = u"/nowhere"_s; // ends the marking at the first row
+    UpdateDocument document(world.state, world.settings, world.list, world.view, world.boxes);
+    const auto cut = [&] {
+        world.state.XMLText = tree;
+        const double seconds = secondsOf([&] { document.Fill_Updates(0); });
+        require(world.list.count() == packages, "rows are missing");
+        return seconds;
+    };
+    const auto parse = [&] {
+        std::vector<PugiRow> rows;
+        const double seconds = secondsOf([&] { rows = pugiRows(bytes); });
+        require(rows.size() == static_cast<std::size_t>(packages), "the parser's rows are missing");
+        return seconds;
+    };
+    const auto treeAndCut = [&] {
+        return secondsOf([&] {
+            world.state.XMLText = xmlTreeText(bytes).value();
+            document.Fill_Updates(0);
+        });
+    };
+    const std::string name = std::to_string(packages) + " packages, ";
+    printPaired(name + "text to rows / parser with copies", comparePaired(pairs, cut, parse), "ms", 1e3,
+                atMost);
+    printPaired(name + "bytes to tree text to rows / the same", comparePaired(pairs, treeAndCut, parse), "ms",
+                1e3);
+}
+
+/// The sample service in a thread of its own, with one document.
+class Service
+{
+public:
+    explicit Service(const QByteArray& document) : m_service(new host::SampleService)
+    {
+        m_service->moveToThread(&m_thread);
+        m_thread.start();
+        run([&] {
+            m_service->start();
+            m_service->site().addPage(u"/tppkg/np/'BLUS30443/BLUS30443-ver.xml"_s, "text/xml", document);
+            authority = m_service->httpAuthority();
+        });
+    }
+    ~Service()
+    {
+        run([this] { delete m_service; });
+        m_thread.quit();
+        m_thread.wait();
+    }
+    Q_DISABLE_COPY_MOVE(Service)
+
+    QString authority;
+
+private:
+    void run(const std::function<void()>& action)
+    {
+        QMetaObject::invokeMethod(m_service, action, Qt::BlockingQueuedConnection);
+    }
+
+    QThread m_thread;
+    host::SampleService* m_service;
+};
+
+void benchLookup(int packages, int pairs)
+{
+    const Service service(documentOf(packages));
+    World world;
+    world.settings.unwrittenValues().server = 2;
+    Hosts hosts;
+    hosts.servers.at(1).authority = service.authority;
+    NoAlert alert;
+    NetworkBrowser browser(alert, {});
+    EventLoopPump pump;
+    Lookup lookup({world.state, world.settings, hosts, world.list, world.view, browser, world.sounds,
+                   world.boxes, pump});
+    QNetworkAccessManager manager;
+    const QUrl url(u"http://"_s + service.authority + u"/tppkg/np/'BLUS30443/BLUS30443-ver.xml"_s);
+
+    const auto ours = [&] {
+        const double seconds = secondsOf([&] { lookup.btnFetch_Click(); });
+        require(world.list.count() == packages, "the lookup's rows are missing");
+        return seconds;
+    };
+    const auto bare = [&] {
+        return secondsOf([&] {
+            QNetworkReply* reply = manager.get(QNetworkRequest(url));
+            while (!reply->isFinished())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            require(!reply->readAll().isEmpty(), "the bare fetch got nothing");
+            delete reply;
+        });
+    };
+    printPaired(std::to_string(packages) + " packages, Enter to filled list / bare fetch",
+                comparePaired(pairs, ours, bare), "ms", 1e3, 1.5);
+}
+
+} // namespace
+
+} // namespace varnhold::bench
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    using namespace varnhold::bench;
+    benchCut(20000, 31, 1.0);
+    for (const int packages : {2000, 8000, 32000})
+        benchCut(packages, 15, 0);
+    for (const int packages : {3, 50})
+        benchLookup(packages, 201);
+    return 0;
+}
