@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -18,6 +19,20 @@ template <typename Work> double secondsOf(Work&& work)
     const auto start = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// Seconds of processor time that this process spends in a call: the measure for plain computing on a machine
+/// that does other work meanwhile.
+template <typename Work> double cpuSecondsOf(Work&& work)
+{
+    const auto now = [] {
+        std::timespec time{};
+        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+    };
+    const double start = now();
+    work();
+    return now() - start;
 }
 
 /// The middle value, or the mean of the middle two; 0 for none.

@@ -12,6 +12,14 @@ namespace {
 constexpr std::array<QStringView, static_cast<std::size_t>(PackageAttribute::Count)> names = {
     u"<package version", u"ps3_system_ver", u"size", u"sha1sum", u"url"};
 
+std::size_t attributeByLastCharacter(QChar last)
+{
+    for (std::size_t attribute = 0; attribute < names.size(); ++attribute)
+        if (names[attribute].back() == last)
+            return attribute;
+    return names.size();
+}
+
 constexpr std::size_t mostPieces = std::size_t{std::numeric_limits<qint16>::max()} + 2;
 
 /// Removes every occurrence that `find` tells (-1: none from there on), moving each stretch between them
@@ -34,9 +42,22 @@ template <typename Find> void removeAll(QString& text, qsizetype length, Find&& 
     text.truncate(kept);
 }
 
+constexpr QStringView opening = u"  <?xml version=";
+
+// A search for a single character, and a rare one, runs several times as fast as one for the whole.
+
+qsizetype findOpening(QStringView text, qsizetype from)
+{
+    constexpr qsizetype mark = 3;
+    static_assert(opening[mark] == u'?');
+    for (qsizetype at = text.indexOf(u'?', from + mark); at >= 0; at = text.indexOf(u'?', at + 1))
+        if (text.sliced(at - mark).startsWith(opening))
+            return at - mark;
+    return -1;
+}
+
 qsizetype findLineEnd(QStringView text, qsizetype from)
 {
-    // A search for the single character runs several times as fast as one for the pair.
     for (qsizetype at = text.indexOf(u'\r', from); at >= 0; at = text.indexOf(u'\r', at + 1))
         if (at + 1 < text.size() && text.at(at + 1) == u'\n')
             return at;
@@ -50,15 +71,11 @@ AttributeCut::AttributeCut(QStringView text)
     for (std::size_t attribute = 0; attribute < names.size(); ++attribute)
         addPiece(text, attribute, 0, 0);
     for (qsizetype sign = text.indexOf(u'='); sign >= 0; sign = text.indexOf(u'=', sign + 1)) {
-        if (sign + 1 >= text.size() || text.at(sign + 1) != u'"')
+        if (sign == 0 || sign + 1 >= text.size() || text.at(sign + 1) != u'"')
             continue;
-        const QStringView before = text.first(sign);
-        for (std::size_t attribute = 0; attribute < names.size(); ++attribute) {
-            if (before.endsWith(names.at(attribute))) {
-                addPiece(text, attribute, sign - names.at(attribute).size(), sign + 2);
-                break;
-            }
-        }
+        const std::size_t attribute = attributeByLastCharacter(text.at(sign - 1));
+        if (attribute < names.size() && text.first(sign).endsWith(names.at(attribute)))
+            addPiece(text, attribute, sign - names.at(attribute).size(), sign + 2);
     }
 }
 
@@ -81,9 +98,7 @@ void AttributeCut::addPiece(QStringView text, std::size_t attribute, qsizetype m
 
 void stripViewerMarks(QString& text)
 {
-    constexpr QStringView opening = u"  <?xml version=";
-    removeAll(text, opening.size(),
-              [](QStringView searched, qsizetype from) { return searched.indexOf(opening, from); });
+    removeAll(text, opening.size(), findOpening);
     removeAll(text, 2, findLineEnd);
 }
 

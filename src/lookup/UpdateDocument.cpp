@@ -12,6 +12,8 @@
 #include "state/Settings.h"
 #include "state/SizeText.h"
 
+#include <QStringBuilder>
+
 #include <limits>
 
 namespace varnhold {
@@ -44,36 +46,55 @@ template <typename Use> void eachValue(const std::vector<QStringView>& values, U
     }
 }
 
+double numberOf(QStringView value)
+{
+    // Digits alone, as good as always, need no closer look.
+    constexpr qsizetype exactDigits = 15;
+    quint64 number = 0;
+    for (const QChar digit : value) {
+        if (value.size() > exactDigits || digit < u'0' || digit > u'9')
+            return doubleFromText(value.toString());
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    return static_cast<double>(number);
+}
+
 QString sizeText(QStringView value)
 {
-    const QString raw = value.toString();
-    return Format_Size(doubleFromText(raw), 2, true) + u" ("_s + raw + u" bytes)"_s;
+    return Format_Size(numberOf(value), 2, true) % u" ("_s % value % u" bytes)"_s;
 }
 
 /// Rows of the list out of the document's text. Pieces are paired by their ordinals and nothing else; the
 /// first marker that has no row ends the filling with RunTimeError 35600, which is meant.
-void fillRows(UpdateList& list, QStringView text)
+void fillRows(UpdateList& list, const QString& text)
 {
     const AttributeCut cut(text);
     const auto& versions = cut.values(PackageAttribute::Version);
-    list.reserve(versions.size());
-    eachValue(versions, [&](int, QStringView value) { list.addRow(value.toString()); });
-    eachValue(cut.values(PackageAttribute::SystemVersion), [&](int row, QStringView value) {
-        list.setSubItem(row, UpdateList::Version, value.toString());
-    });
+    list.fillFrom(text, versions.size());
+    eachValue(versions, [&](int, QStringView value) { list.addRow(value); });
+    eachValue(cut.values(PackageAttribute::SystemVersion),
+              [&](int row, QStringView value) { list.setSubItem(row, UpdateList::Version, value); });
     for (int row = 1; row <= list.count(); ++row) {
-        if (!list.text(row).isEmpty() && list.subItem(row, UpdateList::Version).isEmpty()) {
+        if (!list.hasSubItem(row, UpdateList::Version)) {
             list.setSubItem(row, UpdateList::Version, u"N/A"_s);
             list.setReportIcon(row, u"n/a"_s);
         }
     }
     eachValue(cut.values(PackageAttribute::Size),
               [&](int row, QStringView value) { list.setSubItem(row, UpdateList::Size, sizeText(value)); });
-    eachValue(cut.values(PackageAttribute::Sha1), [&](int row, QStringView value) {
-        list.setSubItem(row, UpdateList::Binary, value.toString());
-    });
+    eachValue(cut.values(PackageAttribute::Sha1),
+              [&](int row, QStringView value) { list.setSubItem(row, UpdateList::Binary, value); });
     eachValue(cut.values(PackageAttribute::Url),
-              [&](int row, QStringView value) { list.setSubItem(row, UpdateList::Url, value.toString()); });
+              [&](int row, QStringView value) { list.setSubItem(row, UpdateList::Url, value); });
+}
+
+/// First place of a tag. Tags are few and single characters are found fast.
+qsizetype findTag(QStringView text, QStringView tag, qsizetype from = 0)
+{
+    qsizetype at = text.indexOf(u'<', from);
+    while (at >= 0 && !text.sliced(at).startsWith(tag))
+        at = text.indexOf(u'<', at + 1);
+    return at;
 }
 
 /// What stands between the first title tags, trimmed. RunTimeError 5 when either is missing.
@@ -81,10 +102,10 @@ QString titleIn(const QString& text)
 {
     const QString open = u"<TITLE>"_s;
     const QString close = u"</TITLE>"_s;
-    const qsizetype start = text.indexOf(open);
+    const qsizetype start = findTag(text, open);
     if (start < 0)
         throw RunTimeError(errors::invalidCall);
-    const qsizetype end = text.indexOf(close, start);
+    const qsizetype end = findTag(text, close, start);
     if (end < 0)
         throw RunTimeError(errors::invalidCall);
     QString title = trimBlanks(text.sliced(start, end - start));

@@ -3,6 +3,7 @@
 #include "platform/RunTimeError.h"
 
 #include <array>
+#include <functional>
 #include <limits>
 
 namespace varnhold {
@@ -61,32 +62,55 @@ void UpdateList::clear()
 {
     beginFill();
     m_rows.clear();
+    m_shared.clear();
+    m_own.clear();
     endFill();
 }
 
-void UpdateList::reserve(std::size_t rows)
+void UpdateList::fillFrom(const QString& text, std::size_t rows)
 {
+    m_shared = text;
     m_rows.reserve(rows);
 }
 
-void UpdateList::addRow(const QString& text)
+UpdateList::Cell UpdateList::store(QStringView text)
+{
+    const QChar* const begin = m_shared.constData();
+    // Pointers of different buffers have no order of their own; std::less gives them one.
+    const std::less<> before;
+    if (!before(text.data(), begin) && !before(begin + m_shared.size(), text.data() + text.size()))
+        return {text.data() - begin, text.size(), true};
+    m_own.append(text);
+    return {m_own.size() - text.size(), text.size(), false};
+}
+
+QStringView UpdateList::viewOf(const Cell& cell) const
+{
+    return cell.length < 0 ? QStringView()
+                           : QStringView(cell.isShared ? m_shared : m_own).sliced(cell.start, cell.length);
+}
+
+QString UpdateList::textOf(const Cell& cell) const
+{
+    return viewOf(cell).toString();
+}
+
+void UpdateList::addRow(QStringView text)
 {
     if (count() == mostRows)
         throw RunTimeError(errors::overflow);
     if (m_fills == 0)
         beginInsertRows({}, count(), count());
     Row& row = m_rows.emplace_back();
-    row.text = text;
+    row.cells[0] = store(text);
     row.icon = u"pkg"_s;
     if (m_fills == 0)
         endInsertRows();
 }
 
-void UpdateList::setSubItem(int row, SubItem item, const QString& text)
+void UpdateList::setSubItem(int row, SubItem item, QStringView text)
 {
-    Row& target = at(row);
-    target.subItems[item - 1] = text;
-    target.present[item - 1] = true;
+    at(row).cells[item] = store(text);
     tell(row, item);
 }
 
@@ -98,17 +122,17 @@ void UpdateList::setReportIcon(int row, const QString& key)
 
 QString UpdateList::text(int row) const
 {
-    return at(row).text;
+    return textOf(at(row).cells[0]);
 }
 
 QString UpdateList::subItem(int row, SubItem item) const
 {
-    return at(row).subItems[item - 1];
+    return textOf(at(row).cells[item]);
 }
 
 bool UpdateList::hasSubItem(int row, SubItem item) const
 {
-    return at(row).present[item - 1];
+    return at(row).cells[item].length >= 0;
 }
 
 QString UpdateList::icon(int row) const
@@ -143,7 +167,7 @@ void UpdateList::setCheckBoxes(bool shown)
 int UpdateList::findUrl(const QString& url) const
 {
     for (int row = 1; row <= count(); ++row)
-        if (m_rows[static_cast<std::size_t>(row - 1)].subItems[Url - 1] == url)
+        if (viewOf(m_rows[static_cast<std::size_t>(row - 1)].cells[Url]) == url)
             return row;
     return 0;
 }
@@ -166,7 +190,7 @@ QVariant UpdateList::data(const QModelIndex& index, int role) const
     const int column = index.column();
     switch (role) {
     case Qt::DisplayRole:
-        return column == 0 ? row.text : row.subItems[column - 1];
+        return textOf(row.cells[column]);
     case Qt::CheckStateRole:
         if (column == 0 && m_checkBoxes)
             return row.checked ? Qt::Checked : Qt::Unchecked;

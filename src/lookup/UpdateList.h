@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QString>
+#include <QStringView>
 
 #include <vector>
 
@@ -27,12 +28,14 @@ public:
 
     [[nodiscard]] int count() const;
     void clear();
-    void reserve(std::size_t rows);
+    /// Announces a fill of so many rows from one text. The list shares that text (no copy is made), and what
+    /// is set from views into it is kept as a place in it; all other texts are copied.
+    void fillFrom(const QString& text, std::size_t rows);
     /// Adds a row with small icon "pkg". RunTimeError 6 when the list would hold more rows than a 16-bit
     /// index reaches.
-    void addRow(const QString& text);
+    void addRow(QStringView text);
     /// Sets a sub-item though an earlier one may be missing. RunTimeError 35600 when row is not 1 to count().
-    void setSubItem(int row, SubItem item, const QString& text);
+    void setSubItem(int row, SubItem item, QStringView text);
     void setReportIcon(int row, const QString& key); ///< of sub-item 1
 
     [[nodiscard]] QString text(int row) const;                  ///< row text; 35600 out of range
@@ -61,20 +64,30 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    /// A stretch of the shared text or of the list's own; a length below 0: the sub-item is missing.
+    struct Cell
+    {
+        qsizetype start = 0;
+        qsizetype length = -1;
+        bool isShared = false;
+    };
     struct Row
     {
-        QString text;
-        QString subItems[4];
-        bool present[4] = {false, false, false, false};
+        Cell cells[5]; ///< row text, then the sub-items
         QString icon;
         QString reportIcon;
         bool checked = false;
     };
+    [[nodiscard]] Cell store(QStringView text);
+    [[nodiscard]] QStringView viewOf(const Cell& cell) const;
+    [[nodiscard]] QString textOf(const Cell& cell) const;
     Row& at(int row);
     [[nodiscard]] const Row& at(int row) const;
     void tell(int row, int column);
 
     std::vector<Row> m_rows;
+    QString m_shared; ///< the text that the fill came from
+    QString m_own;    ///< all other texts, one after the other
     int m_fills = 0;
     bool m_checkBoxes = false;
 };

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include <array>
 #include <cmath>
 
 namespace varnhold {
@@ -26,7 +27,24 @@ double withoutNegativeZero(double value)
 QString fixedNumber(double value, int decimals, Grouping grouping)
 {
     const double factor = std::pow(10, decimals);
-    const double rounded = withoutNegativeZero(std::round(value * factor) / factor);
+    const double scaled = std::round(value * factor);
+    const QLocale locale;
+    // Too small to group: put together from whole digits, at a fraction of the general conversion's time. A
+    // long update list is formatted row by row.
+    if (scaled >= 0 && scaled < 1000 * factor && decimals <= 9 && locale.zeroDigit() == u"0") {
+        const QString point = locale.decimalPoint();
+        std::array<QChar, 32> digits;
+        std::size_t first = digits.size();
+        auto left = static_cast<quint64>(scaled);
+        for (int place = 0; place <= decimals || left > 0; ++place, left /= 10) {
+            if (place == decimals && decimals > 0)
+                for (qsizetype i = point.size(); i > 0; --i)
+                    digits.at(--first) = point.at(i - 1);
+            digits.at(--first) = QChar(u'0' + static_cast<char16_t>(left % 10));
+        }
+        return QString(digits.data() + first, static_cast<qsizetype>(digits.size() - first));
+    }
+    const double rounded = withoutNegativeZero(scaled / factor);
     return displayLocale(grouping).toString(rounded, 'f', decimals);
 }
 
