@@ -4,9 +4,11 @@
 
 #include <QHostAddress>
 #include <QList>
+#include <QTimer>
 
 #include <memory>
 
+class QHostInfo;
 class QSocketNotifier;
 
 namespace varnhold {
@@ -33,7 +35,11 @@ public:
     QByteArrayView getData() override;
     qint64 moveData(int fileDescriptor, qint64 offset) override;
 
+private Q_SLOTS:
+    void onLookedUp(const QHostInfo& info);
+
 private:
+    void onSoon();
     void tryNextAddress();
     bool startConnect(const QHostAddress& address);
     void watch();
@@ -53,9 +59,11 @@ private:
     std::unique_ptr<QSocketNotifier> m_writable;
     QList<QHostAddress> m_addresses; ///< still to be tried
     quint16 m_port = 0;
+    QTimer m_soon;            ///< starts from the event loop what needs no lookup
+    int m_soonError = 0;      ///< with it when there is no address to try
     int m_lookup = -1;        ///< running name lookup
     int m_lastError = 0;      ///< errno of the last address tried
-    quint32 m_connection = 0; ///< counts connections, so that what was queued for an old one is known
+    quint32 m_connection = 0; ///< counts connections: tells whether a handler has closed this one
     QByteArray m_unsent;
     qint64 m_waiting = 0; ///< what is left of the chunk that is handed over now
     QByteArray m_chunk;
