@@ -2,6 +2,7 @@
 
 #include "download/DownloadTexts.h"
 #include "download/NumericValue.h"
+#include "download/PhaseWords.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"
@@ -376,8 +377,8 @@ void DownloadClient::lblName_Click()
 
 void DownloadClient::onError(int number, const QString& description)
 {
-    m_services.boxes.show(
-        {description, u"Error "_s + QString::number(number), BoxIcon::Critical, BoxButtons::Ok});
+    m_services.boxes.show({description, errorWord.toString() + u' ' + QString::number(number),
+                           BoxIcon::Critical, BoxButtons::Ok});
 }
 
 void DownloadClient::closeFile()
@@ -404,7 +405,7 @@ void DownloadClient::unload()
 
 void DownloadClient::exclaim(const QString& text)
 {
-    m_services.boxes.show({text, u"Error"_s, BoxIcon::Exclamation, BoxButtons::Ok});
+    m_services.boxes.show({text, errorWord.toString(), BoxIcon::Exclamation, BoxButtons::Ok});
 }
 
 } // namespace varnhold

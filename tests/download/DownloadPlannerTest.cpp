@@ -1,8 +1,11 @@
 #include "download/DownloadPlanner.h"
 #include "download/DownloadClient.h"
+#include "download/SkinDownloads.h"
 #include "lookup/UpdateList.h"
 #include "platform/RunTimeError.h"
+#include "platform/Shell.h"
 #include "state/ApplicationState.h"
+#include "state/Hosts.h"
 #include "state/Settings.h"
 #include "state/SettingsFile.h"
 #include "state/Sounds.h"
@@ -367,6 +370,21 @@ TEST_F(DownloadPlannerTest, marksTheRowAtTheEnd)
         EXPECT_EQ(list.icon(1), c.icon) << c.header.toStdString();
         EXPECT_FALSE(list.isChecked(1));
     }
+}
+
+TEST_F(DownloadPlannerTest, opensTheForumForSkins)
+{
+    struct FakeShell : Shell
+    {
+        void open(const QString& target) override { opened.append(target); }
+        void explore(const QString&) override { ADD_FAILURE(); }
+        QStringList opened;
+    } shell;
+    Hosts hosts;
+    hosts.forum.authority = u"forum.test:81"_s;
+    mnuSkinDL_Click(sounds, shell, hosts);
+    EXPECT_EQ(shell.opened, QStringList{u"http://forum.test:81/forum/viewtopic.php?p=943#943"_s});
+    EXPECT_EQ(player.played, QStringList{u"/menu.wav"_s});
 }
 
 } // namespace
