@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace varnhold {
@@ -15,6 +16,16 @@ constexpr int margin = 16;
 constexpr int titleHeight = 26;
 constexpr int columnCount = 3;
 
+void roundColors(QImage& image)
+{
+    const auto rounded = [](int channel) { return qMin(255, (channel + 2) / 4 * 4); };
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            line[x] = qRgb(rounded(qRed(line[x])), rounded(qGreen(line[x])), rounded(qBlue(line[x])));
+    }
+}
+
 } // namespace
 
 QImage renderPage(const GalleryPage& page)
@@ -23,8 +34,11 @@ QImage renderPage(const GalleryPage& page)
     return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-QImage contactSheet(const GalleryPages& pages)
+QImage contactSheet(const GalleryPages& allPages)
 {
+    GalleryPages pages;
+    std::copy_if(allPages.begin(), allPages.end(), std::back_inserter(pages),
+                 [](const GalleryPage& page) { return page.onSheet; });
     std::vector<QImage> pictures;
     std::vector<QRect> places;
     int columnWidth = 0;
@@ -55,6 +69,8 @@ QImage contactSheet(const GalleryPages& pages)
         painter.drawText(places.at(i).topLeft() - QPoint(0, 7), pages.at(i).title);
         painter.drawImage(places.at(i).topLeft(), pictures.at(i));
     }
+    painter.end();
+    roundColors(sheet);
     return sheet;
 }
 

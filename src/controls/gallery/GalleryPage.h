@@ -18,6 +18,7 @@ struct GalleryPage
     /// owns it, shows it in a window, or renders it into `name`.png. It looks the same on every run: no
     /// clock, no random numbers, no network.
     std::function<QWidget*()> make;
+    bool onSheet = true; ///< also on the contact sheet, which has to stay small
 };
 
 using GalleryPages = std::vector<GalleryPage>;

@@ -42,7 +42,7 @@ MorphListBox* list(int theme, int rows = 24)
     auto* made = new MorphListBox;
     made->setTheme(theme);
     made->setSorted(false);
-    made->resize(132, 140);
+    made->resize(112, 104);
     for (int row = 0; row < rows; ++row)
         made->AddItem(u"VHLD%1"_s.arg(10001 + 37 * row));
     made->setListIndex(2);

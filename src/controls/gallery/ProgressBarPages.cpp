@@ -125,7 +125,7 @@ GalleryPages progressBarPages()
 {
     return {
         {u"progressbar-looks"_s, u"XP_ProgressBar: looks"_s, horizontal},
-        {u"progressbar-text"_s, u"XP_ProgressBar: looks with text"_s, withText},
+        {u"progressbar-text"_s, u"XP_ProgressBar: looks with text"_s, withText, false},
         {u"progressbar-vertical"_s, u"XP_ProgressBar: upright"_s, vertical},
         {u"progressbar-details"_s, u"XP_ProgressBar: hatches, heights, blocks"_s, details},
     };

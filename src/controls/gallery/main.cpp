@@ -24,7 +24,8 @@ bool save(const QImage& picture, const QString& path)
     // Rendered for looking at: the pixels count, not the size in inches that a ratio would imply.
     QImage plain = picture;
     plain.setDevicePixelRatio(1);
-    if (plain.save(path))
+    constexpr int smallest = 0; // of the quality, which for this format is how little is packed
+    if (plain.save(path, nullptr, smallest))
         return true;
     std::fprintf(stderr, "controls-gallery: cannot write %s\n", qPrintable(path));
     return false;
