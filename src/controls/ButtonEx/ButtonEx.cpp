@@ -3,6 +3,7 @@
 #include "controls/ButtonEx/AccessibleButtonEx.h"
 #include "controls/ButtonEx/ButtonExPainter.h"
 #include "controls/ButtonEx/TransparentCopy.h"
+#include "controls/DesignValues.h"
 #include "platform/Twips.h"
 
 #include <QAccessible>
@@ -22,7 +23,7 @@ using namespace buttonstate;
 
 namespace {
 
-constexpr int timer1Interval = 20;
+constexpr int timer1Interval = design::ButtonEx_Timer1_Interval;
 
 int buttonNumbers(Qt::MouseButtons buttons)
 {
