@@ -19,10 +19,11 @@ Program::Program(const Paths& paths, World world)
       m_menu(m_sounds),
       m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen}),
       m_settingsWindow({m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths}),
-      m_certificates(m_alert, m_settings,
-                     {.pressYes = [this] { return m_alert.pressYes(); },
-                      .showCaption = [this](const QString& text) { m_main.setCaption(text); }}),
-      m_browser(m_certificates, [this](const QString& authority) { return tlsOf(authority); }),
+      m_autoAlert(m_alert, m_settings,
+                  {.pressYes = [this] { return m_alert.pressYes(); },
+                   .caption = [this] { return m_main.caption(); },
+                   .setCaption = [this](const QString& text) { m_main.setCaption(text); }}),
+      m_browser(m_autoAlert, [this](const QString& authority) { return tlsOf(authority); }),
       m_lookup({m_state, m_settings, m_hosts, m_list, m_main, m_browser, m_sounds, m_world.boxes, m_pump}),
       m_downloads({.client = {m_world.sockets, m_files, m_clock, m_pump, m_world.boxes,
                               QCoreApplication::applicationName()},
@@ -44,7 +45,7 @@ Program::Program(const Paths& paths, World world)
                  .pump = m_pump,
                  .screen = m_world.screen,
                  .browser = m_browser,
-                 .certificates = m_certificates,
+                 .certificates = m_autoAlert.watch(),
                  .main = m_main,
                  .settingsWindow = m_settingsWindow,
                  .skin = plainlook::dress,
@@ -92,7 +93,7 @@ void Program::connectMainWindow()
     connect(&m_main, &frmMain::closedByDesktop, this, [this] { m_world.endProcess(); });
     connect(&m_main, &frmMain::layoutChanged, this, [this] { plainlook::dress(m_main); });
     m_main.setTipTitle([this] { return m_lookup.title(); });
-    connect(&m_settingsWindow, &frmSettings::autoSslReleased, this, [this] { m_certificates.start(); });
+    connect(&m_settingsWindow, &frmSettings::autoSslReleased, this, [this] { m_autoAlert.watch().start(); });
     connect(&m_browser, &BrowserControl::statusTextChanged, this, [this] {
         if (m_main.showsPage())
             m_main.setPage(m_browser.bodyText());

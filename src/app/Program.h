@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/CertificateWatch.h"
+#include "app/AutoAlert.h"
 #include "app/DownloadWindows.h"
 #include "app/ExitPath.h"
 #include "app/StartUp.h"
@@ -95,7 +95,7 @@ private:
     frmMain m_main;
     frmSettings m_settingsWindow;
     SecurityAlertWindow m_alert;
-    CertificateWatch m_certificates;
+    AutoAlert m_autoAlert;
     NetworkBrowser m_browser;
     Lookup m_lookup;
     DownloadWindows m_downloads;

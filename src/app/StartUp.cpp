@@ -1,10 +1,10 @@
 #include "app/StartUp.h"
 
-#include "app/CertificateWatch.h"
 #include "app/MainLayout.h"
 #include "app/frmMain.h"
 #include "app/frmSettings.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "lookup/CertificateWatch.h"
 #include "platform/BrowserControl.h"
 #include "platform/CaptionDrag.h"
 #include "platform/MessageBoxes.h"
@@ -76,8 +76,7 @@ void StartUp::load()
     pumpOnce();
     findHosts();
 
-    if (readLayout(m_services.file, m_services.state) == 2)
-        m_services.main.EnlargeMainWindow();
+    m_services.main.startLayout(readLayout(m_services.file, m_services.state));
     pumpOnce();
     showStatus(u"Loading: Settings"_s);
     const QString listUrl = u"http://%1/Varnhold/ps3gameids.txt"_s.arg(m_services.hosts.update.authority);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int rowHeight = 18;
 constexpr int iconSide = 16;
+constexpr int cellGap = 6;
 
 /// Shows the icon that the list names by a key.
 class IconDelegate : public QStyledItemDelegate
@@ -24,7 +25,7 @@ public:
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        return {QStyledItemDelegate::sizeHint(option, index).width(), rowHeight};
+        return {QStyledItemDelegate::sizeHint(option, index).width() + cellGap, rowHeight};
     }
 
 protected:

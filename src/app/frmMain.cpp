@@ -87,6 +87,7 @@ void frmMain::buildCaption()
     m_caption = addLabel("lblCaption", tr("Window name"));
     m_caption->setText(QCoreApplication::applicationName());
     m_info = addLabel("lblInfo", tr("Title"));
+    m_info->setContentsMargins(4, 0, 0, 0);
 
     m_gameId = new GameIdBox(m_services.boxes, this);
     m_gameId->setObjectName("txtGameID"_L1);
@@ -230,6 +231,8 @@ void frmMain::applyLayout(const MainLayout& layout, int number)
     m_browser->resize(inner);
     m_imgPreview->setGeometry(QRect({0, 0}, inner));
     m_columnTwips = layout.columnTwips;
+    layLeftColumn();
+    layMainColumn();
     m_winState[2]->setCaption(QString::number(number));
     const QString action = number == 1 ? u"Maximize"_s : u"Restore Down"_s;
     m_winState[2]->setToolTip(action);
@@ -240,6 +243,12 @@ void frmMain::applyLayout(const MainLayout& layout, int number)
 int frmMain::layoutNumber() const
 {
     return m_winState[2]->Caption().toInt();
+}
+
+void frmMain::startLayout(int number)
+{
+    if (number == 2)
+        applyLayout(MainLayout::enlarged(), 2);
 }
 
 void frmMain::EnlargeMainWindow()
@@ -270,20 +279,30 @@ void frmMain::setBarMainTop(double twips)
 
 void frmMain::Splitbar_Left()
 {
-    const SplitPlaces places = splitColumn(m_barLeftTop, barLeftFloor, 0, m_columnTwips);
-    m_barLeftTop = places.barTop;
-    placeColumn(places, *m_games, *m_barLeft, *m_picPreview, m_picLeft->width());
+    layLeftColumn();
     m_games->setTopIndex(0);
     m_games->Refresh();
-    m_services.settings.writeBarLeft(places.barTop);
+    m_services.settings.writeBarLeft(m_barLeftTop);
 }
 
 void frmMain::Splitbar_Main()
 {
+    layMainColumn();
+    m_services.settings.writeBarMain(m_barMainTop);
+}
+
+void frmMain::layLeftColumn()
+{
+    const SplitPlaces places = splitColumn(m_barLeftTop, barLeftFloor, 0, m_columnTwips);
+    m_barLeftTop = places.barTop;
+    placeColumn(places, *m_games, *m_barLeft, *m_picPreview, m_picLeft->width());
+}
+
+void frmMain::layMainColumn()
+{
     const SplitPlaces places = splitColumn(m_barMainTop, barMainFloor, 0, m_columnTwips);
     m_barMainTop = places.barTop;
     placeColumn(places, *m_updates, *m_barMain, *m_notes, m_picMain->width());
-    m_services.settings.writeBarMain(places.barTop);
 }
 
 void frmMain::placeColumn(const SplitPlaces& places, QWidget& upper, QWidget& bar, QWidget& lower, int width)

@@ -52,6 +52,8 @@ public:
     /// Give the window its other size and write "Miximize".
     void EnlargeMainWindow();
     void RestoreMainWindow();
+    /// The size that was stored, before the bars are: nothing is written.
+    void startLayout(int number);
     /// 1 normal, 2 enlarged.
     [[nodiscard]] int layoutNumber() const;
 
@@ -121,6 +123,8 @@ private:
     ButtonEx* addButton(const char* name, const QString& toolTip);
     ElidedLabel* addLabel(const char* name, const QString& accessibleName);
     void applyLayout(const MainLayout& layout, int number);
+    void layLeftColumn();
+    void layMainColumn();
     void placeColumn(const SplitPlaces& places, QWidget& upper, QWidget& bar, QWidget& lower, int width);
 
     void onGameClick();

@@ -1,0 +1,347 @@
+#include "AppWorld.h"
+
+#include "app/MainLayout.h"
+#include "app/UpdateListView.h"
+#include "controls/ButtonEx/ButtonEx.h"
+#include "controls/CTooltip/CTooltip.h"
+#include "controls/MorphListBox/MorphListBox.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FrmMain : public testing::Test, protected AppWorld
+{
+protected:
+    FrmMain()
+    {
+        window.setBarLeftTop(3285);
+        window.setBarMainTop(3285);
+        window.Splitbar_Left();
+        window.Splitbar_Main();
+        window.show();
+    }
+
+    void fillGames()
+    {
+        for (const QString& id : {u"BLUS30443 Ashgrove"_s, u"BCES00509"_s, u"blus12345x"_s})
+            window.games().AddItem(id);
+        for (const QString& title : {u"Ashgrove: Circuit"_s, u""_s, u"Third"_s})
+            window.titles().addItem(title);
+    }
+    /// Somewhere inside a row of the game list.
+    [[nodiscard]] QPoint gameRow(int row)
+    {
+        MorphListBox& games = window.games();
+        for (int y = 0; y < games.height(); ++y) {
+            if (games.MouseOverIndex(y) == row)
+                return {10, y + 2};
+        }
+        ADD_FAILURE() << "row not shown";
+        return {};
+    }
+    [[nodiscard]] QString text(const char* name) { return child<QLabel>(window, name).text(); }
+    void addUpdate(const QString& version, const QString& url)
+    {
+        list.addRow(version);
+        list.setSubItem(list.count(), UpdateList::Version, u"03.4100"_s);
+        if (!url.isEmpty())
+            list.setSubItem(list.count(), UpdateList::Url, url);
+    }
+    [[nodiscard]] QPoint updateRow(int row)
+    {
+        auto& view = child<UpdateListView>(window, "ListView1");
+        return view.visualRect(list.index(row - 1, 0)).center();
+    }
+
+    frmMain window{{state, settings, list, boxes, sounds, screen}};
+};
+
+} // namespace
+
+TEST_F(FrmMain, KeepsItsControlsApartInBothSizes)
+{
+    const char* names[] = {"btnFile",         "btn_Tools(1)", "btn_WinState(0)", "btn_WinState(1)",
+                           "btn_WinState(2)", "txtGameID",    "btnFetch",        "lblInfo",
+                           "picLeft",         "picMain",      "lblStatus",       "lblBlank",
+                           "lblCnt"};
+    for (const QSize& size : {QSize(447, 289), QSize(595, 385)}) {
+        EXPECT_EQ(window.size(), size);
+        for (const char* one : names) {
+            const QRect place = child(window, one).geometry();
+            EXPECT_TRUE(window.rect().contains(place)) << one;
+            for (const char* other : names) {
+                if (one != other) {
+                    EXPECT_FALSE(place.intersects(child(window, other).geometry()))
+                        << one << " and " << other;
+                }
+            }
+        }
+        EXPECT_EQ(child(window, "ListView1").width(), child(window, "picMain").width());
+        window.EnlargeMainWindow();
+    }
+}
+
+TEST_F(FrmMain, SwitchesBetweenItsSizes)
+{
+    auto& button = child<ButtonEx>(window, "btn_WinState(2)");
+    EXPECT_EQ(button.toolTip(), u"Maximize"_s);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(window.layoutNumber(), 2);
+    EXPECT_EQ(button.toolTip(), u"Restore Down"_s);
+    EXPECT_EQ(stored(u"Miximize"_s), u"2"_s);
+    EXPECT_EQ(child(window, "lblStatus").y(), 370);
+    EXPECT_EQ(button.x(), 562);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(window.size(), QSize(447, 289));
+    EXPECT_EQ(stored(u"Miximize"_s), u"1"_s);
+}
+
+TEST_F(FrmMain, KeepsBarsWithinTheirColumns)
+{
+    const struct
+    {
+        double top;
+        QString left;
+        QString main;
+    } cases[] = {
+        {100, u"540"_s, u"100"_s},    {-50, u"540"_s, u"0"_s},      {539.6, u"540"_s, u"540"_s},
+        {2000, u"2000"_s, u"2000"_s}, {9000, u"3290"_s, u"3290"_s},
+    };
+    for (const auto& given : cases) {
+        window.setBarLeftTop(given.top);
+        window.Splitbar_Left();
+        window.setBarMainTop(given.top);
+        window.Splitbar_Main();
+        EXPECT_EQ(stored(u"LeftBar Top"_s), given.left) << given.top;
+        EXPECT_EQ(stored(u"Mainbar Top"_s), given.main) << given.top;
+        EXPECT_EQ(child(window, "PicPreview").geometry().bottom(), child(window, "picLeft").height() - 1);
+        EXPECT_EQ(child(window, "barMain").y(), child(window, "ListView1").height());
+    }
+}
+
+TEST_F(FrmMain, MovesABarWithTheMouse)
+{
+    window.setBarMainTop(1500);
+    window.Splitbar_Main();
+    QWidget& bar = child(window, "barMain");
+    drag(bar, {0, 20});
+    EXPECT_NEAR(bar.y(), 120, 3);
+    EXPECT_EQ(child(window, "ListView1").height(), bar.y());
+    EXPECT_NEAR(stored(u"Mainbar Top"_s).toInt(), bar.y() * 15, 8);
+    drag(bar, {0, 900});
+    EXPECT_EQ(stored(u"Mainbar Top"_s), u"3290"_s);
+}
+
+TEST_F(FrmMain, StoresThePlaceOfADropBeforeItSnaps)
+{
+    setCheck(Check::Edge, true);
+    for (const char* label : {"lblCaption", "lblInfo", "lblStatus", "lblBlank"}) {
+        window.move(200, 300);
+        state.workArea = {};
+        drag(child(window, label), {-196, 7});
+        EXPECT_EQ(stored(u"Varnhold X"_s), u"60"_s) << label;
+        EXPECT_EQ(stored(u"Varnhold Y"_s), u"4605"_s) << label;
+        EXPECT_EQ(window.pos(), QPoint(0, 307)) << label;
+        EXPECT_EQ(state.workArea.bottom, 1040);
+    }
+    setCheck(Check::Edge, false);
+    window.move(200, 300);
+    drag(child(window, "lblCaption"), {-196, 0});
+    EXPECT_EQ(window.pos(), QPoint(4, 300));
+}
+
+TEST_F(FrmMain, TakesTypedLettersAndRefusesOthersWithABox)
+{
+    auto& box = child<QLineEdit>(window, "txtGameID");
+    QTest::keyClicks(&box, u"blus30"_s);
+    EXPECT_EQ(box.text(), u"BLUS30"_s);
+    boxes.expect(u"Invalid Character.\rPlease enter 0-9, or A-Z"_s);
+    QTest::keyClick(&box, '-');
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QTest::keyClick(&box, Qt::Key_F5);
+    QTest::keyClick(&box, Qt::Key_Left, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.text(), u"BLUS3"_s);
+    QTest::keyClicks(&box, u"044399"_s);
+    EXPECT_EQ(box.text(), u"BLUS30443"_s) << "a tenth character is not taken";
+    box.selectAll();
+    QTest::keyClick(&box, 'x');
+    EXPECT_EQ(box.text(), u"X"_s);
+
+    const QSignalSpy fetches(&window, &frmMain::fetchRequested);
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_EQ(fetches.count(), 1);
+}
+
+TEST_F(FrmMain, FiltersPastedText)
+{
+    auto& box = child<QLineEdit>(window, "txtGameID");
+    const QPair<QString, QString> cases[] = {
+        {u"BLUS-30443"_s, u"BLUS30443"_s},
+        {u"B L U S - 3 0 4 4 3 1 2"_s, u"BLUS30443"_s},
+        {u"blus+3044"_s, u"blus+3044"_s},
+    };
+    for (const auto& [pasted, remains] : cases) {
+        box.clear();
+        box.insert(pasted);
+        EXPECT_EQ(box.text(), remains);
+    }
+}
+
+TEST_F(FrmMain, ShowsTheClickedGame)
+{
+    fillGames();
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    setCheck(Check::RemoveUnw, true);
+    setCheck(Check::Colon, true);
+    QTest::mouseClick(&window.games(), Qt::LeftButton, {}, gameRow(0));
+    EXPECT_EQ(player.played, QStringList{u"0"_s});
+    EXPECT_EQ(state.LookupID, u"BLUS30443"_s);
+    EXPECT_EQ(window.gameIdText(), u"BLUS30443"_s);
+    EXPECT_EQ(window.info(), u"Ashgrove - Circuit"_s);
+    EXPECT_EQ(window.titles().listIndex(), 0);
+    EXPECT_EQ(list.count(), 0);
+
+    QTest::mouseClick(&window.games(), Qt::LeftButton, {}, gameRow(1));
+    EXPECT_EQ(window.info(), u"Ashgrove - Circuit"_s) << "an empty title leaves the one shown";
+    EXPECT_EQ(window.gameIdText(), u"BCES00509"_s);
+}
+
+TEST_F(FrmMain, LeavesTheRowsAloneWhenNoGameIsSelected)
+{
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    Q_EMIT window.games().Click();
+    EXPECT_EQ(list.count(), 1);
+    EXPECT_EQ(player.played.size(), 1);
+}
+
+TEST_F(FrmMain, ClearsTheRowsWhenAnyKeyComesUpInTheGameList)
+{
+    fillGames();
+    const QSignalSpy fetches(&window, &frmMain::fetchRequested);
+    window.games().setListIndex(2);
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    QTest::keyPress(&window.games(), Qt::Key_Return);
+    EXPECT_EQ(fetches.count(), 1);
+    EXPECT_EQ(list.count(), 1);
+    QTest::keyRelease(&window.games(), Qt::Key_Return);
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(window.gameIdText(), u"blus12345"_s) << "the row's text, as the box keeps it";
+    EXPECT_EQ(window.info(), u"Third"_s);
+
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    QTest::keyClick(&window.games(), Qt::Key_Q);
+    EXPECT_EQ(list.count(), 0);
+    QTest::keyClick(&window.games(), Qt::Key_Up);
+    EXPECT_EQ(window.gameIdText(), u"BCES00509"_s);
+}
+
+TEST_F(FrmMain, TellsTheGameBelowThePointer)
+{
+    fillGames();
+    MorphListBox& games = window.games();
+    QTest::mouseMove(&games, gameRow(0));
+    EXPECT_EQ(games.toolTip(), u"BLUS30443 Ashgrove-[Ashgrove: Circuit]"_s);
+    EXPECT_EQ(window.titles().listIndex(), 0);
+    QTest::mouseMove(&games, {10, games.height() - 8});
+    EXPECT_EQ(games.toolTip(), u"-[]"_s);
+    QTest::mouseClick(&games, Qt::RightButton, {}, gameRow(1));
+    EXPECT_EQ(games.ListIndex(), 1) << "a press selects, whichever button it was";
+}
+
+TEST_F(FrmMain, HandsOnWhatIsDoneInTheUpdateList)
+{
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    addUpdate(u"01.02"_s, {});
+    auto& view = child<UpdateListView>(window, "ListView1");
+    const QSignalSpy activations(&window, &frmMain::updateRowActivated);
+    const QSignalSpy menus(&window, &frmMain::mnuLViewWanted);
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, updateRow(2));
+    EXPECT_EQ(menus.count(), 1);
+    EXPECT_EQ(window.selectedUpdateRow(), 2);
+    EXPECT_EQ(player.played, QStringList{u"1"_s});
+    player.played.clear();
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, updateRow(1));
+    EXPECT_EQ(activations.count(), 1);
+    EXPECT_EQ(window.selectedUpdateRow(), 1);
+    EXPECT_TRUE(player.played.contains(u"0"_s));
+}
+
+TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)
+{
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    addUpdate(u"01.02"_s, {});
+    window.createToolTip();
+    window.setTipTitle([] { return u"Ashgrove"_s; });
+    auto& view = child<UpdateListView>(window, "ListView1");
+    auto* balloon = window.findChild<CTooltip*>();
+    ASSERT_NE(balloon, nullptr);
+    QTest::mouseMove(view.viewport(), updateRow(1));
+    EXPECT_TRUE(balloon->exists());
+    EXPECT_EQ(balloon->Title(), u"Ashgrove"_s);
+    EXPECT_TRUE(balloon->TipText().startsWith(u"Package Version:  01.01\r\n§ystem Version:    03.4100"_s));
+    QTest::mouseMove(view.viewport(), updateRow(2));
+    EXPECT_FALSE(balloon->exists());
+    EXPECT_EQ(view.viewport()->toolTip(), u"01.02"_s);
+    QTest::mouseMove(view.viewport(), {5, view.viewport()->height() - 5});
+    EXPECT_TRUE(view.viewport()->toolTip().isEmpty());
+}
+
+TEST_F(FrmMain, TogglesTheRawPage)
+{
+    QWidget& browser = child(window, "WebBrowser1");
+    EXPECT_EQ(browser.x(), 573);
+    window.mnuRaw();
+    EXPECT_EQ(browser.x(), 0);
+    EXPECT_EQ(text("lblStatus"), u"Raw XML"_s);
+    window.mnuRaw();
+    EXPECT_EQ(browser.x(), 573);
+    EXPECT_EQ(text("lblStatus"), u"337"_s);
+}
+
+TEST_F(FrmMain, TakesThePointsOutOfAClickedTitle)
+{
+    window.setInfo(u"Dr. K. Returns..."_s);
+    QTest::mouseClick(&child(window, "lblInfo"), Qt::LeftButton);
+    EXPECT_EQ(window.info(), u"Dr K Returns"_s);
+}
+
+TEST_F(FrmMain, TellsItsOwnCloseFromTheDesktops)
+{
+    const QSignalSpy own(&window, &frmMain::exitRequested);
+    const QSignalSpy desktops(&window, &frmMain::closedByDesktop);
+    auto& exit = child<ButtonEx>(window, "btn_WinState(1)");
+    QTest::mouseClick(&exit, Qt::LeftButton);
+    EXPECT_EQ(own.count(), 1);
+    EXPECT_FALSE(exit.isEnabled());
+    window.close();
+    EXPECT_EQ(own.count(), 2);
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&window, &event);
+    EXPECT_EQ(desktops.count(), 1);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(FrmMain, OpensItsMenuFromTheBareWindowAndTheButton)
+{
+    const QSignalSpy menus(&window, &frmMain::mnuMenuWanted);
+    QTest::mouseClick(&window, Qt::RightButton, {}, {300, 272});
+    EXPECT_EQ(menus.count(), 1);
+    auto& button = child<ButtonEx>(window, "btnFile");
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::RightButton);
+    EXPECT_EQ(menus.count(), 3);
+}
+
+} // namespace varnhold::test

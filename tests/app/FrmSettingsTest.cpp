@@ -1,0 +1,193 @@
+#include "AppWorld.h"
+
+#include "app/frmSettings.h"
+#include "controls/ButtonEx/ButtonEx.h"
+#include "support/FakeFileDialogs.h"
+#include "support/FakePump.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FrmSettings : public testing::Test, protected AppWorld
+{
+protected:
+    void openPage(int row)
+    {
+        window.open({100, 100});
+        auto& pages = child<QListWidget>(window, "List1");
+        QTest::mouseClick(pages.viewport(), Qt::LeftButton, {},
+                          pages.visualItemRect(pages.item(row)).center());
+    }
+    void click(const char* name) { QTest::mouseClick(&child(window, name), Qt::LeftButton, {}, {8, 10}); }
+
+    FakeFileDialogs dialogs;
+    FakePump pump;
+    frmSettings window{{state, settings, sounds, dialogs, pump, screen, root.paths()}};
+};
+
+} // namespace
+
+TEST_F(FrmSettings, OpensWithoutAWordInTheFile)
+{
+    settings.unwrittenValues().server = 4;
+    settings.unwrittenValues().unwantedStrings = u"abc"_s;
+    window.open({100, 100});
+    EXPECT_EQ(child<QScrollBar>(window, "Vs_Server").value(), 4);
+    EXPECT_EQ(child<QLabel>(window, "lblServer").text(), u"Debug: Server 1"_s);
+    EXPECT_EQ(child<QPlainTextEdit>(window, "txtRemove").toPlainText(), u"abc"_s);
+    EXPECT_FALSE(QFile::exists(root.paths().settingsIni()));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(FrmSettings, WritesEachBoxWithItsClick)
+{
+    const struct
+    {
+        int page;
+        const char* name;
+        QString key;
+    } cases[] = {
+        {0, "chk_UseDLD", u"Use DLDir"_s},
+        {0, "chk_CGNFolder", u"Create GNFolder"_s},
+        {0, "chk_OWrite", u"Over Write"_s},
+        {0, "chk_Previous", u"Previous"_s},
+        {1, "chk_Fade", u"Fade Out"_s},
+        {1, "chk_Exit", u"Exit"_s},
+        {1, "chk_Edge", u"Edge Detection"_s},
+        {2, "chk_Sounds_Click", u"Click Sounds"_s},
+        {3, "chk_RemoveUnw", u"Remove Unwanted"_s},
+        {3, "chk_Double", u"Remove DblSpace"_s},
+        {3, "chk_Colon", u"Remove Colon"_s},
+    };
+    for (const auto& given : cases) {
+        openPage(given.page);
+        const bool before = child<QCheckBox>(window, given.name).isChecked();
+        click(given.name);
+        EXPECT_EQ(stored(given.key), before ? u"0"_s : u"1"_s) << given.name;
+        EXPECT_EQ(child<QCheckBox>(window, given.name).isChecked(), !before) << given.name;
+    }
+}
+
+TEST_F(FrmSettings, WritesServerAndLimitAsTheyTurn)
+{
+    openPage(0);
+    QTest::keyClick(&child(window, "Vs_Server"), Qt::Key_Down);
+    EXPECT_EQ(stored(u"Server"_s), u"2"_s);
+    EXPECT_EQ(child<QLabel>(window, "lblServer").text(), u"Retail: Server 1"_s);
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(&child(window, "VScroll1"), Qt::Key_Down);
+    EXPECT_EQ(stored(u"DL Max"_s), u"5"_s);
+    EXPECT_EQ(child<QLabel>(window, "lblDLMax").text(), u"5"_s);
+}
+
+TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
+{
+    openPage(1);
+    const QSignalSpy released(&window, &frmSettings::autoSslReleased);
+    const auto states = [this] {
+        return QPair(child<QCheckBox>(window, "chk_AutoSSL(0)").isChecked(),
+                     child<QCheckBox>(window, "chk_AutoSSL(1)").isChecked());
+    };
+    click("chk_AutoSSL(0)");
+    EXPECT_EQ(states(), QPair(true, false));
+    click("chk_AutoSSL(0)");
+    EXPECT_EQ(states(), QPair(true, false)) << "the release sets it again";
+    click("chk_AutoSSL(1)");
+    EXPECT_EQ(states(), QPair(false, true));
+    EXPECT_EQ(stored(u"Auto SSL 0"_s), u"0"_s);
+    EXPECT_EQ(stored(u"Auto SSL 1"_s), u"1"_s);
+    EXPECT_EQ(released.count(), 3);
+
+    click("optCert(1)");
+    EXPECT_EQ(stored(u"Opt0 Cert"_s), u"False"_s);
+    EXPECT_EQ(stored(u"Opt1 Cert"_s), u"True"_s);
+    click("optCert(0)");
+    EXPECT_FALSE(child<QRadioButton>(window, "optCert(1)").isChecked());
+}
+
+TEST_F(FrmSettings, ChoosesTheDownloadFolder)
+{
+    openPage(0);
+    auto& button = child<ButtonEx>(window, "btnSaveDir");
+    dialogs.cancelNext();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(dialogs.asked.front().title, u"Select Download Folder"_s);
+    EXPECT_EQ(dialogs.asked.front().startFolder, root.paths().root);
+    EXPECT_EQ(stored(u"SaveDir Path"_s), u"(missing)"_s);
+    dialogs.answer(u"/home/user/updates"_s);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(child<QLineEdit>(window, "txt_SaveDir").text(), u"updates"_s);
+    EXPECT_EQ(stored(u"SaveDir Path"_s), u"/home/user/updates"_s);
+    dialogs.cancelNext();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(dialogs.asked.back().startFolder, u"/home/user/updates"_s);
+}
+
+TEST_F(FrmSettings, GivesTheChosenRowAnotherSound)
+{
+    openPage(2);
+    setCheck(Check::SoundsClick, false);
+    click("opt_Index(2)");
+    dialogs.answer(u"/music/horn.mp3"_s);
+    QTest::mouseClick(&child(window, "cmdSound"), Qt::LeftButton);
+    EXPECT_EQ(stored(u"Open Sound Path"_s), u"/music/horn.mp3"_s);
+    EXPECT_EQ(stored(u"Open Sound File"_s), u"horn.mp3"_s);
+    player.played.clear();
+    QTest::mouseClick(&child(window, "cmd_Play(2)"), Qt::LeftButton);
+    EXPECT_EQ(player.played, QStringList{u"/music/horn.mp3"_s}) << "whatever the box says";
+}
+
+TEST_F(FrmSettings, KeepsTheUnwantedStringsAsTheyAreTyped)
+{
+    openPage(3);
+    auto& box = child<QPlainTextEdit>(window, "txtRemove");
+    EXPECT_FALSE(child(window, "lblCount").isVisible());
+    QTest::keyClicks(&box, u" ab"_s);
+    EXPECT_EQ(stored(u"Unwanted Strings"_s), u"ab"_s);
+    EXPECT_EQ(settings.unwantedStrings(), u" ab"_s);
+    EXPECT_EQ(child<QLabel>(window, "lblCount").text(), u"Chars:   3"_s);
+
+    bool warned = false;
+    pump.at(1, [&] { warned = child(window, "img_Warning").isVisible(); });
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClicks(&box, u"c"_s);
+    EXPECT_EQ(settings.unwantedStrings(), u" ab\r\nc"_s);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(warned);
+    EXPECT_FALSE(child(window, "img_Warning").isVisible());
+    click("chk_RemoveUnw");
+    EXPECT_EQ(stored(u"Unwanted Strings"_s), u"abc"_s);
+}
+
+TEST_F(FrmSettings, ShowsOnePageAtATime)
+{
+    const QPair<const char*, QString> pages[] = {{"frm_Download", u"Settings: Download"_s},
+                                                 {"frm_Options", u"Settings: Options"_s},
+                                                 {"frm_Sound", u"Settings: Sounds"_s},
+                                                 {"frm_Unwanted", u"Settings: ReMove Un-Wanted strings"_s}};
+    for (int row = 0; row < 4; ++row) {
+        player.played.clear();
+        openPage(row);
+        EXPECT_EQ(player.played, QStringList{u"0"_s});
+        EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), pages[row].second);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_EQ(child(window, pages[i].first).isVisible(), i == row);
+    }
+    QTest::keyClick(&child(window, "List1"), Qt::Key_Up);
+    EXPECT_TRUE(child(window, "frm_Sound").isVisible());
+}
+
+} // namespace varnhold::test

@@ -1,0 +1,201 @@
+#include "app/Program.h"
+#include "app/UpdateListView.h"
+#include "controls/ButtonEx/ButtonEx.h"
+#include "platform/TcpSocket.h"
+#include "support/FakeFileDialogs.h"
+#include "support/FakeMessageBoxes.h"
+#include "support/FakeScreen.h"
+#include "support/FakeShell.h"
+#include "support/FakeSoundPlayer.h"
+#include "support/PrintText.h"
+#include "support/PumpUntil.h"
+#include "support/RunningService.h"
+#include "support/TempRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString package = u"UP0001-BLUS30443_00-VARNHOLDSAMPLE00-A0102-V0100"_s;
+
+/// The whole program with its real windows, sockets and files, on a sample service.
+class Journey : public testing::Test
+{
+protected:
+    void start(const QByteArray& keys)
+    {
+        root.write(u"Settings.ini"_s, "[Settings]\r\nClick Sounds=0\r\nFade Out=0\r\nSaveDir Path=" +
+                                          root.path(u"dl"_s).toUtf8() + "\r\n" + keys);
+        root.makeFolder(u"dl"_s);
+        program.emplace(root.paths(), Program::World{.boxes = boxes,
+                                                     .dialogs = dialogs,
+                                                     .shell = shell,
+                                                     .player = player,
+                                                     .sockets = sockets,
+                                                     .screen = screen,
+                                                     .isFirst = [] { return true; },
+                                                     .activatePrevious = [] { return false; },
+                                                     .findHosts = [this] { return hosts(); },
+                                                     .endProcess = [this] { ended = true; }});
+        ASSERT_TRUE(program->start());
+    }
+    [[nodiscard]] Hosts hosts() const
+    {
+        Hosts found;
+        for (std::size_t i = 0; i < found.servers.size(); ++i) {
+            const bool secure = i == 0 || i == 3 || i == 5;
+            found.servers.at(i) = {secure ? service.httpsAuthority() : service.httpAuthority(),
+                                   service.caFile(), false};
+        }
+        return found;
+    }
+    [[nodiscard]] frmMain& window() { return program->mainWindow(); }
+    template <typename Widget> Widget& control(const char* name)
+    {
+        return *window().findChild<Widget*>(QLatin1StringView(name));
+    }
+    [[nodiscard]] QString icon(int row)
+    {
+        const auto* model = control<UpdateListView>("ListView1").model();
+        return model->index(row - 1, 0).data(UpdateList::IconKeyRole).toString();
+    }
+    [[nodiscard]] int rows() { return control<UpdateListView>("ListView1").model()->rowCount(); }
+    void lookUp(const QString& id)
+    {
+        QTest::keyClicks(&control<QLineEdit>("txtGameID"), id);
+        QTest::keyClick(&control<QLineEdit>("txtGameID"), Qt::Key_Return);
+    }
+    [[nodiscard]] QPoint rowCentre(int row)
+    {
+        auto& view = control<UpdateListView>("ListView1");
+        return view.visualRect(view.model()->index(row - 1, 0)).center();
+    }
+    [[nodiscard]] int downloadWindows()
+    {
+        int count = 0;
+        for (const QWidget* top : QApplication::topLevelWidgets())
+            count += top->objectName() == "frm_Winsock"_L1 && top->isVisible() ? 1 : 0;
+        return count;
+    }
+
+    RunningService service;
+    TempRoot root;
+    FakeMessageBoxes boxes;
+    FakeFileDialogs dialogs;
+    FakeShell shell;
+    FakeSoundPlayer player;
+    TcpSocketMaker sockets;
+    FakeScreen screen;
+    bool ended = false;
+    std::optional<Program> program;
+};
+
+} // namespace
+
+TEST_F(Journey, TypesAnIdReadsThePackagesAndDownloadsOne)
+{
+    start("Exit=0\r\n");
+    lookUp(u"blus30443"_s);
+    EXPECT_EQ(rows(), 4);
+    EXPECT_EQ(window().info(), u"Ashgrove Circuit"_s);
+    EXPECT_EQ(control<QLabel>("lblStatus").text(), u"Done"_s);
+    EXPECT_EQ(icon(2), u"pkg"_s);
+
+    auto& view = control<UpdateListView>("ListView1");
+    const QString target = root.path(u"dl/chosen.pkg"_s);
+    dialogs.answer(target);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, rowCentre(2));
+    EXPECT_EQ(dialogs.asked.front().fileName, package + u".pkg"_s);
+    EXPECT_EQ(icon(2), u"pkg-dl"_s);
+    EXPECT_EQ(control<QLabel>("lblCnt").text(), u"1"_s);
+    EXPECT_EQ(downloadWindows(), 1);
+    ASSERT_TRUE(pumpUntil([&] { return control<QLabel>("lblCnt").text() == u"0"_s; }));
+    EXPECT_EQ(QFile(target).size(), 4000000);
+    EXPECT_TRUE(QFile::exists(root.path(u"dl/chosen.txt"_s)));
+    EXPECT_FALSE(QFile::exists(root.path(u"dl/chosen.temp"_s)));
+    EXPECT_TRUE(icon(2) == u"pkg-plus"_s || icon(2) == u"pkg-red"_s)
+        << "which of the two depends on how long it took";
+    EXPECT_EQ(downloadWindows(), 0);
+}
+
+TEST_F(Journey, DownloadsFromTheMenuIntoTheTitlesFolderAndMarksItNextTime)
+{
+    start("Exit=0\r\nUse DLDir=1\r\nCreate GNFolder=1\r\n");
+    lookUp(u"BLUS30443"_s);
+    auto& view = control<UpdateListView>("ListView1");
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, rowCentre(2));
+    auto* menu = program->menus().findChild<QMenu*>(u"mnuLView"_s);
+    ASSERT_TRUE(menu->isVisible());
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    ASSERT_TRUE(pumpUntil([&] { return control<QLabel>("lblCnt").text() == u"0"_s; }));
+    const QString folder = root.path(u"dl/BLUS30443-[Ashgrove Circuit]/"_s);
+    EXPECT_EQ(QFile(folder + package + u".pkg"_s).size(), 4000000);
+    QTest::mouseClick(&control<ButtonEx>("btnFetch"), Qt::LeftButton);
+    EXPECT_EQ(icon(2), u"pkg-plus"_s);
+    EXPECT_EQ(icon(3), u"pkg"_s);
+}
+
+TEST_F(Journey, EndsWhileALookupWaitsAndADownloadRuns)
+{
+    start("Exit=1\r\nUse DLDir=1\r\n");
+    lookUp(u"BLUS30443"_s);
+    service.misbehave(u"*A0104*"_s, u"slow-drip:1"_s);
+    service.misbehave(u"*BLES00256*"_s, u"slow-drip:1"_s);
+    auto& view = control<UpdateListView>("ListView1");
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, rowCentre(4));
+    program->menus().mnuDLoad_Click();
+    ASSERT_EQ(downloadWindows(), 1);
+
+    boxes.expect(u"Are you sure you want to exit?"_s, u"Exit?"_s, BoxAnswer::No);
+    boxes.expect(u"Are you sure you want to exit?"_s, u"Exit?"_s, BoxAnswer::Yes);
+    bool waiting = false;
+    QTimer::singleShot(0, &window(), [&] {
+        waiting = true;
+        control<QLineEdit>("txtGameID").clear();
+        lookUp(u"BLES00256"_s);
+        waiting = false;
+    });
+    QTimer::singleShot(300, &window(), [&] {
+        EXPECT_TRUE(waiting) << "the lookup is to hang";
+        auto& exit = control<ButtonEx>("btn_WinState(1)");
+        QTest::mouseClick(&exit, Qt::LeftButton);
+        EXPECT_TRUE(exit.isEnabled());
+        EXPECT_EQ(downloadWindows(), 1);
+        QTest::mouseClick(&exit, Qt::LeftButton);
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(waiting) << "the lookup left its wait";
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(downloadWindows(), 0);
+    EXPECT_TRUE(QFile::exists(root.path(u"dl/UP0001-BLUS30443_00-VARNHOLDSAMPLE00-A0104-V0100.txt"_s)));
+}
+
+TEST_F(Journey, ShowsTheRawDocumentAndOpensItInTheBrowser)
+{
+    start("Exit=0\r\n");
+    lookUp(u"BLUS30443"_s);
+    program->menus().mnuRaw_Click();
+    EXPECT_TRUE(window().showsPage());
+    program->menus().mnuWebOpen_Click();
+    EXPECT_EQ(shell.opened, QStringList{u"https://"_s + service.httpsAuthority() +
+                                        u"/tpl/np/BLUS30443/BLUS30443-ver.xml"_s});
+    EXPECT_FALSE(ended);
+}
+
+} // namespace varnhold::test

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Screen.h"
+
+namespace varnhold::test {
+
+/// A screen of 1920 x 1080 with a panel of 40 pixels at the bottom, unless the test says otherwise.
+class FakeScreen : public Screen
+{
+public:
+    [[nodiscard]] WorkArea workArea() const override { return area; }
+    [[nodiscard]] int width() const override { return area.right; }
+    [[nodiscard]] int height() const override { return fullHeight; }
+
+    WorkArea area{0, 0, 1920, 1040};
+    int fullHeight = 1080;
+};
+
+} // namespace varnhold::test

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Shell.h"
+
+#include <QStringList>
+
+namespace varnhold::test {
+
+/// Keeps what it was asked to open.
+class FakeShell : public Shell
+{
+public:
+    void open(const QString& target) override { opened.append(target); }
+    void explore(const QString& folder) override { explored.append(folder); }
+
+    QStringList opened;
+    QStringList explored;
+};
+
+} // namespace varnhold::test
