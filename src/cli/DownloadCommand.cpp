@@ -38,6 +38,10 @@ QString folderFor(const Arguments& arguments, const Session& session, const QStr
     }
     if (folder.isEmpty())
         folder = QDir::currentPath();
+    folder = QDir::cleanPath(QDir(folder).absolutePath());
+    // A download makes its other names by replacing these, wherever they stand in the path.
+    if (folder.contains(u".pkg"_s) || folder.contains(u".temp"_s))
+        fail(u"Packages cannot be kept in \"%1\": its name holds \".pkg\" or \".temp\"."_s.arg(folder));
     if (!FolderExists(folder)) {
         try {
             MakeFolder(folder);
@@ -45,7 +49,7 @@ QString folderFor(const Arguments& arguments, const Session& session, const QStr
             fail(u"There is no folder \"%1\", and it cannot be made: %2."_s.arg(folder, error.description()));
         }
     }
-    return QDir::cleanPath(QDir(folder).absolutePath());
+    return folder;
 }
 
 /// The last part of the package's address, as far as a file may have that name. Throws RunTimeError.
@@ -55,7 +59,8 @@ QString fileNameOf(const Package& package)
         fail(u"The document gives no address for package %1."_s.arg(package.version));
     const QString name = package.url.sliced(package.url.lastIndexOf(u'/') + 1);
     const bool odd = std::ranges::any_of(name, [](QChar character) { return !character.isPrint(); });
-    if (odd || !name.endsWith(u".pkg"_s) || name == u".pkg"_s || name.toUtf8().size() > longestFileName)
+    if (odd || !name.endsWith(u".pkg"_s) || name == u".pkg"_s || name.contains(u".temp"_s) ||
+        name.toUtf8().size() > longestFileName)
         fail(u"The address of package %1 does not end in the name of a .pkg file: %2"_s.arg(package.version,
                                                                                             package.url));
     return name;

@@ -10,6 +10,8 @@
 #include "platform/SoundPlayer.h"
 #include "state/Sounds.h"
 
+#include <cmath>
+
 namespace varnhold::cli {
 
 using namespace Qt::StringLiterals;
@@ -79,11 +81,16 @@ QString problemOf(int code, const QString& authority)
 
 std::optional<qint64> Package::size() const
 {
-    const qsizetype open = sizeText.lastIndexOf(u'(');
+    const QString end = u" bytes)"_s;
+    if (!sizeText.endsWith(end))
+        return std::nullopt;
+    const QStringView shown = QStringView(sizeText).chopped(end.size());
     bool isNumber = false;
-    const double bytes =
-        QStringView(sizeText).sliced(open + 1).chopped(u" bytes)"_s.size()).toDouble(&isNumber);
-    return isNumber ? std::optional(static_cast<qint64>(bytes)) : std::nullopt;
+    const double bytes = shown.sliced(shown.lastIndexOf(u'(') + 1).toDouble(&isNumber);
+    constexpr double largestExact = 9007199254740992.0;
+    if (!isNumber || !(std::abs(bytes) <= largestExact))
+        return std::nullopt;
+    return static_cast<qint64>(bytes);
 }
 
 TitleUpdates lookUp(Session& session, const QString& gameId)

@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray oddPrefix = "/odd/";
+constexpr qsizetype requestsKept = 10000;
 
 QString authorityOf(quint16 port)
 {
@@ -161,6 +162,8 @@ void SampleService::handle(Connection& connection, const HttpRequest& request, P
         return;
     }
     m_requests.append(request.target);
+    if (m_requests.size() > requestsKept)
+        m_requests.removeFirst();
     if (request.method != "GET" && !context.headOnly) {
         connection.start(makePlan(statusReply(405), {}, context));
         return;

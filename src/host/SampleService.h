@@ -52,7 +52,7 @@ public:
     /// The certificate that connections from now on are shown. Before or after start().
     void setCertificateFault(CertificateFault fault);
 
-    /// Targets of all requests so far, as they came over the wire.
+    /// Targets of the last 10000 requests, as they came over the wire.
     [[nodiscard]] const QList<QByteArray>& requests() const { return m_requests; }
 
 private:

@@ -184,7 +184,8 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
                  "size=\"4\" url=\"https://" + running.httpsAuthority().toLatin1() + "/four.pkg\"");
         document(u"ODDD00005"_s, "size=\"4\" url=\"http://127.0.0.1:1/four.pkg\"");
         document(u"ODDD00006"_s, "size=\"four\"");
-        document(u"ODDD00007"_s, "size=\"4\"");
+        document(u"ODDD00007"_s, "sha1sum=\"00\"");
+        document(u"ODDD00008"_s, "size=\"1e300\" url=\"" + origin + "/four.temp.pkg\"");
         running.site().addPage(u"/four.pkg"_s, "application/octet-stream", "four");
     });
     service.misbehave(u"*/'BCUS10001/*"_s, u"not-xml"_s);
@@ -234,7 +235,11 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
         {QStringList{u"download"_s, u"ODDD00003"_s} + server2, 1, "does not end in the name of a .pkg file"},
         {QStringList{u"download"_s, u"ODDD00004"_s, u"--overwrite"_s} + server2, 1, "URL is not valid"},
         {QStringList{u"download"_s, u"ODDD00005"_s, u"--overwrite"_s} + server2, 1, "rejected"},
+        {QStringList{u"lookup"_s, u"ODDD00007"_s, u"--json"_s} + server2, 0, ""},
         {QStringList{u"download"_s, u"ODDD00007"_s} + server2, 1, "gives no address"},
+        {QStringList{u"lookup"_s, u"ODDD00008"_s, u"--json"_s} + server2, 0, ""},
+        {QStringList{u"download"_s, u"ODDD00008"_s} + server2, 1, "does not end in the name of a .pkg file"},
+        {{u"download"_s, u"NPUB30055"_s, u"--to"_s, root.path(u"a.pkg"_s)}, 1, "cannot be kept in"},
     };
     for (const auto& row : cases) {
         QStringList arguments = row.arguments;
