@@ -6,7 +6,7 @@ namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
 
-RunningService::RunningService() : m_service(new host::SampleService)
+RunningService::RunningService() : m_service(std::make_unique<host::SampleService>())
 {
     m_service->moveToThread(&m_thread);
     m_thread.start();
@@ -23,7 +23,7 @@ RunningService::RunningService() : m_service(new host::SampleService)
 
 RunningService::~RunningService()
 {
-    with([this](host::SampleService&) { delete m_service; });
+    with([this](host::SampleService&) { m_service.reset(); });
     m_thread.quit();
     m_thread.wait();
 }

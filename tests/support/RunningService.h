@@ -5,6 +5,7 @@
 #include <QThread>
 
 #include <functional>
+#include <memory>
 
 namespace varnhold::test {
 
@@ -34,7 +35,7 @@ public:
 
 private:
     QThread m_thread;
-    host::SampleService* m_service; ///< lives in m_thread
+    std::unique_ptr<host::SampleService> m_service; ///< lives in m_thread, and ends there
     QString m_httpAuthority;
     QString m_httpsAuthority;
     quint16 m_httpPort = 0;
