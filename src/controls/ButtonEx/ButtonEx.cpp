@@ -115,7 +115,8 @@ void ButtonEx::drawOn(QPainter& painter) const
     look.rightToLeft = m_rightToLeft;
     look.highlightColor = m_highlightColor;
     // A focus that came by the mouse needs no ring.
-    look.highlight = m_highlightDrawn || (m_allowFocus && m_state.hasFocus() && m_keyboardFocus);
+    look.ring = m_allowFocus && m_state.hasFocus() && m_keyboardFocus;
+    look.focusDots = m_highlightDrawn;
     paintButtonEx(painter, look);
 }
 
@@ -382,22 +383,6 @@ void ButtonEx::DrawHighlight()
 void ButtonEx::Refresh()
 {
     repaint();
-}
-
-void ButtonEx::applyPointer()
-{
-    static constexpr std::array<Qt::CursorShape, 16> shapes = {
-        Qt::ArrowCursor,     Qt::ArrowCursor,   Qt::CrossCursor,     Qt::IBeamCursor,
-        Qt::ArrowCursor,     Qt::SizeAllCursor, Qt::SizeBDiagCursor, Qt::SizeVerCursor,
-        Qt::SizeFDiagCursor, Qt::SizeHorCursor, Qt::UpArrowCursor,   Qt::WaitCursor,
-        Qt::ForbiddenCursor, Qt::BusyCursor,    Qt::WhatsThisCursor, Qt::SizeAllCursor};
-    constexpr int ownIcon = 99;
-    if (m_mousePointer == ownIcon && !m_mouseIcon.isNull())
-        setCursor(QCursor(m_mouseIcon, 0, 0));
-    else if (m_mousePointer > 0 && m_mousePointer < static_cast<int>(shapes.size()))
-        setCursor(shapes.at(static_cast<std::size_t>(m_mousePointer)));
-    else
-        unsetCursor();
 }
 
 void ButtonEx::tellAssistiveTools(QAccessible::Event change)

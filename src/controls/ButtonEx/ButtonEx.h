@@ -217,7 +217,6 @@ private:
     void setSkin(int state, const QPixmap& face);
     void setGlyph(int state, const QPixmap& picture);
     void applyFace();
-    void applyPointer();
     void watchWindow();
     void tellAssistiveTools(QAccessible::Event change);
     void finishClick();

@@ -89,8 +89,13 @@ std::vector<BevelStroke> bevelStrokes(const BevelRequest& request)
         break;
     }
     if (request.allowFocus && focusShows)
-        add(BevelStroke::FocusDots, inset(QRect(QPoint(0, 0), request.size), focusInset));
+        add(BevelStroke::FocusDots, focusPlace(request.size));
     return strokes;
+}
+
+QRect focusPlace(const QSize& control)
+{
+    return inset(QRect(QPoint(0, 0), control), focusInset);
 }
 
 double skinTwips(int facePixels)

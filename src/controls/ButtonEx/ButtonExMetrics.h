@@ -36,6 +36,9 @@ struct BevelRequest
 /// The strokes of the bevelled look in drawing order. A rectangle too small for a stroke is left out.
 [[nodiscard]] std::vector<BevelStroke> bevelStrokes(const BevelRequest& request);
 
+/// Where the dotted focus rectangle lies; empty on a control too small for it.
+[[nodiscard]] QRect focusPlace(const QSize& control);
+
 /// Length of a face on the control in twips, from its pixels at 96 to the inch.
 [[nodiscard]] double skinTwips(int facePixels);
 /// The same in logical pixels: never more than the face has, since a face is not scaled.

@@ -2,7 +2,9 @@
 
 #include "controls/ButtonEx/ButtonExState.h"
 #include "controls/ButtonEx/TransparentCopy.h"
+#include "controls/Contrast.h"
 #include "controls/SystemColorsUi.h"
+#include "controls/SystemEdge.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -14,43 +16,24 @@ namespace varnhold {
 
 namespace {
 
-/// The shades of a bevel, all made from the back colour so that it sits on any window.
-struct Shades
+QColor mixed(const QColor& color, int with, int percent)
 {
-    explicit Shades(const QColor& back)
-        : face(back),
-          highlight(mixed(back, 255, 45)),
-          light(mixed(back, 255, 15)),
-          shadow(mixed(back, 0, 35)),
-          dark(mixed(back, 0, 65))
-    {
-    }
+    const auto channel = [&](int own) { return own + (with - own) * percent / 100; };
+    return QColor(channel(color.red()), channel(color.green()), channel(color.blue()));
+}
 
-    /// What fills the button: hover and press tint it, away from white where there is nothing lighter.
-    [[nodiscard]] QColor fill(int state) const
-    {
-        constexpr int bright = 128;
-        constexpr int nearlyWhite = 230;
-        const int grey = qGray(face.rgb());
-        if (state == buttonstate::pressed)
-            return mixed(face, 0, 12);
-        if (state != buttonstate::over)
-            return face;
-        return grey > nearlyWhite ? mixed(face, 0, 6) : mixed(face, 255, grey > bright ? 40 : 10);
-    }
-
-    static QColor mixed(const QColor& color, int with, int percent)
-    {
-        const auto channel = [&](int own) { return own + (with - own) * percent / 100; };
-        return QColor(channel(color.red()), channel(color.green()), channel(color.blue()));
-    }
-
-    QColor face;
-    QColor highlight;
-    QColor light;
-    QColor shadow;
-    QColor dark;
-};
+/// What fills a bevelled button: hover and press tint it, away from white where there is nothing lighter.
+QColor fillOf(const QColor& back, int state)
+{
+    constexpr int bright = 128;
+    constexpr int nearlyWhite = 230;
+    const int grey = qGray(back.rgb());
+    if (state == buttonstate::pressed)
+        return mixed(back, 0, 12);
+    if (state != buttonstate::over)
+        return back;
+    return grey > nearlyWhite ? mixed(back, 0, 6) : mixed(back, 255, grey > bright ? 40 : 10);
+}
 
 /// The width of a line in logical pixels: whole device pixels, so that no line is thicker than its opposite.
 double lineWidth(const QPainter& painter)
@@ -95,42 +78,49 @@ void dots(QPainter& painter, const QRect& rect, const QColor& color)
     }
 }
 
-void stroke(QPainter& painter, const BevelStroke& stroke, const Shades& shades, const QColor& text)
+void ringOf(QPainter& painter, const QRect& rect, const EdgeRing& ring)
 {
-    const QRect outer = stroke.rect;
-    // Inner lines go first: at a fractional ratio they reach under the outer ones.
-    const QRect inner = outer.adjusted(1, 1, -1, -1);
+    frame(painter, rect, toQColor(ring.leftTop), toQColor(ring.rightBottom));
+}
+
+void edge(QPainter& painter, const QRect& rect, EdgeKind kind, ColorValue back)
+{
+    const SystemEdge edge = systemEdge(kind, back);
+    // The inner ring goes first: at a fractional ratio it reaches under the outer one.
+    if (edge.rings > 1)
+        ringOf(painter, rect.adjusted(1, 1, -1, -1), edge.inner);
+    ringOf(painter, rect, edge.outer);
+}
+
+void stroke(QPainter& painter, const BevelStroke& stroke, ColorValue back, const QColor& text)
+{
     switch (stroke.kind) {
     case BevelStroke::MonoFrame:
-        frame(painter, outer, text, text);
+        frame(painter, stroke.rect, text, text);
         break;
     case BevelStroke::FlatFrame:
-        frame(painter, outer, shades.shadow, shades.shadow);
+        edge(painter, stroke.rect, EdgeKind::flat, back);
         break;
     case BevelStroke::Raised:
-        frame(painter, inner, shades.light, shades.shadow);
-        frame(painter, outer, shades.highlight, shades.dark);
+        edge(painter, stroke.rect, EdgeKind::raised, back);
         break;
     case BevelStroke::Sunken:
-        frame(painter, inner, shades.shadow, shades.light);
-        frame(painter, outer, shades.dark, shades.highlight);
+        edge(painter, stroke.rect, EdgeKind::sunken, back);
         break;
     case BevelStroke::Bump:
-        frame(painter, inner, shades.shadow, shades.light);
-        frame(painter, outer, shades.highlight, shades.dark);
+        edge(painter, stroke.rect, EdgeKind::bump, back);
         break;
     case BevelStroke::Etched:
-        frame(painter, inner, shades.highlight, shades.shadow);
-        frame(painter, outer, shades.shadow, shades.highlight);
+        edge(painter, stroke.rect, EdgeKind::etched, back);
         break;
     case BevelStroke::ThinRaised:
-        frame(painter, outer, shades.highlight, shades.shadow);
+        ringOf(painter, stroke.rect, systemEdge(EdgeKind::raised, back).inner);
         break;
     case BevelStroke::ThinSunken:
-        frame(painter, outer, shades.shadow, shades.highlight);
+        ringOf(painter, stroke.rect, systemEdge(EdgeKind::sunken, back).outer);
         break;
     case BevelStroke::FocusDots:
-        dots(painter, outer, text);
+        dots(painter, stroke.rect, text);
         break;
     }
 }
@@ -159,26 +149,6 @@ void caption(QPainter& painter, const ButtonExLook& look, const std::optional<QR
     painter.drawText(QRect(at, size), flags, drawn);
 }
 
-double channelLight(int channel)
-{
-    const double part = channel / 255.0;
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double relativeLight(const QColor& color)
-{
-    return 0.2126 * channelLight(color.red()) + 0.7152 * channelLight(color.green()) +
-           0.0722 * channelLight(color.blue());
-}
-
-/// WCAG contrast, 1 to 21.
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = relativeLight(one);
-    const double b = relativeLight(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
 /// What the ring will lie on: the mean of the face's pixels along it.
 QColor meanAlong(const QImage& face, const QRect& rect)
 {
@@ -200,21 +170,28 @@ QColor meanAlong(const QImage& face, const QRect& rect)
     return count == 0 ? QColor(Qt::black) : QColor(red / count, green / count, blue / count);
 }
 
-/// A ring with clipped corners that can be told from whatever it lies on: in the highlight colour where that
-/// stands out, otherwise black or white.
-void ring(QPainter& painter, const ButtonExLook& look)
+/// A colour that can be told from what a highlight lies on: the highlight colour where that stands out,
+/// otherwise black or white.
+QColor standingOut(const ButtonExLook& look, const QRect& rect)
+{
+    constexpr double enough = 3;
+    const ColorValue under = look.skinned ? toColorValue(meanAlong(look.face, rect)) : look.backColor;
+    const bool stands = contrastRatio(look.highlightColor, under) >= enough;
+    return toQColor(stands ? look.highlightColor : blackOrWhiteOn(under));
+}
+
+void highlights(QPainter& painter, const ButtonExLook& look, bool hasDots)
 {
     constexpr int ringInset = 2;
-    constexpr double enough = 3;
-    const QRect rect =
-        QRect(QPoint(0, 0), look.bevel.size).adjusted(ringInset, ringInset, -ringInset, -ringInset);
-    if (rect.width() < 3 || rect.height() < 3)
-        return;
-    const QColor under = look.skinned ? meanAlong(look.face, rect) : toQColor(look.backColor);
-    QColor color = toQColor(look.highlightColor);
-    if (contrast(color, under) < enough)
-        color = contrast(Qt::white, under) > contrast(Qt::black, under) ? Qt::white : Qt::black;
-    frame(painter, rect, color, color, true);
+    const QRect all(QPoint(0, 0), look.bevel.size);
+    const QRect ring = all.adjusted(ringInset, ringInset, -ringInset, -ringInset);
+    if (look.ring && !hasDots && ring.width() > 2 && ring.height() > 2) {
+        const QColor color = standingOut(look, ring);
+        frame(painter, ring, color, color, true);
+    }
+    const QRect dotted = focusPlace(look.bevel.size);
+    if (look.focusDots && !hasDots && !dotted.isEmpty())
+        dots(painter, dotted, standingOut(look, dotted));
 }
 
 } // namespace
@@ -231,10 +208,9 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
     if (look.skinned) {
         drawSharp(painter, QPoint(0, 0), look.face);
     } else {
-        const Shades shades(toQColor(look.backColor));
-        painter.fillRect(all, shades.fill(look.bevel.state));
+        painter.fillRect(all, fillOf(toQColor(look.backColor), look.bevel.state));
         for (const BevelStroke& one : bevelStrokes(look.bevel)) {
-            stroke(painter, one, shades, text);
+            stroke(painter, one, look.backColor, text);
             hasDots = hasDots || one.kind == BevelStroke::FocusDots;
         }
     }
@@ -244,8 +220,7 @@ void paintButtonEx(QPainter& painter, const ButtonExLook& look)
         drawSharp(painter, glyph->topLeft(), look.glyph);
     }
     caption(painter, look, glyph);
-    if (look.highlight && !hasDots)
-        ring(painter, look);
+    highlights(painter, look, hasDots);
     painter.restore();
 }
 

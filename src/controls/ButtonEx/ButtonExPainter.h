@@ -25,7 +25,8 @@ struct ButtonExLook
     ColorValue textColor = systemcolors::buttonText;
     bool rightToLeft = false;
     ColorValue highlightColor = systemcolors::buttonText;
-    bool highlight = false; ///< the control's own keyboard highlight: a ring, where the bevel draws no dots
+    bool ring = false;      ///< the control's own keyboard highlight, where the bevel draws no dots
+    bool focusDots = false; ///< a focus rectangle over what is shown
 };
 
 /// Draws the button at (0, 0). Any size will do; nothing is drawn outside it.

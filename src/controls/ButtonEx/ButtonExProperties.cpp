@@ -2,6 +2,7 @@
 
 #include "controls/ButtonEx/ButtonExMetrics.h"
 #include "controls/ButtonEx/TransparentCopy.h"
+#include "controls/MousePointer.h"
 
 #include <QAccessible>
 
@@ -87,13 +88,13 @@ void ButtonEx::setHighlightPicture(bool value)
 void ButtonEx::setMouseIcon(const QPixmap& icon)
 {
     m_mouseIcon = icon;
-    applyPointer();
+    applyMousePointer(*this, m_mousePointer, m_mouseIcon);
 }
 
 void ButtonEx::setMousePointer(int pointer)
 {
     m_mousePointer = pointer;
-    applyPointer();
+    applyMousePointer(*this, m_mousePointer, m_mouseIcon);
 }
 
 void ButtonEx::setOLEDropMode(int mode)

@@ -1,5 +1,6 @@
 #include "controls/CTooltip/TipPainter.h"
 
+#include "controls/Contrast.h"
 #include "controls/SystemColorsUi.h"
 
 #include <QFontMetrics>
@@ -23,21 +24,6 @@ constexpr int titleGap = 5;
 constexpr int tabBlanks = 8;
 /// Contrast from which text of this size can be read.
 constexpr double readable = 4.5;
-
-double linear(int channel)
-{
-    const double part = channel / 255.0;
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto light = [](const QColor& color) {
-        return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) + 0.0722 * linear(color.blue());
-    };
-    const auto [least, most] = std::minmax(light(one), light(other));
-    return (most + 0.05) / (least + 0.05);
-}
 
 QFont titleFont(const TipContent& content)
 {
@@ -179,8 +165,9 @@ QColor tipTextColor(const TipContent& content)
 {
     if (content.textColor != 0)
         return toQColor(content.textColor);
-    const QColor own = toQColor(systemcolors::infoText);
-    return contrast(own, tipBackColor(content)) >= readable ? own : QColor(Qt::white);
+    const ColorValue back = toColorValue(tipBackColor(content));
+    const bool reads = contrastRatio(systemcolors::infoText, back) >= readable;
+    return toQColor(reads ? systemcolors::infoText : blackOrWhiteOn(back));
 }
 
 QSize tipBodySize(const TipContent& content, const QSize& most)

@@ -5,6 +5,7 @@
 namespace varnhold {
 namespace {
 
+using namespace Qt::StringLiterals;
 using Kinds = std::vector<BevelStroke::Kind>;
 
 Kinds kinds(const BevelRequest& request)
@@ -90,24 +91,16 @@ TEST(ButtonExMetrics, AFaceMeasuresItsOwnPixels)
 
 TEST(ButtonExMetrics, TheFirstMarkIsTheMnemonic)
 {
-    struct Case
-    {
-        QString caption, text;
-        qsizetype mnemonic;
+    const auto is = [](const QString& caption, const QString& text, qsizetype mnemonic) {
+        EXPECT_EQ(captionText(caption), text);
+        EXPECT_EQ(captionMnemonic(caption), mnemonic) << qPrintable(caption);
     };
-    const std::vector<Case> cases = {
-        {QStringLiteral("&Open"), QStringLiteral("Open"), 0},
-        {QStringLiteral("Save &As"), QStringLiteral("Save As"), 5},
-        {QStringLiteral("&A && B"), QStringLiteral("A && B"), 0},
-        {QStringLiteral("Black && White"), QStringLiteral("Black & White"), -1},
-        {QStringLiteral("end&"), QStringLiteral("end"), -1},
-        {QStringLiteral("&"), QString(), -1},
-        {QString(), QString(), -1},
-    };
-    for (const Case& one : cases) {
-        EXPECT_EQ(captionText(one.caption), one.text) << qPrintable(one.caption);
-        EXPECT_EQ(captionMnemonic(one.caption), one.mnemonic) << qPrintable(one.caption);
-    }
+    is(u"&Open"_s, u"Open"_s, 0);
+    is(u"Save &As"_s, u"Save As"_s, 5);
+    is(u"&A && B"_s, u"A && B"_s, 0);
+    is(u"Black && White"_s, u"Black & White"_s, -1);
+    is(u"end&"_s, u"end"_s, -1);
+    is(QString(), QString(), -1);
 }
 
 TEST(ButtonExMetrics, CaptionAndGlyphStandWhereTold)

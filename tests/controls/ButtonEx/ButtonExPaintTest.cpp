@@ -35,7 +35,7 @@ TEST(ButtonExPaint, TheBevelIsLitFromAboveAndTurnsWhenPressed)
     ButtonExLook look = plain();
     const auto grey = [](const QImage& image, int x, int y) { return qGray(image.pixel(x, y)); };
     const QImage up = painted(look);
-    EXPECT_GT(grey(up, 20, 0), grey(up, 20, 10));
+    EXPECT_GT(grey(up, 20, 1), grey(up, 20, 10));
     EXPECT_LT(grey(up, 20, 19), grey(up, 20, 10));
     look.bevel.state = 0;
     const QImage down = painted(look);
@@ -74,7 +74,7 @@ TEST(ButtonExPaint, TheKeyboardHighlightShowsOnEveryFace)
         look.skinned = true;
         look.face = QImage(28, 14, QImage::Format_ARGB32_Premultiplied);
         look.face.fill(color);
-        look.highlight = true;
+        look.ring = true;
         const QImage image = painted(look);
         int strong = 0;
         for (int x = 0; x < 28; ++x) {
@@ -101,23 +101,15 @@ TEST(ButtonExPaint, ASecondMarkIsDrawnAndTheFirstUnderlines)
 {
     ButtonExLook look = plain();
     look.caption = u"&A & B"_s;
-    ButtonExLook bare = plain();
-    bare.caption = u"A & B"_s;
-    ButtonExLook none = plain();
-    EXPECT_NE(painted(look), painted(none));
-    // Without its underline the first is the second; a caption that starts with a blank mark has neither.
-    EXPECT_EQ(captionText(look.caption), u"A & B");
-    bare.caption = u"A& & B"_s; // the mark before a blank is no mnemonic
-    const QImage underlined = painted(look);
-    int differing = 0;
-    const QImage plainText = painted(bare);
-    for (int y = 0; y < underlined.height(); ++y) {
-        bool rowDiffers = false;
-        for (int x = 0; x < underlined.width(); ++x)
-            rowDiffers = rowDiffers || underlined.pixel(x, y) != plainText.pixel(x, y);
-        differing += rowDiffers ? 1 : 0;
+    ButtonExLook unmarked = plain();
+    unmarked.caption = u"A& & B"_s; // a mark before a blank is no mnemonic
+    EXPECT_NE(painted(unmarked), painted(plain()));
+    int rows = 0;
+    for (int y = 0; y < look.bevel.size.height(); ++y) {
+        const QRect row(0, y, look.bevel.size.width(), 1);
+        rows += painted(look).copy(row) != painted(unmarked).copy(row) ? 1 : 0;
     }
-    EXPECT_EQ(differing, 1) << "only the line of the underline";
+    EXPECT_EQ(rows, 1) << "only the underline";
 }
 
 } // namespace

@@ -76,30 +76,28 @@ protected:
 TEST(ButtonEx, HasItsPropertiesUnderTheirNamesWithTheirDefaults)
 {
     const ButtonEx button;
-    const std::vector<std::pair<const char*, QVariant>> expected = {
-        {"AllowDefault", true},
-        {"AllowFocus", true},
-        {"Appearance", 1},
-        {"BackColor", 0x8000000FU},
-        {"BorderStyle", 1},
-        {"Caption", u"ButtonEx1"_s},
-        {"CaptionOffsetX", 0},
-        {"CaptionOffsetY", 0},
-        {"Enabled", true},
-        {"ForeColor", 0x80000012U},
-        {"HighlightColor", 0x80000012U},
-        {"HighlightPicture", false},
-        {"MousePointer", 0},
-        {"OLEDropMode", 0},
-        {"PictureOffsetX", 0},
-        {"PictureOffsetY", 0},
-        {"RightToLeft", false},
-        {"Style", 0},
-        {"ToolTipText", QString()},
-        {"TransparentColor", 0xFF0000U},
-        {"Value", 1},
-        {"WhatsThisHelpID", 0},
-    };
+    const std::vector<std::pair<const char*, QVariant>> expected = {{"AllowDefault", true},
+                                                                    {"AllowFocus", true},
+                                                                    {"Appearance", 1},
+                                                                    {"BackColor", 0x8000000FU},
+                                                                    {"BorderStyle", 1},
+                                                                    {"Caption", u"ButtonEx1"_s},
+                                                                    {"CaptionOffsetX", 0},
+                                                                    {"CaptionOffsetY", 0},
+                                                                    {"Enabled", true},
+                                                                    {"ForeColor", 0x80000012U},
+                                                                    {"HighlightColor", 0x80000012U},
+                                                                    {"HighlightPicture", false},
+                                                                    {"MousePointer", 0},
+                                                                    {"OLEDropMode", 0},
+                                                                    {"PictureOffsetX", 0},
+                                                                    {"PictureOffsetY", 0},
+                                                                    {"RightToLeft", false},
+                                                                    {"Style", 0},
+                                                                    {"ToolTipText", QString()},
+                                                                    {"TransparentColor", 0xFF0000U},
+                                                                    {"Value", 1},
+                                                                    {"WhatsThisHelpID", 0}};
     for (const auto& [name, value] : expected)
         EXPECT_EQ(button.property(name), value) << name;
     for (const char* name : {"MouseIcon", "Picture", "PictureDisabled", "PictureDown", "PictureFocus",
@@ -215,38 +213,30 @@ TEST_F(ButtonExOnWindow, AHandlerThatDisablesItEndsThePress)
 
 TEST_F(ButtonExOnWindow, AnyEventMayDestroyIt)
 {
-    const std::vector<std::pair<const char*, void (*)(ButtonEx*)>> ends = {
-        {"Click", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::Click, b, [b] { delete b; }); }},
-        {"KeyDown", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::KeyDown, b, [b] { delete b; }); }},
-        {"KeyPress", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::KeyPress, b, [b] { delete b; }); }},
-        {"KeyUp", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::KeyUp, b, [b] { delete b; }); }},
-        {"MouseDown", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::MouseDown, b, [b] { delete b; }); }},
-        {"MouseMove", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::MouseMove, b, [b] { delete b; }); }},
-        {"MouseUp", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::MouseUp, b, [b] { delete b; }); }},
-        {"MouseEnter", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::MouseEnter, b, [b] { delete b; }); }},
-        {"MouseExit", [](ButtonEx* b) { QObject::connect(b, &ButtonEx::MouseExit, b, [b] { delete b; }); }},
-    };
-    for (const auto& [name, connectEnd] : ends) {
+    const auto diesOf = [this](auto signal) {
         auto* victim = new ButtonEx(&window);
+        const QPointer<ButtonEx> alive(victim);
+        QObject::connect(victim, signal, victim, [victim] { delete victim; });
         victim->setGeometry(button->geometry());
         victim->show();
         victim->setFocus();
-        connectEnd(victim);
-        const QPointer<ButtonEx> alive(victim);
-        const auto mouse = [&](QEvent::Type type, Qt::MouseButton which, Qt::MouseButtons held) {
+        const auto send = [&](QEvent::Type type, Qt::MouseButton which, Qt::MouseButtons held) {
             QMouseEvent event(type, QPoint(5, 5), window.mapToGlobal(in), which, held, Qt::NoModifier);
             if (alive)
                 QCoreApplication::sendEvent(victim, &event);
         };
         QCursor::setPos(window.mapToGlobal(in));
-        mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-        mouse(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+        send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
         if (alive)
             QTest::keyClick(victim, Qt::Key_Space);
-        mouse(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+        send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
         QCursor::setPos(away());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return alive.isNull(); }, 1000)) << name;
-    }
+        return QTest::qWaitFor([&] { return alive.isNull(); }, 1000);
+    };
+    EXPECT_TRUE(diesOf(&ButtonEx::Click) && diesOf(&ButtonEx::KeyDown) && diesOf(&ButtonEx::KeyPress));
+    EXPECT_TRUE(diesOf(&ButtonEx::KeyUp) && diesOf(&ButtonEx::MouseDown) && diesOf(&ButtonEx::MouseMove));
+    EXPECT_TRUE(diesOf(&ButtonEx::MouseUp) && diesOf(&ButtonEx::MouseEnter) && diesOf(&ButtonEx::MouseExit));
 }
 
 TEST_F(ButtonExOnWindow, ADroppedTextIsHandedOn)

@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <utility>
-#include <vector>
 
 namespace varnhold {
 namespace {
@@ -44,49 +43,28 @@ public:
 
 TEST(CTooltipState, CreateSendsWhatWasStored)
 {
-    struct Case
-    {
-        const char* name;
-        std::function<void(CTooltipState&)> set;
-        QString sent;
-    };
-    const std::vector<Case> cases = {
-        {"defaults", [](CTooltipState&) {}, u"create, add , delays 5000 500"_s},
-        {"balloon, centred",
-         [](CTooltipState& tip) {
-             tip.setStyle(1);
-             tip.setCentered(true);
-             tip.setTipText(u"t"_s);
-         },
-         u"create balloon, add centred t, delays 5000 500"_s},
-        {"icon alone", [](CTooltipState& tip) { tip.setIcon(1); },
-         u"create, add , title 1 , delays 5000 500"_s},
-        {"title alone", [](CTooltipState& tip) { tip.setTitle(u"T"_s); },
-         u"create, add , title 0 T, delays 5000 500"_s},
-        {"colours",
-         [](CTooltipState& tip) {
-             tip.setForeColor(7);
-             tip.setBackColor(8);
-         },
-         u"create, add , fore 7, back 8, delays 5000 500"_s},
-        {"black is the platform's", [](CTooltipState& tip) { tip.setForeColor(0); },
-         u"create, add , delays 5000 500"_s},
-        {"times",
-         [](CTooltipState& tip) {
-             tip.setVisibleTime(10);
-             tip.setDelayTime(0);
-         },
-         u"create, add , delays 10 0"_s},
-        {"unknown style", [](CTooltipState& tip) { tip.setStyle(5); }, u"create, add , delays 5000 500"_s},
-    };
-    for (const Case& one : cases) {
+    const auto sent = [](const std::function<void(CTooltipState&)>& set) {
         RecordingPlatform platform;
         CTooltipState tip(platform);
-        one.set(tip);
-        EXPECT_EQ(platform.taken(), QString()) << one.name << ": before Create";
+        set(tip);
+        EXPECT_EQ(platform.taken(), QString()) << "before Create";
         EXPECT_TRUE(tip.Create());
-        EXPECT_EQ(platform.taken(), one.sent) << one.name;
-    }
+        return platform.taken();
+    };
+    EXPECT_EQ(sent([](CTooltipState&) {}), u"create, add , delays 5000 500");
+    EXPECT_EQ(sent([](CTooltipState& tip) {
+                  tip.setStyle(1);
+                  tip.setCentered(true);
+                  tip.setTipText(u"t"_s);
+                  tip.setForeColor(7);
+                  tip.setBackColor(8);
+                  tip.setVisibleTime(10);
+                  tip.setDelayTime(0);
+              }),
+              u"create balloon, add centred t, fore 7, back 8, delays 10 0");
+    EXPECT_EQ(sent([](CTooltipState& tip) { tip.setIcon(1); }), u"create, add , title 1 , delays 5000 500");
+    EXPECT_EQ(sent([](CTooltipState& tip) { tip.setTitle(u"T"_s); }),
+              u"create, add , title 0 T, delays 5000 500");
 }
 
 TEST(CTooltipState, SettersSendAtOnceUnderTheirConditions)
