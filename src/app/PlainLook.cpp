@@ -5,6 +5,7 @@
 #include "app/PlainStyle.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/CTooltip/CTooltip.h"
+#include "controls/DesignValues.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
@@ -187,8 +188,11 @@ void dress(QWidget& window)
         tip->setForeColor(toColorValue(text));
         tip->setBackColor(toColorValue(panelRaised));
     }
-    for (XP_ProgressBar* bar : window.findChildren<XP_ProgressBar*>())
+    // The one look whose track is dark.
+    for (XP_ProgressBar* bar : window.findChildren<XP_ProgressBar*>()) {
+        bar->setScrolling(design::progresslook::office);
         bar->setColor(toColorValue(QColor(0x0a4152)));
+    }
 }
 
 } // namespace varnhold::plainlook

@@ -79,9 +79,13 @@ void Program::connectMainWindow()
 {
     connect(&m_main, &frmMain::fetchRequested, &m_lookup, &Lookup::btnFetch_Click);
     connect(&m_main, &frmMain::gameRowDoubleClicked, &m_lookup, &Lookup::MorphListBox1_DblClick);
-    connect(&m_main, &frmMain::textDropped, this, [this](const QString& text) {
-        m_lookup.dropText(text, [this](const QString& url) { m_planner.DownloadUrl(url); });
-    });
+    // Later than the drop itself, since the program that drags waits for its end, and a dialog may follow.
+    connect(
+        &m_main, &frmMain::textDropped, this,
+        [this](const QString& text) {
+            m_lookup.dropText(text, [this](const QString& url) { m_planner.DownloadUrl(url); });
+        },
+        Qt::QueuedConnection);
     connect(&m_main, &frmMain::updateRowActivated, this, [this] { m_planner.ListView1_DblClick(); });
     connect(&m_main, &frmMain::mnuMenuWanted, &m_menu, &frmMenu::popUp_mnuMenu);
     connect(&m_main, &frmMain::mnuLViewWanted, &m_menu, &frmMenu::popUp_mnuLView);

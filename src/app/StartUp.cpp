@@ -77,6 +77,7 @@ void StartUp::load()
     findHosts();
 
     m_services.main.startLayout(readLayout(m_services.file, m_services.state));
+    m_services.skin(m_services.main);
     pumpOnce();
     showStatus(u"Loading: Settings"_s);
     const QString listUrl = u"http://%1/Varnhold/ps3gameids.txt"_s.arg(m_services.hosts.update.authority);

@@ -58,6 +58,8 @@ frmMain::frmMain(const Services& services) : ShapedWindow(nullptr), m_services(s
     connectUpdates();
     m_barLeftTop = m_barMainTop = MainLayout::normal().columnTwips - splitBarHeight;
     applyLayout(MainLayout::normal(), 1);
+    orderTabs();
+    m_gameId->setFocus();
 }
 
 frmMain::~frmMain() = default;
@@ -141,6 +143,8 @@ void frmMain::buildCaption()
     });
     m_winState[1] = addButton("btn_WinState(1)", u"Exit"_s);
     connect(m_winState[1], &ButtonEx::Click, this, [this] {
+        // The focus would pass on to the game list, and there the key that answers the question clears rows.
+        m_gameId->setFocus();
         m_winState[1]->setEnabled(false);
         Q_EMIT exitRequested();
     });
@@ -212,6 +216,14 @@ void frmMain::buildFoot()
     m_count->setAccessibleName(tr("Open downloads"));
     m_count->setToolTip(tr("Open downloads"));
     m_count->setAlignment(Qt::AlignCenter);
+}
+
+void frmMain::orderTabs()
+{
+    QWidget* const order[] = {m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
+                              m_gameId,  m_fetch,          m_games,       m_updates,     m_notes};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void frmMain::applyLayout(const MainLayout& layout, int number)

@@ -122,6 +122,7 @@ private:
     void connectUpdates();
     ButtonEx* addButton(const char* name, const QString& toolTip);
     ElidedLabel* addLabel(const char* name, const QString& accessibleName);
+    void orderTabs();
     void applyLayout(const MainLayout& layout, int number);
     void layLeftColumn();
     void layMainColumn();

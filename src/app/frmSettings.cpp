@@ -124,6 +124,7 @@ void frmSettings::open(const QPoint& place)
         if (CaptionDrag::placesWindows())
             move(place);
         show();
+        m_list->setFocus();
     }
     raise();
     activateWindow();

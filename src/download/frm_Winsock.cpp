@@ -69,6 +69,8 @@ frm_Winsock::frm_Winsock(const Services& services, QWidget* owner)
     setObjectName("frm_Winsock"_L1);
     setWindowTitle(given.applicationTitle);
     setFixedSize(windowSize);
+    // It comes while the user works elsewhere, and a key meant for there must not cancel it.
+    setAttribute(Qt::WA_ShowWithoutActivating);
     build();
     connect(m_client.get(), &DownloadClient::labelsChanged, this, &frm_Winsock::showLabels);
     connect(m_client.get(), &DownloadClient::unloadRequested, this, &frm_Winsock::onUnload);

@@ -8,8 +8,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QSignalSpy>
 
 namespace varnhold::test {
@@ -295,6 +297,25 @@ TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)
     EXPECT_EQ(view.viewport()->toolTip(), u"01.02"_s);
     QTest::mouseMove(view.viewport(), {5, view.viewport()->height() - 5});
     EXPECT_TRUE(view.viewport()->toolTip().isEmpty());
+}
+
+TEST_F(FrmMain, TakesDroppedTextOnly)
+{
+    auto& fetch = child<ButtonEx>(window, "btnFetch");
+    const QSignalSpy drops(&window, &frmMain::textDropped);
+    QMimeData text;
+    text.setText(u"http://host/A.PKG"_s);
+    QMimeData other;
+    other.setData(u"application/x-other"_s, "x");
+    for (const QMimeData* data : {&text, &other}) {
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&fetch, &enter);
+        EXPECT_EQ(enter.isAccepted(), data == &text);
+    }
+    QDropEvent drop({5, 5}, Qt::CopyAction, &text, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&fetch, &drop);
+    ASSERT_EQ(drops.count(), 1);
+    EXPECT_EQ(drops.front().front().toString(), u"http://host/A.PKG"_s);
 }
 
 TEST_F(FrmMain, TogglesTheRawPage)

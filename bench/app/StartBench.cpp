@@ -1,0 +1,108 @@
+// The program's start against a bare window of the same toolkit, in pairs of processes: from the process's
+// start to the first paint of the splash, and to the idle main window. start_bench [PAIRS].
+
+#include "app/PlainLook.h"
+#include "app/Program.h"
+#include "platform/QtFileDialogs.h"
+#include "platform/QtMessageBoxes.h"
+#include "platform/QtScreen.h"
+#include "platform/QtShell.h"
+#include "platform/SdlSoundPlayer.h"
+#include "platform/TcpSocket.h"
+#include "support/ChildRun.h"
+#include "support/PairedRuns.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace varnhold;
+using namespace varnhold::bench;
+
+/// Ends the process, as short as it gets, when the window is about to be painted.
+class EndAtPaint : public QObject
+{
+public:
+    explicit EndAtPaint(const QString& window) : m_window(window) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watched->objectName() == m_window)
+            std::_Exit(0);
+        return false;
+    }
+
+private:
+    QString m_window;
+};
+
+int runBare(QApplication& application)
+{
+    EndAtPaint end(u"bare"_s);
+    application.installEventFilter(&end);
+    QWidget window;
+    window.setObjectName(u"bare"_s);
+    window.resize(320, 160);
+    window.show();
+    return QApplication::exec();
+}
+
+int runOurs(QApplication& application, const QString& until, const QString& root)
+{
+    const Paths paths{root};
+    plainlook::apply(application);
+    QtMessageBoxes boxes;
+    QtFileDialogs dialogs;
+    QtShell shell;
+    SdlSoundPlayer player;
+    TcpSocketMaker sockets;
+    const QtScreen screen;
+    EndAtPaint end(until);
+    application.installEventFilter(&end);
+    Program program(paths, {.boxes = boxes,
+                            .dialogs = dialogs,
+                            .shell = shell,
+                            .player = player,
+                            .sockets = sockets,
+                            .screen = screen,
+                            .isFirst = [] { return true; },
+                            .activatePrevious = [] { return false; },
+                            .findHosts = [] { return Hosts(); },
+                            .endProcess = [] { std::_Exit(1); }});
+    return program.start() ? QApplication::exec() : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setApplicationName(u"Varnhold"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VARNHOLD_VERSION));
+    const std::string mode = argc > 1 ? argv[1] : "";
+    if (mode.starts_with("--")) {
+        QApplication application(argc, argv);
+        if (mode == "--bare")
+            return runBare(application);
+        return runOurs(application, mode == "--splash" ? u"frmSplash"_s : u"frmMain"_s,
+                       QString::fromLocal8Bit(argv[2]));
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const int pairs = mode.empty() ? 21 : std::atoi(mode.c_str());
+    const QTemporaryDir root;
+    const auto timeOf = [&](const char* what) {
+        return [self = std::string(argv[0]), what, folder = root.path().toStdString()] {
+            return runChildren({{self, what, folder}}).seconds;
+        };
+    };
+    bool kept = printPaired("splash painted, against a bare window",
+                            comparePaired(pairs, timeOf("--splash"), timeOf("--bare")), "ms", 1000, 1.5);
+    kept = printPaired("main window painted, against a bare window",
+                       comparePaired(pairs, timeOf("--main"), timeOf("--bare")), "ms", 1000, 4) &&
+           kept;
+    return kept ? 0 : 1;
+}
