@@ -34,11 +34,8 @@ bool CTooltip::createWindow(bool balloon)
     if (!m_owner)
         return false;
     m_window = new TipWindow(m_owner, balloon);
-    connect(m_window, &QObject::destroyed, this, [this](const QObject* gone) {
-        // A newer window may stand in its place by now.
-        if (!m_window || m_window == gone)
-            m_state.forgetWindow();
-    });
+    // A window that is replaced is disconnected first, so this one went with its owner.
+    connect(m_window, &QObject::destroyed, this, [this] { m_state.forgetWindow(); });
     return true;
 }
 
