@@ -111,15 +111,32 @@ TEST(XP_ProgressBar, TakesItsPropertiesByName)
     EXPECT_TRUE(bar.property("Image").value<QPixmap>().isNull());
 }
 
+class PaintCount : public QObject
+{
+public:
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 TEST(XP_ProgressBar, ShowsAValueBeforeTheEventLoopTurns)
 {
     XP_ProgressBar bar;
+    PaintCount count;
     bar.resize(97, 20);
     bar.setScrolling(look::pastel);
     bar.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
     bar.setColor(0x00D07A1E);
-    bar.setValue(60);
+    bar.installEventFilter(&count);
+    for (const int percent : {59, 60, 60, 60})
+        bar.setValue(percent);
+    EXPECT_EQ(count.paints, 2); // one for each that is new
     EXPECT_EQ(bar.hdc(), rendered(look::pastel, 1));
 }
 
