@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QStringList>
 #include <QStringView>
+
+#include <vector>
 
 namespace varnhold {
 
@@ -13,5 +16,8 @@ double leadingNumber(QStringView text);
 /// The order of a sorted list. By text: in lower case, and by code unit where that is equal. By number:
 /// only the leading numbers count.
 int compareItems(QStringView left, QStringView right, bool numeric);
+
+/// The indexes of the texts in sorted order; equal texts keep theirs.
+std::vector<int> sortedOrder(const QStringList& texts, bool numeric, bool descending);
 
 } // namespace varnhold

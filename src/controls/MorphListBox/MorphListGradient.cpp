@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <numeric>
 #include <utility>
 
 namespace varnhold {
@@ -50,52 +51,74 @@ Direction directionOf(const MorphGradient& gradient)
     direction.stepX = int(std::sin(angle) * float(scale));
     direction.stepY = std::max(0, int(std::cos(angle) * float(scale)));
     direction.length = std::max(1, int(length));
-    // Quadrants 1 and 3 run against the rows, 2 and 3 against the colours; so a full turn of the angle turns
-    // the gradient round once without a jump.
+    // Quadrants 1 and 3 run against the rows, 2 and 3 against the colours, so a full turn of the angle turns
+    // the gradient round once without a jump. A gradient that is the same from both ends keeps its colours.
     direction.upward = odd;
-    direction.swapped = quadrant > 1;
+    direction.swapped = quadrant > 1 && !gradient.middleOut;
     return direction;
+}
+
+/// Looks up ramp entries along a line: entry (start + i * step) / scale for i from 0.
+void lookUp(const quint32* ramp, quint64 start, quint64 step, quint32* pixels, int count)
+{
+    // Dividing by the scale is a multiplication and a shift, and the multiplication adds up along the line.
+    // It is exact for sums below 2^32, that is for edges of two million pixels.
+    constexpr int shift = 42;
+    constexpr quint64 reciprocal = ((quint64(1) << shift) + scale - 1) / scale;
+    quint64 sum = start * reciprocal;
+    step *= reciprocal;
+    int i = 0;
+    for (; i + 4 <= count; i += 4, sum += 4 * step) {
+        pixels[i] = ramp[sum >> shift];
+        pixels[i + 1] = ramp[(sum + step) >> shift];
+        pixels[i + 2] = ramp[(sum + 2 * step) >> shift];
+        pixels[i + 3] = ramp[(sum + 3 * step) >> shift];
+    }
+    for (; i < count; ++i, sum += step)
+        pixels[i] = ramp[sum >> shift];
 }
 
 void paintLinear(const MorphGradient& gradient, quint32* pixels, qsizetype stride)
 {
+    const int width = gradient.width;
+    const int height = gradient.height;
     const Direction direction = directionOf(gradient);
+    const auto stepX = quint64(direction.stepX);
+    const auto stepY = quint64(direction.stepY);
     ColorValue from = GetLngColor(gradient.color1);
     ColorValue to = GetLngColor(gradient.color2);
     if (direction.swapped)
         std::swap(from, to);
     std::vector<quint32> ramp = morphRamp(direction.length, from, to, gradient.middleOut);
-    const qint64 farthest =
-        qint64(gradient.width - 1) * direction.stepX + qint64(gradient.height - 1) * direction.stepY;
     // Indexes past the ramp take its last entry; with the table grown to hold them no pixel needs a test.
+    const quint64 farthest = quint64(width - 1) * stepX + quint64(height - 1) * stepY;
     ramp.resize(std::max(ramp.size(), size_t(farthest / scale) + 1), ramp.back());
+    const auto rowAt = [&](int y) { return pixels + (direction.upward ? height - 1 - y : y) * stride; };
 
-    // Dividing by the scale is a multiplication and a shift, and the multiplication adds up along a row. It
-    // is exact for sums below 2^32, that is for edges of two million pixels.
-    constexpr int shift = 42;
-    constexpr quint64 reciprocal = ((quint64(1) << shift) + scale - 1) / scale;
-    const quint64 step = quint64(direction.stepX) * reciprocal;
-    const quint32* const table = ramp.data();
-    const quint32* rowBefore = nullptr;
-    for (int y = 0; y < gradient.height; ++y) {
-        quint32* const row = pixels + (direction.upward ? gradient.height - 1 - y : y) * stride;
-        if (direction.stepX == 0) {
-            std::fill_n(row, gradient.width, table[y * direction.stepY / scale]);
-        } else if (direction.stepY == 0 && rowBefore) {
-            std::memcpy(row, rowBefore, size_t(gradient.width) * sizeof(quint32));
-        } else {
-            quint64 sum = quint64(y) * quint64(direction.stepY) * reciprocal;
-            int x = 0;
-            for (; x + 4 <= gradient.width; x += 4, sum += 4 * step) {
-                row[x] = table[sum >> shift];
-                row[x + 1] = table[(sum + step) >> shift];
-                row[x + 2] = table[(sum + 2 * step) >> shift];
-                row[x + 3] = table[(sum + 3 * step) >> shift];
-            }
-            for (; x < gradient.width; ++x, sum += step)
-                row[x] = table[sum >> shift];
+    if (direction.stepX == 0) {
+        for (int y = 0; y < height; ++y)
+            std::fill_n(rowAt(y), width, ramp[size_t(y) * stepY / scale]);
+        return;
+    }
+    // A row `period` further on is the same row moved by `offset` pixels. At 45 degrees that is the next row,
+    // so all rows are pieces of one line; at an angle without such luck the period is longer than the
+    // picture.
+    const int common = std::gcd(direction.stepX, direction.stepY);
+    const int period = direction.stepX / common;
+    const int offset = direction.stepY / common;
+    if (qint64(period) * width + qint64(height) * offset > qint64(width) * height / 2) {
+        for (int y = 0; y < height; ++y)
+            lookUp(ramp.data(), quint64(y) * stepY, stepX, rowAt(y), width);
+        return;
+    }
+    std::vector<quint32> line;
+    for (int first = 0; first < std::min(period, height); ++first) {
+        line.resize(size_t(width) + size_t((height - 1 - first) / period) * size_t(offset));
+        lookUp(ramp.data(), quint64(first) * stepY, stepX, line.data(), int(line.size()));
+        for (int y = first; y < height; y += period) {
+            std::memcpy(rowAt(y), line.data() + qsizetype(y / period) * offset,
+                        size_t(width) * sizeof(quint32));
         }
-        rowBefore = row;
     }
 }
 

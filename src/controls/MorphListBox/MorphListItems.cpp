@@ -2,12 +2,11 @@
 
 #include "controls/MorphListBox/MorphListCompare.h"
 
-#include <numeric>
 #include <utility>
 
 namespace varnhold {
 
-void MorphListItems::append(QString text)
+void MorphListItems::append(QString&& text)
 {
     m_newIndex = int(m_texts.size());
     m_order = m_newIndex == 0 ? Order::Ascending : Order::Unknown;
@@ -17,15 +16,17 @@ void MorphListItems::append(QString text)
     m_texts.append(std::move(text));
 }
 
-void MorphListItems::insert(int index, QString text)
+void MorphListItems::insert(int index, QString&& text)
 {
     openSlot(index, std::move(text));
     keepOrderAt(index);
 }
 
-void MorphListItems::addSorted(QString text)
+void MorphListItems::addSorted(QString&& text)
 {
-    if (m_order == Order::Unknown)
+    if (count() < 2)
+        m_order = Order::Ascending;
+    else if (m_order == Order::Unknown)
         checkOrder();
     // Without an order there is no queueing: where a binary search ends depends on each text before.
     if (m_order == Order::Mixed)
@@ -38,11 +39,7 @@ std::vector<int> MorphListItems::settle()
 {
     if (m_waiting.isEmpty())
         return {};
-    std::vector<int> order(size_t(m_waiting.size()));
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [this](int left, int right) {
-        return compare(m_waiting.at(left), m_waiting.at(right)) < 0;
-    });
+    const std::vector<int> order = sortedOrder(m_waiting, m_numeric, m_order == Order::Descending);
     std::vector<int> slots;
     slots.reserve(order.size());
     for (const int waiting : order)
@@ -106,11 +103,7 @@ void MorphListItems::setNumeric(bool numeric)
 
 void MorphListItems::sortDescending()
 {
-    std::vector<int> order(size_t(m_texts.size()));
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [this](int left, int right) {
-        return compareItems(m_texts.at(left), m_texts.at(right), m_numeric) > 0;
-    });
+    const std::vector<int> order = sortedOrder(m_texts, m_numeric, true);
     QStringList sorted;
     sorted.reserve(m_texts.size());
     for (const int from : order)
@@ -206,7 +199,7 @@ void MorphListItems::keepOrderAt(int index)
         m_order = Order::Unknown;
 }
 
-void MorphListItems::openSlot(int index, QString text)
+void MorphListItems::openSlot(int index, QString&& text)
 {
     m_texts.insert(index, std::move(text));
     data.insert(index);

@@ -20,9 +20,9 @@ public:
     [[nodiscard]] int count() const { return int(m_texts.size() + m_waiting.size()); }
     [[nodiscard]] bool settled() const { return m_waiting.isEmpty(); }
 
-    void append(QString text);
-    void insert(int index, QString text);
-    void addSorted(QString text);
+    void append(QString&& text);
+    void insert(int index, QString&& text);
+    void addSorted(QString&& text);
     /// Merges the queue in. For each new text, in ascending order, the old index that it went in front of.
     std::vector<int> settle();
     void remove(int index);
@@ -56,7 +56,7 @@ private:
     [[nodiscard]] bool inOrder(int left, int right) const;
     void checkOrder();
     void keepOrderAt(int index);
-    void openSlot(int index, QString text);
+    void openSlot(int index, QString&& text);
 
     QStringList m_texts;
     QStringList m_waiting;

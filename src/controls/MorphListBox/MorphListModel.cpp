@@ -14,7 +14,7 @@ void MorphListDirty::addRow(int row)
         rows.append(row);
 }
 
-void MorphListModel::AddItem(QString text, std::optional<int> index)
+void MorphListModel::AddItem(QString&& text, std::optional<int> index)
 {
     if (!m_enabled)
         return;
@@ -103,7 +103,7 @@ void MorphListModel::DisplayFrom(int index)
 {
     if (!m_enabled || !contains(index))
         return;
-    settle();
+    static_cast<void>(metrics()); // brings the number of rows up to date
     if (m_scroll.scrolls())
         scrolled(m_scroll.setFirst(index));
 }
@@ -239,7 +239,7 @@ void MorphListModel::setListIndex(int index)
     const int focus = m_selection.focusRow();
     m_selection.setListIndex(index);
     selectionChanged(current, focus, false);
-    static_cast<void>(metrics()); // brings the number of rows up to date
+    static_cast<void>(metrics());
     scrolled(m_scroll.showRow(index));
 }
 

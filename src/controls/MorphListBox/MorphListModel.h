@@ -67,7 +67,8 @@ public:
     MorphListModel& operator=(const MorphListModel&) = delete;
 
     // Items
-    void AddItem(QString text, std::optional<int> index = {});
+    void AddItem(QString&& text, std::optional<int> index = {});
+    void AddItem(const QString& text, std::optional<int> index = {}) { AddItem(QString(text), index); }
     void RemoveItem(int index);
     void Clear();
     void ClearOrSelect();
