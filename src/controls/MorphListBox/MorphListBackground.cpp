@@ -88,7 +88,7 @@ QImage paintMorphBackground(const MorphBackground& background)
         paintPicture(painter, background);
     }
 
-    const int width = qRound(design.BorderWidth * background.ratio);
+    const int width = morphBorderWidth(design, background.ratio);
     const bool curved = isCurved(design);
     if (width <= 0 && !curved)
         return inner;

@@ -33,6 +33,12 @@ struct MorphBackground
     int pictureMode = 0;
 };
 
+/// Thickness of the border in device pixels: rounded down, so that no row or scroll bar reaches into it.
+[[nodiscard]] inline int morphBorderWidth(const MorphListDesign& design, qreal ratio)
+{
+    return int(design.BorderWidth * ratio);
+}
+
 /// Gradient, picture and border in device pixels. Outside a curved outline it is transparent.
 QImage paintMorphBackground(const MorphBackground& background);
 

@@ -51,6 +51,11 @@ void MorphListPainter::paint(QPainter& painter, const QRect& place, const QRegio
     const QRect touched = dirty.boundingRect().translated(-place.topLeft());
     const QRect strip = toDevice(touched).intersected(list);
     painter.drawImage(strip.topLeft(), m_background, strip);
+    if (isCurved(look.design)) { // rows and scroll bar keep off the corners
+        painter.setClipPath(
+            morphOutline(list.size(), look.design, morphBorderWidth(look.design, m_ratio), m_ratio),
+            Qt::IntersectClip);
+    }
     const MorphListMetrics& metrics = model.metrics();
     const int top = model.topIndex();
     for (int index = top; index <= model.lastVisible(); ++index) {

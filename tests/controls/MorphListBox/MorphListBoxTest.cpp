@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QMetaProperty>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
 
@@ -84,6 +85,7 @@ TEST_F(MorphListBoxTest, RaisesItsEventsInTheirOrder)
 
 TEST_F(MorphListBoxTest, HoldsAnArrowLeavesAndReturns)
 {
+    QTest::mouseMove(m_list, lowerArrow());
     QTest::mousePress(m_list, Qt::LeftButton, {}, lowerArrow());
     EXPECT_EQ(m_list->TopIndex(), 1);
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_list->TopIndex() >= 3; }));
@@ -115,7 +117,8 @@ TEST_F(MorphListBoxTest, OutlivesItsListeners)
         m_list->AddItem(u"x"_s);
     QTest::mousePress(m_list, Qt::LeftButton, {}, lowerArrow());
     QObject::connect(m_list, &MorphListBox::MouseUp, m_list, [this] { delete m_list; });
-    QTest::mouseRelease(m_list->windowHandle(), Qt::LeftButton, {}, lowerArrow());
+    QMouseEvent release(QEvent::MouseButtonRelease, lowerArrow(), lowerArrow(), Qt::LeftButton, {}, {});
+    QCoreApplication::sendEvent(m_list, &release);
     EXPECT_FALSE(m_list);
     m_list = new MorphListBox;
     m_list->setSorted(false);

@@ -91,7 +91,50 @@ TEST(MorphListPicture, ACheckListWithFocusAndScrollBar)
     list.setListIndex(1);
     list.setSelected(1, true);
     list.focusIn();
-    EXPECT_EQ(paintedAt(1, {36, 42}, list, look), "");
+    EXPECT_EQ(paintedAt(1, {36, 42}, list, look), R"(
+####################################
+#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#
+#.........................BBBBABBBB#
+#.........................BBBAAABBB#
+#.........................BBBBBBBBB#
+#...ooooooooooooo.........BBBBBBBBB#
+#...o...........o.........BBBBBBBBB#
+#...o...........o.........BBBBBBBBB#
+#...o...........o.........|||||||||#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#
+#...o...........o.........|||||||||#
+#...o...........o.........ttttttttt#
+#...ooooooooooooo.........ttttttttt#
+#.........................ttttttttt#
+#:s:s:s:s:s:s:s:s:s:s:s:s:ttttttttt#
+#sssooooooooooooosssssssssttttttttt#
+#:ssosssssssssssossssssss:ttttttttt#
+#sssosssssssssssosssssssssttttttttt#
+#:ssossssssssxssossssssss:ttttttttt#
+#sssosssssssxxssosssssssssttttttttt#
+#:ssossxsssxxxssossssssss:ttttttttt#
+#sssossxxsxxxsssosssssssssttttttttt#
+#:ssossxxxxxssssossssssss:ttttttttt#
+#sssosssxxxsssssosssssssssttttttttt#
+#:ssossssxssssssossssssss:ttttttttt#
+#sssosssssssssssosssssssssBBBBBBBBB#
+#:ssosssssssssssossssssss:BBBBBBBBB#
+#sssooooooooooooosssssssssBBBBBBBBB#
+#:s:s:s:s:s:s:s:s:s:s:s:s:BBBAAABBB#
+#.........................BBBBABBBB#
+#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#
+####################################
+)");
 }
 
 TEST(MorphListPicture, ACurvedBorderAndAMirroredRowWithItsImage)
@@ -108,23 +151,128 @@ TEST(MorphListPicture, ACurvedBorderAndAMirroredRowWithItsImage)
     MorphListModel list;
     prepare(list, look, {32, 34}, 3);
     list.setImageIndex(0, 0);
-    EXPECT_EQ(paintedAt(1, {32, 34}, list, look), "");
+    EXPECT_EQ(paintedAt(1, {32, 34}, list, look), R"(
+     ###########################
+   #############################
+  ####BBBBB...................##
+ ###BBBBBBB...................##
+ ##BBBBBBBB...................##
+###BBBABBBB...................##
+##BBBAAABBB...................##
+##BBBBBBBBB........RRRRRRRR...##
+##BBBBBBBBB........RRRRRRRR...##
+##BBBBBBBBB........RRRRRRRR...##
+##BBBBBBBBB........RRRRRRRR...##
+##|||||||||........RRRRRRRR...##
+##|TTTTTTT|........RRRRRRRR...##
+##|TTTTTTT|........RRRRRRRR...##
+##|TTTTTTT|........RRRRRRRR...##
+##|TTTTTTT|...................##
+##|TTTTTTT|...................##
+##|TTTTTTT|...................##
+##|||||||||...................##
+##ttttttttt...................##
+##ttttttttt...................##
+##ttttttttt...................##
+##ttttttttt...................##
+##BBBBBBBBB...................##
+##BBBBBBBBB...................##
+##BBBBBBBBB...................##
+##BBBAAABBB...................##
+##BBBBABBBB...................##
+##BBBBBBBBB...................##
+##BBBBBBBBB...................##
+##BBBBBBBBB...................##
+##BBBBBBBBB..................## 
+############################### 
+#############################   
+)");
 }
 
 TEST(MorphListPicture, PartsMeetAtAFractionalRatio)
 {
     MorphListLook look = flatLook();
     MorphListModel list;
-    prepare(list, look, {24, 28}, 4);
-    list.setListIndex(0);
-    static_cast<void>(list.press(mousebutton::left, 0, {20, 24}, 0));
-    EXPECT_EQ(paintedAt(1.5, {24, 28}, list, look), "");
+    prepare(list, look, {24, 45}, 9);
+    list.setListIndex(2);
+    static_cast<void>(list.press(mousebutton::left, 0, {20, 34}, 0)); // the track is held
+    EXPECT_EQ(paintedAt(1.5, {24, 45}, list, look), R"(
+####################################
+#..................................#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBAABBBBBB#
+#....................BBBBBAAAABBBBB#
+#....................BBBBAAAAAABBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................tttttttttttttt#
+#....................||||||||||||||#
+#....................||||||||||||||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||TTTTTTTTTT||#
+#....................||||||||||||||#
+#....................||||||||||||||#
+#....................cccccccccccccc#
+#....................cccccccccccccc#
+#....................cccccccccccccc#
+#....................cccccccccccccc#
+#....................cccccccccccccc#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBAAAAAABBBB#
+#....................BBBBBAAAABBBBB#
+#....................BBBBBBAABBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#
+#..................................#
+####################################
+)");
 }
 
 TEST(MorphListPicture, APartPaintedAgainIsTheSamePicture)
 {
     for (const qreal ratio : {1.0, 1.5, 2.0}) {
         MorphListLook look;
+        look.font.setPixelSize(6); // keeps inside its row
         applyMorphTheme(1, look.design);
         MorphListModel list;
         prepare(list, look, {60, 70}, 30);
