@@ -58,7 +58,8 @@ MorphListBox::~MorphListBox() = default;
 void MorphListBox::AddItem(QString text, std::optional<int> index)
 {
     m_model->AddItem(std::move(text), index);
-    repaintDirty();
+    if (m_redraw)
+        repaintDirty();
 }
 
 void MorphListBox::RemoveItem(int index)

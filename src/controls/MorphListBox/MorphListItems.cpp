@@ -6,16 +6,6 @@
 
 namespace varnhold {
 
-void MorphListItems::append(QString&& text)
-{
-    m_newIndex = int(m_texts.size());
-    m_order = m_newIndex == 0 ? Order::Ascending : Order::Unknown;
-    data.insert(m_newIndex);
-    images.insert(m_newIndex);
-    selected.insert(m_newIndex);
-    m_texts.append(std::move(text));
-}
-
 void MorphListItems::insert(int index, QString&& text)
 {
     openSlot(index, std::move(text));
@@ -46,8 +36,9 @@ std::vector<int> MorphListItems::settle()
         slots.push_back(slotFor(m_waiting.at(waiting)));
 
     const int added = int(m_waiting.size());
-    int source = int(m_texts.size());
-    m_texts.resize(source + added);
+    const int before = int(m_texts.size());
+    int source = before;
+    m_texts.resize(before + added);
     int target = int(m_texts.size());
     for (int i = added - 1; i >= 0; --i) {
         const int slot = slots[size_t(i)];
@@ -59,9 +50,9 @@ std::vector<int> MorphListItems::settle()
         if (order[size_t(i)] == added - 1)
             m_newIndex = target;
     }
-    data.merge(slots);
-    images.merge(slots);
-    selected.merge(slots);
+    data.merge(slots, before);
+    images.merge(slots, before);
+    selected.merge(slots, before);
     m_waiting = {};
     return slots;
 }
@@ -119,9 +110,9 @@ void MorphListItems::reverse()
 {
     for (qsizetype front = 0, back = m_texts.size() - 1; front < back; ++front, --back)
         m_texts[front].swap(m_texts[back]);
-    data.reverse();
-    images.reverse();
-    selected.reverse();
+    data.reverse(int(m_texts.size()));
+    images.reverse(int(m_texts.size()));
+    selected.reverse(int(m_texts.size()));
     if (m_order == Order::Ascending && m_texts.size() > 1)
         m_order = Order::Descending;
     else if (m_order == Order::Descending)

@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <utility>
 #include <vector>
 
 namespace varnhold {
@@ -20,7 +21,12 @@ public:
     [[nodiscard]] int count() const { return int(m_texts.size() + m_waiting.size()); }
     [[nodiscard]] bool settled() const { return m_waiting.isEmpty(); }
 
-    void append(QString&& text);
+    void append(QString&& text) // inline: a bulk fill is made of nothing else
+    {
+        m_newIndex = int(m_texts.size());
+        m_order = m_newIndex == 0 ? Order::Ascending : Order::Unknown;
+        m_texts.append(std::move(text));
+    }
     void insert(int index, QString&& text);
     void addSorted(QString&& text);
     /// Merges the queue in. For each new text, in ascending order, the old index that it went in front of.

@@ -14,7 +14,7 @@ void MorphListDirty::addRow(int row)
         rows.append(row);
 }
 
-void MorphListModel::AddItem(QString&& text, std::optional<int> index)
+void MorphListModel::addInPlace(QString&& text, std::optional<int> index)
 {
     if (!m_enabled)
         return;
@@ -24,14 +24,11 @@ void MorphListModel::AddItem(QString&& text, std::optional<int> index)
         settle();
         m_items.insert(*index, std::move(text));
         m_selection.onInserted(*index);
-    } else if (m_sorted) {
+    } else {
         const bool queued = !m_items.settled();
         m_items.addSorted(std::move(text));
         if (m_items.settled() && !queued)
             m_selection.onInserted(m_items.newIndex());
-    } else {
-        settle();
-        m_items.append(std::move(text));
     }
     itemsChanged();
 }
@@ -307,19 +304,6 @@ const MorphListMetrics& MorphListModel::metrics()
 MorphListDirty MorphListModel::takeDirty()
 {
     return std::exchange(m_dirty, {});
-}
-
-void MorphListModel::settle()
-{
-    if (!m_items.settled())
-        m_selection.onMerged(m_items.settle());
-}
-
-void MorphListModel::itemsChanged()
-{
-    m_metrics.reset();
-    m_dirty.all = true;
-    m_dirty.items = true;
 }
 
 void MorphListModel::selectionChanged(int oldCurrent, int oldFocus, bool flags)

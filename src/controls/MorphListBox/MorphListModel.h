@@ -9,6 +9,7 @@
 #include <QVarLengthArray>
 
 #include <optional>
+#include <utility>
 
 namespace varnhold {
 
@@ -67,7 +68,16 @@ public:
     MorphListModel& operator=(const MorphListModel&) = delete;
 
     // Items
-    void AddItem(QString&& text, std::optional<int> index = {});
+    void AddItem(QString&& text, std::optional<int> index = {})
+    {
+        if (m_enabled && !m_sorted && !index) { // the way of a bulk fill
+            settle();
+            m_items.append(std::move(text));
+            itemsChanged();
+        } else {
+            addInPlace(std::move(text), index);
+        }
+    }
     void AddItem(const QString& text, std::optional<int> index = {}) { AddItem(QString(text), index); }
     void RemoveItem(int index);
     void Clear();
@@ -148,9 +158,19 @@ public:
     [[nodiscard]] MorphListDirty takeDirty();
 
 private:
-    void settle();
-    void itemsChanged();
+    void settle()
+    {
+        if (!m_items.settled())
+            m_selection.onMerged(m_items.settle());
+    }
+    void itemsChanged()
+    {
+        m_metrics.reset();
+        m_dirty.all = true;
+        m_dirty.items = true;
+    }
     void selectionChanged(int oldCurrent, int oldFocus, bool flags);
+    void addInPlace(QString&& text, std::optional<int> index);
     void scrolled(bool changed);
     void hold(CaptureMode mode, qint64 now, const MorphListEvent& down);
     void stepHeld();
