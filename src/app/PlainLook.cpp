@@ -167,7 +167,7 @@ void dressList(MorphListBox& list)
 
 void apply(QApplication& application)
 {
-    QApplication::setStyle(new PlainStyle);
+    QApplication::setStyle(new PlainStyle); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): it takes it
     QApplication::setPalette(palette());
     QFont font = QApplication::font();
     font.setPixelSize(textPixels);

@@ -10,12 +10,29 @@
 
 namespace varnhold {
 
+namespace {
+
+/// The splash, painted already; none for a start that is to say "Already Open." first.
+std::unique_ptr<frmSplash> splashOf(const Program::World& world)
+{
+    if (!world.isFirst())
+        return nullptr;
+    auto splash = std::make_unique<frmSplash>();
+    plainlook::dress(*splash);
+    splash->show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return splash;
+}
+
+} // namespace
+
 Program::Program(const Paths& paths, World world)
     : m_paths(paths),
       m_world(std::move(world)),
       m_file(m_paths, m_state),
       m_settings(m_file),
       m_sounds(m_settings, m_world.player, m_state),
+      m_splash(splashOf(m_world)),
       m_menu(m_sounds),
       m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen}),
       m_settingsWindow({m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths}),
@@ -48,6 +65,7 @@ Program::Program(const Paths& paths, World world)
                  .certificates = m_autoAlert.watch(),
                  .main = m_main,
                  .settingsWindow = m_settingsWindow,
+                 .splash = m_splash,
                  .skin = plainlook::dress,
                  .isFirst = m_world.isFirst,
                  .activatePrevious = m_world.activatePrevious,

@@ -91,6 +91,7 @@ private:
     MonotonicClock m_clock;
     DiskFiles m_files;
     UpdateList m_list;
+    std::unique_ptr<frmSplash> m_splash; ///< before the windows, so that it is up while they are built
     frmMenu m_menu;
     frmMain m_main;
     frmSettings m_settingsWindow;

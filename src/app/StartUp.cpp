@@ -90,19 +90,22 @@ void StartUp::load()
     m_services.sounds.play(Sound::Open);
     ClearTopMost(m_services.main);
     m_services.main.show();
-    m_splash.reset();
+    m_services.splash.reset();
 }
 
 void StartUp::showSplash()
 {
-    m_splash.emplace();
-    m_services.skin(*m_splash);
-    QObject::connect(&*m_splash, &frmSplash::abandoned, &*m_splash, [this] {
-        m_splash->hide();
+    if (!m_services.splash) {
+        m_services.splash = std::make_unique<frmSplash>();
+        m_services.skin(*m_services.splash);
+        m_services.splash->show();
+    }
+    frmSplash* splash = m_services.splash.get();
+    QObject::connect(splash, &frmSplash::abandoned, splash, [this, splash] {
+        splash->hide();
         if (m_onAbandoned)
             m_onAbandoned();
     });
-    m_splash->show();
 }
 
 void StartUp::findHosts()
@@ -138,12 +141,12 @@ void StartUp::pumpOnce()
 
 void StartUp::showStatus(const QString& text)
 {
-    m_splash->setStatus(text);
+    m_services.splash->setStatus(text);
 }
 
 void StartUp::showMessage(const QString& text)
 {
-    m_splash->setMessage(text);
+    m_services.splash->setMessage(text);
 }
 
 void StartUp::startCertificateWatch()

@@ -4,7 +4,7 @@
 #include "state/SettingsLoad.h"
 
 #include <functional>
-#include <optional>
+#include <memory>
 
 class QWidget;
 
@@ -43,6 +43,8 @@ public:
         CertificateWatch& certificates;
         frmMain& main;
         frmSettings& settingsWindow;
+        /// Made in the load unless there is one: it may be on the screen before the other windows are built.
+        std::unique_ptr<frmSplash>& splash;
         std::function<void(QWidget&)> skin;
 
         std::function<bool()> isFirst;          ///< false: another instance of the program runs
@@ -60,7 +62,7 @@ public:
     Outcome run();
 
     /// The splash, while there is one.
-    [[nodiscard]] frmSplash* splash() { return m_splash ? &*m_splash : nullptr; }
+    [[nodiscard]] frmSplash* splash() { return m_services.splash.get(); }
     /// Runs when the user ends the program from the splash, during the load or after a failed one.
     void onAbandoned(std::function<void()> action) { m_onAbandoned = std::move(action); }
 
@@ -80,7 +82,6 @@ private:
     void applyOpacity(OpacityOf window, int value) override;
 
     Services m_services;
-    std::optional<frmSplash> m_splash;
     std::function<void()> m_onAbandoned;
 };
 

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include <utility>
 
@@ -150,7 +151,7 @@ bool frmSettings::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<QKeyEvent*>(event)->key();
         // The key itself goes its way: a line break is written, and stripped by the next click of the box.
         if (key == Qt::Key_Control || key == Qt::Key_Return || key == Qt::Key_Enter)
-            QMetaObject::invokeMethod(this, &frmSettings::warn, Qt::QueuedConnection);
+            QTimer::singleShot(0, this, &frmSettings::warn);
     }
     return ShapedWindow::eventFilter(watched, event);
 }

@@ -2,11 +2,51 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLibrary>
 
 #include <SDL.h>
 #include <SDL_mixer.h>
 
 namespace varnhold {
+
+namespace {
+
+/// SDL's mixer, loaded when the first sound is played: it brings half a hundred libraries with it, and to
+/// load those took as long as all else until the splash was up.
+class MixerLibrary
+{
+public:
+    bool load()
+    {
+        // What SDL itself exports is found through the mixer, which depends on it.
+        return resolve(setHint, "SDL_SetHint") && resolve(initSubSystem, "SDL_InitSubSystem") &&
+               resolve(quitSubSystem, "SDL_QuitSubSystem") && resolve(openAudio, "Mix_OpenAudio") &&
+               resolve(closeAudio, "Mix_CloseAudio") && resolve(loadMusic, "Mix_LoadMUS") &&
+               resolve(freeMusic, "Mix_FreeMusic") && resolve(haltMusic, "Mix_HaltMusic") &&
+               resolve(playMusic, "Mix_PlayMusic");
+    }
+
+    decltype(&SDL_SetHint) setHint = nullptr;
+    decltype(&SDL_InitSubSystem) initSubSystem = nullptr;
+    decltype(&SDL_QuitSubSystem) quitSubSystem = nullptr;
+    decltype(&Mix_OpenAudio) openAudio = nullptr;
+    decltype(&Mix_CloseAudio) closeAudio = nullptr;
+    decltype(&Mix_LoadMUS) loadMusic = nullptr;
+    decltype(&Mix_FreeMusic) freeMusic = nullptr;
+    decltype(&Mix_HaltMusic) haltMusic = nullptr;
+    decltype(&Mix_PlayMusic) playMusic = nullptr;
+
+private:
+    template <typename Function> bool resolve(Function& function, const char* name)
+    {
+        function = reinterpret_cast<Function>(m_library.resolve(name));
+        return function != nullptr;
+    }
+
+    QLibrary m_library{QStringLiteral("SDL2_mixer-2.0"), 0};
+};
+
+} // namespace
 
 /// Lives on the sound thread.
 class SdlSoundPlayer::Mixer : public QObject
@@ -15,10 +55,10 @@ public:
     ~Mixer() override
     {
         if (m_music != nullptr)
-            Mix_FreeMusic(m_music);
+            m_sdl.freeMusic(m_music);
         if (m_state == State::Open) {
-            Mix_CloseAudio();
-            SDL_QuitSubSystem(SDL_INIT_AUDIO);
+            m_sdl.closeAudio();
+            m_sdl.quitSubSystem(SDL_INIT_AUDIO);
         }
     }
 
@@ -26,14 +66,14 @@ public:
     {
         if (!open())
             return;
-        Mix_Music* music = Mix_LoadMUS(QFile::encodeName(path).constData());
+        Mix_Music* music = m_sdl.loadMusic(QFile::encodeName(path).constData());
         if (music == nullptr)
             return;
-        Mix_HaltMusic();
+        m_sdl.haltMusic();
         if (m_music != nullptr)
-            Mix_FreeMusic(m_music);
+            m_sdl.freeMusic(m_music);
         m_music = music;
-        Mix_PlayMusic(m_music, 1);
+        m_sdl.playMusic(m_music, 1);
     }
 
 private:
@@ -43,18 +83,21 @@ private:
     {
         if (m_state == State::Untried) {
             m_state = State::Unusable;
+            if (!m_sdl.load())
+                return false;
             // Signals stay the program's own.
-            SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-            if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-                if (Mix_OpenAudio(44100, AUDIO_S16SYS, 2, 1024) == 0)
+            m_sdl.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+            if (m_sdl.initSubSystem(SDL_INIT_AUDIO) == 0) {
+                if (m_sdl.openAudio(44100, AUDIO_S16SYS, 2, 1024) == 0)
                     m_state = State::Open;
                 else
-                    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+                    m_sdl.quitSubSystem(SDL_INIT_AUDIO);
             }
         }
         return m_state == State::Open;
     }
 
+    MixerLibrary m_sdl;
     State m_state = State::Untried;
     Mix_Music* m_music = nullptr;
 };

@@ -51,6 +51,7 @@ protected:
     frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths()}};
     bool first = true;
     bool previousAnswers = true;
+    std::unique_ptr<frmSplash> splash;
     std::function<Hosts()> findHosts = [] { return Hosts(); };
     StartUp startUp{{.state = state,
                      .settings = settings,
@@ -65,6 +66,7 @@ protected:
                      .certificates = certificates,
                      .main = main,
                      .settingsWindow = settingsWindow,
+                     .splash = splash,
                      .skin = [](QWidget&) {},
                      .isFirst = [this] { return first; },
                      .activatePrevious = [this] { return previousAnswers; },
