@@ -27,6 +27,7 @@ QString textOf(int number)
         {errors::objectNotSet, u"Object variable not set"_s},
         {errors::invalidPropertyValue, u"Invalid property value"_s},
         {errors::invalidPropertyArrayIndex, u"Invalid property array index"_s},
+        {errors::invalidPicture, u"Invalid picture"_s},
         {errors::addressNotAvailable, u"Address is not available from the local machine"_s},
         {errors::networkUnreachable, u"Network cannot be reached from this host at this time"_s},
         {errors::connectionAborted, u"Connection is aborted due to timeout or other failure"_s},

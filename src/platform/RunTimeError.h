@@ -48,6 +48,7 @@ inline constexpr int pathNotFound = 76;
 inline constexpr int objectNotSet = 91;
 inline constexpr int invalidPropertyValue = 380;
 inline constexpr int invalidPropertyArrayIndex = 381;
+inline constexpr int invalidPicture = 481;
 inline constexpr int addressNotAvailable = 10049;
 inline constexpr int networkUnreachable = 10051;
 inline constexpr int connectionAborted = 10053;

@@ -1,0 +1,351 @@
+#include "appearance/Skin.h"
+
+#include "appearance/SkinColors.h"
+#include "appearance/SkinIni.h"
+#include "appearance/SkinLists.h"
+#include "appearance/SkinPictures.h"
+#include "appearance/SkinTexts.h"
+#include "appearance/TransForm.h"
+#include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "platform/MessagePump.h"
+#include "platform/RunTimeError.h"
+#include "state/ApplicationState.h"
+#include "state/ErrorReport.h"
+#include "state/Paths.h"
+#include "state/Settings.h"
+#include "state/SettingsFile.h"
+#include "state/SettingsKeys.h"
+#include "state/SettingsLoad.h"
+#include "state/Sounds.h"
+
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QCoreApplication>
+#include <QVariant>
+#include <QWidget>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char* coloredWindows[] = {"frmMain", "frmSettings", "frmSearch", "frmDB"};
+constexpr ColorValue yellow = 0x00FFFF;
+constexpr ColorValue red = 0x0000FF;
+
+/// The program is ending: the run is left without a word.
+struct Ending
+{
+};
+
+void showPicture(QWidget* control, const QPixmap& picture)
+{
+    if (control != nullptr && !assignProperty(*control, "Picture", picture))
+        assignProperty(*control, "pixmap", picture);
+}
+
+} // namespace
+
+void applyTarget(const SkinTarget& target, QWidget& control, SkinPictures& pictures)
+{
+    if (target.family == nullptr) {
+        assignProperty(control, target.property, pictures.load(QLatin1StringView(target.file)));
+        return;
+    }
+    constexpr int faces = 2; // the drawing with faces
+    assignProperty(control, "Appearance", faces);
+    for (std::size_t i = 0; i < faceProperties.size(); ++i) {
+        const auto file = static_cast<std::size_t>(target.faces.at(i) - 1);
+        assignProperty(control, faceProperties.at(i),
+                       pictures.load(QLatin1StringView(target.family->files.at(file))));
+    }
+}
+
+Skin::Skin(const Services& services) : m_services(services), m_catalogue(services.paths.root + u"/skin"_s) {}
+
+QWidget* Skin::control(const char* window, const char* name) const
+{
+    QWidget* found = m_services.host.window(window);
+    if (found == nullptr || *name == '\0')
+        return found;
+    return found->findChild<QWidget*>(QLatin1StringView(name));
+}
+
+void Skin::applyTargets(std::span<const SkinTarget> targets, SkinPictures& pictures)
+{
+    for (const SkinTarget& target : targets) {
+        if (QWidget* const found = control(target.window, target.control))
+            applyTarget(target, *found, pictures);
+    }
+}
+
+void Skin::pumpEvents()
+{
+    if (!m_services.pump.pump())
+        throw Ending();
+}
+
+void Skin::readLocation()
+{
+    const QString section = settingsKeys::skinSection();
+    ApplicationState& state = m_services.state;
+    state.SkinPath = m_services.file.INI_Read(section, u"Skin Path"_s, {});
+    if (state.SkinPath.isEmpty())
+        state.SkinPath = m_services.paths.defaultSkin();
+    state.SkinName = m_services.file.INI_Read(section, u"Skin Name"_s, {});
+    if (state.SkinName.isEmpty())
+        state.SkinName = skinNameOf(state.SkinPath);
+}
+
+bool Skin::ApplySkin()
+{
+    try {
+        apply();
+        return true;
+    } catch (const RunTimeError& error) {
+        report(error);
+    } catch (const Ending&) {
+    }
+    return false;
+}
+
+void Skin::apply()
+{
+    SkinHost& host = m_services.host;
+    pumpEvents();
+    readLocation();
+    m_acceptedName = m_services.state.SkinName;
+    SkinPictures pictures(m_services.state.SkinPath);
+    SkinIni ini(m_services.file);
+
+    host.showStatus(u"Loading: Main Skin"_s);
+    applyMain(pictures);
+    host.showStatus(u"Loading: Settings Skin"_s);
+    applyTargets(settingsTargets(), pictures);
+    readColors(ini);
+    SkinLists lists(m_services.page, ini, control("frmMain", "MorphListBox1"),
+                    control("frmMain", "ListView1"));
+    lists.readGameList(pictures);
+    lists.readUpdateList(pictures);
+
+    pumpEvents();
+    host.showStatus(u"Loading: Search Skin"_s);
+    applyTargets(searchTargets(), pictures);
+    host.showStatus(u"Loading: DB Skin"_s);
+    applyTargets(databaseTargets(), pictures);
+    applyBlank(pictures);
+    applyTargets(databaseButtonTargets(), pictures);
+    host.showStatus(u"Loading: Menu Skins"_s);
+    loadGlyphs(pictures);
+    m_services.page.skinLoaded = true;
+    ApplySkinColors();
+    reshapeWindows();
+}
+
+void Skin::applyMain(SkinPictures& pictures)
+{
+    if (readLayout(m_services.file, m_services.state) == 2)
+        m_services.host.enlargeMainWindow();
+    else
+        applyTargets(normalTargets(), pictures);
+    applyTargets(mainTargets(), pictures);
+}
+
+bool Skin::loadLayout(int layout)
+{
+    try {
+        SkinPictures pictures(m_services.state.SkinPath);
+        applyTargets(layout == 2 ? enlargedTargets() : normalTargets(), pictures);
+        return true;
+    } catch (const RunTimeError& error) {
+        m_services.boxes.show({.text = layoutErrorText(error),
+                               .title = QCoreApplication::applicationName(),
+                               .icon = BoxIcon::Exclamation,
+                               .buttons = BoxButtons::Ok});
+        return false;
+    }
+}
+
+void Skin::readColors(const SkinIni& ini)
+{
+    SkinPage& page = m_services.page;
+    page.Shape_Color[SkinPage::Fore] = ini.color(u"Skin ForeColor"_s).value_or(0xFFFFFF);
+    page.Shape_Color[SkinPage::Back] = ini.color(u"Skin BackColor"_s).value_or(0xFF3333);
+    // The key is spelled this way in every skin.
+    page.Shape_Color[SkinPage::Highlight] = ini.color(u"Skin HightlightColor"_s).value_or(0x00FF00);
+    page.borderColor[SkinPage::Back] = page.Shape_Color[SkinPage::Highlight];
+    page.borderColor[SkinPage::Fore] = page.Shape_Color[SkinPage::Highlight];
+    page.borderColor[SkinPage::Highlight] = page.Shape_Color[SkinPage::Fore];
+}
+
+void Skin::applyBlank(SkinPictures& pictures)
+{
+    const QPixmap blank = pictures.load(u"bImage.bmp"_s);
+    showPicture(control("frmMenu", "imgBlank"), blank);
+    showPicture(control("frmDB", "PicPreview"), blank);
+    showPicture(control("frmMain", "PicPreview"), blank);
+}
+
+void Skin::loadGlyphs(SkinPictures& pictures)
+{
+    m_glyphs.clear();
+    for (const GlyphArray& array : glyphArrays()) {
+        for (const char* const file : array.files) {
+            const QString name = QString::fromLatin1(file);
+            m_glyphs.insert(name, pictures.load(name));
+        }
+    }
+}
+
+void Skin::ApplySkinColors()
+{
+    SkinHost& host = m_services.host;
+    SkinPage& page = m_services.page;
+    host.showStatus(u"Applying: Skins Colors"_s);
+    for (const char* const window : {"frmMain", "frmDB"}) {
+        if (auto* notes = qobject_cast<QAbstractScrollArea*>(control(window, "txtGameNotes")))
+            notes->viewport()->setAutoFillBackground(false);
+    }
+    for (const char* const name : coloredWindows) {
+        if (const QWidget* const window = host.window(name))
+            assignSkinColorsInside(*window, page.Shape_Color);
+    }
+    for (const char* const name : {"frmMain", "frmSearch"}) {
+        if (const QWidget* const window = host.window(name)) {
+            for (XP_ProgressBar* const bar : window->findChildren<XP_ProgressBar*>())
+                bar->setColor(page.Shape_Color[SkinPage::Back]);
+        }
+    }
+    page.availableSkinsColor[1] = page.Shape_Color[SkinPage::Highlight];
+    host.takeColors(page);
+
+    SkinIni ini(m_services.file);
+    SkinLists lists(page, ini, control("frmMain", "MorphListBox1"), control("frmMain", "ListView1"));
+    host.showStatus(u"Loading: Listbox Skins"_s);
+    lists.applyForeColor();
+    lists.applyCustomColors();
+    buildCatalogue();
+    Q_EMIT page.changed();
+}
+
+void Skin::buildCatalogue()
+{
+    m_services.host.showStatus(u"Loading: Skin Paths"_s);
+    if (m_catalogue.build()) {
+        m_services.host.showCatalogue(m_catalogue);
+        m_services.page.availableSkins = QString::number(m_catalogue.entries().size());
+    }
+    attachMenuGlyphs();
+}
+
+void Skin::attachMenuGlyphs()
+{
+    const QWidget* const menus = m_services.host.window("frmMenu");
+    if (menus == nullptr)
+        return;
+    for (QAction* const entry : menus->findChildren<QAction*>()) {
+        if (const char* const file = glyphOf(entry->objectName())) {
+            entry->setIcon(QIcon(m_glyphs.value(QString::fromLatin1(file))));
+            entry->setIconVisibleInMenu(true);
+        }
+    }
+}
+
+void Skin::shape(QWidget& window)
+{
+    m_services.transForm.ShapeMe(cutAwayColor, true, &window);
+}
+
+void Skin::reshapeWindows()
+{
+    // A new picture has a new outline; the colour that is cut away must not stay on the screen.
+    for (const char* const name : coloredWindows) {
+        if (QWidget* const window = m_services.host.window(name))
+            shape(*window);
+    }
+}
+
+void Skin::Load_DL(QWidget& window)
+{
+    const SkinColors& colors = m_services.page.Shape_Color;
+    SkinPictures pictures(m_services.state.SkinPath);
+    for (const SkinTarget& target : downloadTargets()) {
+        QWidget* const found =
+            *target.control == '\0' ? &window : window.findChild<QWidget*>(QLatin1StringView(target.control));
+        if (found != nullptr)
+            silently([&] { applyTarget(target, *found, pictures); });
+    }
+    for (XP_ProgressBar* const bar : window.findChildren<XP_ProgressBar*>())
+        bar->setColor(colors[SkinPage::Back]);
+    assignSkinColorsInside(window, colors);
+    shape(window);
+}
+
+void Skin::mnuSkin_Click(int index)
+{
+    m_services.sounds.play(Sound::Click);
+    const auto at = static_cast<std::size_t>(index - 1);
+    QString path = at < m_catalogue.entries().size() ? m_catalogue.entries()[at].tag : QString();
+    if (path.isEmpty())
+        path = m_services.paths.defaultSkin();
+    m_services.settings.writeSkinPath(path);
+    ApplySkin();
+}
+
+void Skin::mnuSkin_Path_Click()
+{
+    QString start = m_services.file.INI_Read(settingsKeys::skinSection(), u"Skin Path"_s, {});
+    if (start.isEmpty())
+        start = m_services.paths.root + u"/skin"_s;
+    const QString chosen = m_services.dialogs.chooseFolder(u"Select Skin Folder"_s, start);
+    if (chosen.isEmpty())
+        return;
+    m_pickedFolder = chosen;
+    m_acceptedName = skinNameOf(chosen);
+    m_services.settings.writeSkinName(m_acceptedName);
+    m_services.settings.writeSkinPath(chosen);
+    ApplySkin();
+}
+
+void Skin::mnuSkin_Refresh_Click()
+{
+    m_services.sounds.play(Sound::Click);
+    const BoxAnswer answer = m_services.boxes.show({.text = u"Do you wish to Refresh the Skin Menu?"_s,
+                                                    .title = QCoreApplication::applicationName(),
+                                                    .icon = BoxIcon::Question,
+                                                    .buttons = BoxButtons::YesNo});
+    if (answer != BoxAnswer::Yes)
+        return;
+    m_catalogue.clear();
+    buildCatalogue();
+    Q_EMIT m_services.page.changed();
+}
+
+void Skin::report(const RunTimeError& error)
+{
+    SkinPage& page = m_services.page;
+    if (error.number() == errors::pathNotFound) {
+        m_services.host.showStatus(skinNotFoundStatus());
+        m_services.host.showMessage(selectSkinFolderMessage());
+        page.skinLoaded = false;
+        page.availableSkinsColor = {yellow, red};
+        Q_EMIT page.changed();
+        m_services.host.askForSkinFolder();
+        return;
+    }
+    const bool isMissing = error.number() == errors::fileNotFound;
+    m_services.boxes.show({.text = isMissing ? missingSkinFileText(error) : skinErrorText(error),
+                           .title = QCoreApplication::applicationName(),
+                           .icon = BoxIcon::Exclamation,
+                           .buttons = BoxButtons::Ok});
+    if (!isMissing)
+        return;
+    // Without a pick in this run the path is written empty: the next start takes the default skin.
+    m_services.settings.writeSkinName(m_acceptedName);
+    m_services.settings.writeSkinPath(m_pickedFolder);
+}
+
+} // namespace varnhold
