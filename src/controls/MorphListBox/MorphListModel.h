@@ -130,6 +130,11 @@ public:
     [[nodiscard]] HitZone hitZone() const { return m_zone; }
     [[nodiscard]] CaptureMode capture() const { return m_capture; }
     [[nodiscard]] int pressedRow() const { return m_pressedRow; } ///< of the last press, -1 when none
+    /// Shift and Ctrl as the last key event left them, as in shiftstate; none after a loss of the focus.
+    [[nodiscard]] int heldKeys() const
+    {
+        return (m_shift ? shiftstate::shift : 0) | (m_ctrl ? shiftstate::ctrl : 0);
+    }
     [[nodiscard]] bool repeating() const { return m_repeat.held(); }
 
     /// Lengths that the geometry depends on; the model fills in what it knows itself.

@@ -235,6 +235,9 @@ TEST_F(MorphListInput, KeysMoveTheFocusAndTheSelection)
     key(keycode::down, shiftstate::ctrl);
     key(keycode::space, shiftstate::ctrl);
     EXPECT_EQ(selection(), u"1,2,4"_s);
+    EXPECT_EQ(m_list.heldKeys(), shiftstate::ctrl);
+    static_cast<void>(m_list.focusOut());
+    EXPECT_EQ(m_list.heldKeys(), 0);
 }
 
 TEST_F(MorphListInput, TheWheelScrollsWhileFocused)
