@@ -167,7 +167,8 @@ void dressList(MorphListBox& list)
 
 void apply(QApplication& application)
 {
-    QApplication::setStyle(new PlainStyle); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): it takes it
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application takes it
+    QApplication::setStyle(new PlainStyle);
     QApplication::setPalette(palette());
     QFont font = QApplication::font();
     font.setPixelSize(textPixels);

@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include <utility>
 
@@ -42,6 +41,8 @@ frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_se
     buildOptions();
     buildSounds();
     buildUnwanted();
+    m_warnLater.setSingleShot(true);
+    connect(&m_warnLater, &QTimer::timeout, this, &frmSettings::warn);
     m_list->setCurrentRow(0);
     showPage(0);
     connect(m_list, &QListWidget::itemClicked, this, [this] {
@@ -151,7 +152,7 @@ bool frmSettings::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<QKeyEvent*>(event)->key();
         // The key itself goes its way: a line break is written, and stripped by the next click of the box.
         if (key == Qt::Key_Control || key == Qt::Key_Return || key == Qt::Key_Enter)
-            QTimer::singleShot(0, this, &frmSettings::warn);
+            m_warnLater.start();
     }
     return ShapedWindow::eventFilter(watched, event);
 }

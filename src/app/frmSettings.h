@@ -3,6 +3,8 @@
 #include "platform/ShapedWindow.h"
 #include "state/SettingsValues.h"
 
+#include <QTimer>
+
 #include <functional>
 #include <vector>
 
@@ -85,6 +87,7 @@ private:
     std::vector<Page> m_pages;
     std::vector<std::function<void()>> m_refreshers; ///< one for each control
     bool m_refreshing = false;
+    QTimer m_warnLater; ///< the key goes its way first
     QLabel* m_caption = nullptr;
     QListWidget* m_list = nullptr;
     QPlainTextEdit* m_unwanted = nullptr;
