@@ -47,11 +47,11 @@ void paintStrip(Picture& picture, const SkinDesign& design, const Area& strip)
 void paintCaption(Picture& picture, const SkinDesign& design, int width)
 {
     if (design.texture == Texture::Paper) {
-        picture.fill({0, 0, width, captionHeight - 2}, design.top);
-        picture.fill({0, captionHeight - 2, width, 1}, design.rim);
+        picture.fill({0, 0, width, captionHeight - 1}, design.top);
+        picture.fill({0, captionHeight - 1, width, 1}, design.rim);
         return;
     }
-    paintGroove(picture, design, 0, width, captionHeight - 2);
+    paintGroove(picture, design, 0, width, captionHeight - 1);
 }
 
 void paintFoot(Picture& picture, const SkinDesign& design, const WindowPlan& plan)

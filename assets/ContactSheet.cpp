@@ -69,11 +69,11 @@ void placeSkin(Picture& sheet, const SkinDesign& design, int left)
     }
     place(sheet, drawCaptionStrip(design, {84, 22}), left + 360, top);
     place(sheet, drawBar(design, {5, 120}), left + 360, top + 30);
-    place(sheet, render(sliderKnob(design), 16, 0), left + 372, top + 30);
-    place(sheet, render(sliderKnob(design), 32, 0), left + 372, top + 50);
+    place(sheet, render(sliderKnob(design), 16, seeThrough), left + 372, top + 30);
+    place(sheet, render(sliderKnob(design), 32, seeThrough), left + 372, top + 50);
     int at = 0;
     for (const std::string_view name : rowIconNames()) {
-        place(sheet, render(rowIcon(name), 16, 0), left + 410 + at % 2 * 20, top + 30 + at / 2 * 20);
+        place(sheet, render(rowIcon(name), 16, seeThrough), left + 410 + at % 2 * 20, top + 30 + at / 2 * 20);
         ++at;
     }
     top += 172;

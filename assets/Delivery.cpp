@@ -19,7 +19,7 @@ std::string icon(const Drawing& drawing, std::initializer_list<int> sides)
 {
     std::vector<Picture> pictures;
     for (const int side : sides)
-        pictures.push_back(render(drawing, side, 0));
+        pictures.push_back(render(drawing, side, seeThrough));
     return icoFile(pictures);
 }
 

@@ -34,6 +34,9 @@ struct Stroke
     [[nodiscard]] bool covers(int x, int y) const;
 };
 
+/// As a ground: nothing. As a stroke: takes away what lies below.
+inline constexpr Color seeThrough = 0;
+
 using Drawing = std::vector<Stroke>;
 
 Stroke box(double x, double y, double width, double height, Color color);

@@ -9,9 +9,6 @@ namespace {
 constexpr std::array<std::string_view, 7> names{"flag-us.ico",  "flag-uk.ico", "flag-jp.ico", "flag-asia.ico",
                                                 "flag-kor.ico", "psn.ico",     "unknown.ico"};
 
-/// A stroke of it takes away what lies below.
-constexpr Color clear = 0;
-
 constexpr Color flagWhite = rgb(0xF7F7F5);
 constexpr Color flagRed = rgb(0xC8283C);
 constexpr Color flagBlue = rgb(0x2A4A8C);
@@ -59,7 +56,7 @@ Drawing japan()
 Drawing asia()
 {
     Drawing drawing = flag(rgb(0xF3C24A));
-    drawing.push_back(disc({8, 9}, 3.25, flagRed));
+    drawing.push_back(disc({8, 9.5}, 3.5, flagRed));
     drawing.push_back(box(1, 9, 14, 4, rgb(0x1F7A8C)));
     drawing.push_back(box(3, 11, 4, 1, rgb(0x8AD0DA)));
     drawing.push_back(box(9, 11, 4, 1, rgb(0x8AD0DA)));
@@ -86,10 +83,16 @@ Drawing network()
 {
     constexpr Color sea = rgb(0x2F6FC4);
     constexpr Color light = rgb(0xE6F0FC);
-    return {disc({8, 8}, 7, rgb(0x1D4682)), disc({8, 8}, 6, sea),
-            box(2.5, 7.5, 11, 1, light),    box(7.5, 2.5, 1, 11, light),
-            ring({4, 8}, 6.5, 1, light),    ring({12, 8}, 6.5, 1, light),
-            ring({8, 8}, 20, 13, clear),    ring({8, 8}, 7, 1, rgb(0x1D4682))};
+    Drawing drawing{disc({8, 8}, 7, rgb(0x1D4682)), disc({8, 8}, 6, sea), box(2, 5, 12, 1, light),
+                    box(2, 10, 12, 1, light)};
+    for (const double side : {-1.0, 1.0}) {
+        drawing.push_back(line({8, 2}, {8 + side * 2.5, 5}, 1, light));
+        drawing.push_back(line({8 + side * 2.5, 5}, {8 + side * 2.5, 11}, 1, light));
+        drawing.push_back(line({8 + side * 2.5, 11}, {8, 14}, 1, light));
+    }
+    drawing.push_back(ring({8, 8}, 20, 13, seeThrough));
+    drawing.push_back(ring({8, 8}, 7, 1, rgb(0x1D4682)));
+    return drawing;
 }
 
 Drawing questionMark()

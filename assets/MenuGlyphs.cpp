@@ -84,14 +84,13 @@ Drawing swatch(Color color)
     return frame(2, 2, 12, 12) + Drawing{box(4, 4, 8, 8, color)};
 }
 
-Drawing boxes(Color mark, bool filled)
+Drawing boxes(bool filled)
 {
     Drawing drawing;
     for (const double top : {1.0, 6.0, 11.0}) {
-        drawing = drawing + frame(1, top, 4, 4) + rows({top + 1.5 - 0.5}, 7, 8, soft) +
-                  Drawing{box(7, top + 1, 8, 1, ink)};
+        drawing = drawing + frame(1, top, 4, 4) + rows({top + 1}, 7, 8);
         if (filled)
-            drawing.push_back(box(2, top + 1, 2, 2, mark));
+            drawing.push_back(box(2, top + 1, 2, 2, accent));
     }
     return drawing;
 }
@@ -164,8 +163,8 @@ std::vector<Glyph> makeGlyphs()
     std::vector<Glyph> glyphs;
     glyphs.push_back({"db", barrel()});
     glyphs.push_back(
-        {"open", folder() + Drawing{polygon({{1, 13}, {4, 8}, {16, 8}, {14, 13}}, ink),
-                                    polygon({{3, 12}, {4.75, 9}, {14.25, 9}, {13.25, 12}}, accent)}});
+        {"open", folder() + Drawing{polygon({{1, 13}, {3.5, 8}, {15, 8}, {13, 13}}, ink),
+                                    polygon({{2.75, 12}, {4.25, 9}, {13.5, 9}, {12.25, 12}}, accent)}});
     glyphs.push_back(
         {"add", frame(1, 1, 14, 14, soft) + Drawing{box(7, 4, 2, 8, accent), box(4, 7, 8, 2, accent)}});
     glyphs.push_back({"copy", twoPages()});
@@ -186,10 +185,11 @@ std::vector<Glyph> makeGlyphs()
                                       polygon({{11, 4}, {11, 12}, {15, 8}}, accent)}});
     glyphs.push_back({"unchecked", frame(3, 3, 10, 10)});
     glyphs.push_back(
-        {"icon", frame(1, 3, 14, 10) + Drawing{box(2, 6, 12, 1, soft), box(2, 9, 12, 1, soft),
-                                               disc({8, 8}, 2.75, plate), disc({8, 8}, 2.5, accent)}});
-    glyphs.push_back({"move", page(1) + Drawing{box(8, 5, 4, 6, plate), box(4, 7, 7, 2, accent),
-                                                polygon({{10.5, 3.5}, {10.5, 12.5}, {15, 8}}, accent)}});
+        {"icon",
+         Drawing{box(2, 1, 2, 14, ink),
+                 polygon({{4, 2}, {8, 1}, {11, 3}, {15, 2}, {15, 9}, {11, 10}, {8, 8}, {4, 9}}, accent)}});
+    glyphs.push_back({"move", Drawing{box(1, 4, 9, 2, accent), polygon({{9, 1}, {9, 9}, {14.5, 5}}, accent),
+                                      box(6, 10, 9, 2, ink), polygon({{7, 7}, {7, 15}, {1.5, 11}}, ink)}});
     glyphs.push_back({"cover", pictureFrame()});
     glyphs.push_back({"path", folder() + Drawing{line({5, 9}, {7, 11}, 1.75, accent),
                                                  line({7, 11}, {11.5, 7}, 1.75, accent)}});
@@ -197,8 +197,8 @@ std::vector<Glyph> makeGlyphs()
     glyphs.push_back({"dl-check", frame(1, 3, 11, 11) + Drawing{box(8, 2, 6, 6, plate)} +
                                       Drawing{line({4, 8}, {6.5, 10.5}, 2, accent),
                                               line({6.5, 10.5}, {13.5, 2.5}, 2, accent)}});
-    glyphs.push_back({"select_all", boxes(accent, true)});
-    glyphs.push_back({"deselect_all", boxes(accent, false)});
+    glyphs.push_back({"select_all", boxes(true)});
+    glyphs.push_back({"deselect_all", boxes(false)});
     glyphs.push_back({"dl", comingDown(accent) + Drawing{box(1, 11, 1, 4, ink), box(14, 11, 1, 4, ink),
                                                          box(1, 14, 14, 1, ink)}});
     glyphs.push_back({"list", page() + rows({4, 7, 10}, 5, 6, accent)});
@@ -209,8 +209,8 @@ std::vector<Glyph> makeGlyphs()
     glyphs.push_back({"undo", backArrow()});
     glyphs.push_back({"cut", scissors()});
     glyphs.push_back({"paste", clipboard()});
-    glyphs.push_back({"selectall", page(3) + Drawing{box(5, 4, 6, 2, accent), box(5, 7, 6, 2, accent),
-                                                     box(5, 10, 6, 2, accent)}});
+    glyphs.push_back(
+        {"selectall", page() + Drawing{box(5, 3, 6, 10, accent)} + rows({5, 8, 11}, 5, 6, plate)});
     glyphs.push_back(
         {"font", Drawing{line({2, 13.5}, {6.5, 2.5}, 1.75, ink), line({6.5, 2.5}, {11, 13.5}, 1.75, ink),
                          box(3.5, 9, 6, 1.5, ink), box(12, 9, 3, 1, accent), box(14, 9, 1, 5, accent),
@@ -225,8 +225,10 @@ std::vector<Glyph> makeGlyphs()
                                     Drawing{box(4, 4, 4, 4, rgb(0xE02424)), box(8, 4, 4, 4, rgb(0xFFE21F)),
                                             box(4, 8, 4, 4, rgb(0x2C50E8)), box(8, 8, 4, 4, rgb(0x1FBF3A))}});
     glyphs.push_back({"refresh", turningArrow()});
-    glyphs.push_back({"skin", Drawing{line({3, 13.5}, {8, 7}, 2.5, ink), line({8, 7}, {12, 3}, 5, ink),
-                                      line({9, 6}, {12, 3}, 2.5, accent)}});
+    glyphs.push_back({"skin", Drawing{disc({8, 8}, 7, ink), disc({8, 8}, 5.5, plate),
+                                      disc({13, 12.5}, 3.25, plate), ring({11, 11}, 2.25, 1.25, ink),
+                                      disc({5, 6}, 1.25, accent), disc({8.5, 4.75}, 1.25, accent),
+                                      disc({11.5, 7}, 1.25, accent), disc({5.25, 9.75}, 1.25, accent)}});
     return glyphs;
 }
 

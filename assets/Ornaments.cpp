@@ -39,7 +39,10 @@ Picture drawTile(const SkinDesign& design, int pitch)
 Drawing harbour(const SkinDesign& design)
 {
     constexpr Color moon = rgb(0xE9F1FB);
-    Drawing drawing{disc({11.5, 5}, 2.25, moon), disc({12.5, 4.25}, 1.75, design.plate)};
+    Drawing drawing{
+        polygon({{6, 5.5}, {16, 6}, {16, 10.5}, {6, 6.25}}, mix(design.plate, design.accent, 1, 6)),
+        polygon({{6, 5.625}, {16, 7}, {16, 9.25}, {6, 6.125}}, mix(design.plate, design.accent, 1, 3)),
+        disc({12, 3.75}, 2.25, moon), disc({13, 3}, 1.875, seeThrough)};
     // The lighthouse on its rock.
     drawing.push_back(polygon({{1.5, 14}, {3, 12.5}, {6.5, 12.5}, {8.5, 14}}, design.panelEdge));
     drawing.push_back(polygon({{3.75, 12.5}, {4.25, 6.5}, {5.5, 6.5}, {6, 12.5}}, design.glyphSoft));
@@ -47,8 +50,6 @@ Drawing harbour(const SkinDesign& design)
     drawing.push_back(box(4, 10, 1.75, 1, design.plate));
     drawing.push_back(box(4.25, 5.25, 1.25, 1.25, design.accent));
     drawing.push_back(polygon({{3.75, 5.25}, {4.875, 4.25}, {6, 5.25}}, design.glyphSoft));
-    drawing.push_back(
-        polygon({{6, 5.5}, {10, 7}, {10, 8.25}, {6, 6.25}}, mix(design.plate, design.accent, 1, 3)));
     for (const Point& wave :
          {Point(9.5, 13), Point(11, 14.25), Point(2.5, 15.25), Point(7, 15.25), Point(12, 15.75)})
         drawing.push_back(box(wave.x / 256.0, wave.y / 256.0, 2.5, 0.25, design.glyphSoft));
@@ -103,7 +104,7 @@ Picture drawBlankCover(const SkinDesign& design)
         drawing = rivetedPlate(design);
         break;
     }
-    Picture cover = render(drawing, coverSize, coverSize.width, 0);
+    Picture cover = render(drawing, coverSize, coverSize.width, seeThrough);
     for (int y = 0; y < cover.height(); ++y) {
         for (int x = 0; x < cover.width(); ++x) {
             const Color ground =
@@ -115,7 +116,6 @@ Picture drawBlankCover(const SkinDesign& design)
             cover.set(x, y, mix(ground, rgb(sign & 0xFFFFFFU), alphaOf(sign), 255));
         }
     }
-    cover.frame({0, 0, cover.width(), cover.height()}, design.panelEdge);
     return cover;
 }
 

@@ -112,7 +112,7 @@ Color panelAt(const SkinDesign& design, int height, int x, int y)
 
 int foldSide(Size window)
 {
-    return window.width >= 440 ? 10 : 8;
+    return window.width >= 440 ? 12 : 8;
 }
 
 bool isCutAway(const SkinDesign& design, Size window, int x, int y)
