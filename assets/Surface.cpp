@@ -89,7 +89,7 @@ Color groundAt(const SkinDesign& design, Size window, int x, int y)
         const int dx = (x - window.width / 3) * 2;
         const int dy = y * 3;
         const int reach = window.width * window.width;
-        const int glow = std::max(0, reach - dx * dx - dy * dy) / (reach / 12);
+        const int glow = std::max(0, reach - dx * dx - dy * dy) / (reach / 8);
         grain += glow;
     }
     return shifted(base, grain);
