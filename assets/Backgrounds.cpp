@@ -33,7 +33,11 @@ void paintGroove(Picture& picture, const SkinDesign& design, int left, int width
 void paintStrip(Picture& picture, const SkinDesign& design, const Area& strip)
 {
     if (design.texture == Texture::Paper) {
-        picture.fill({strip.x, strip.bottom(), strip.width, 1}, design.panelEdge);
+        // A line to write on, or the border of a page.
+        if (strip.height < captionHeight)
+            picture.fill({strip.x, strip.bottom(), strip.width, 1}, design.panelEdge);
+        else
+            picture.frame(strip.grown(1), design.grooveDark);
         return;
     }
     for (int y = strip.y; y < strip.bottom(); ++y) {
