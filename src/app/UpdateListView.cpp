@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace varnhold {
@@ -68,6 +69,14 @@ void UpdateListView::autosizeColumns()
     const int columns = header()->count();
     for (int column = 0; column < columns; ++column)
         resizeColumnToContents(column);
+}
+
+void UpdateListView::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    // A row is chosen, not a cell: the columns in view stay where the user has put them.
+    const int left = horizontalScrollBar()->value();
+    QTreeView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
 }
 
 int UpdateListView::selectedRow() const

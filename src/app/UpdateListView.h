@@ -19,6 +19,7 @@ public:
     void autosizeColumns();
     /// Selected row; 0 when none.
     [[nodiscard]] int selectedRow() const;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 Q_SIGNALS:
     void rowHovered(int row); ///< on each move of the pointer; 0: no row below it

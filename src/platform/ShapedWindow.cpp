@@ -9,8 +9,9 @@
 namespace varnhold {
 
 ShapedWindow::ShapedWindow(QWidget* owner, Qt::WindowFlags extra)
-    : QWidget(owner, Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
-                         Qt::WindowMinimizeButtonHint | extra)
+    // Window managers keep a dialog above its owner, and a plain window not.
+    : QWidget(owner, (owner == nullptr ? Qt::Window : Qt::Dialog) | Qt::FramelessWindowHint |
+                         Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | extra)
 {
 }
 

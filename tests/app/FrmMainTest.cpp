@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 namespace varnhold::test {
@@ -277,6 +278,18 @@ TEST_F(FrmMain, HandsOnWhatIsDoneInTheUpdateList)
     EXPECT_EQ(activations.count(), 1);
     EXPECT_EQ(window.selectedUpdateRow(), 1);
     EXPECT_TRUE(player.played.contains(u"0"_s));
+}
+
+TEST_F(FrmMain, KeepsTheColumnsInViewWhenARowIsChosen)
+{
+    addUpdate(u"01.01"_s, u"http://host/"_s + QString(400, u'a') + u".pkg"_s);
+    auto& view = child<UpdateListView>(window, "ListView1");
+    view.autosizeColumns();
+    ASSERT_GT(view.horizontalScrollBar()->maximum(), 0);
+    const QPoint lastColumn(view.viewport()->width() - 4, updateRow(1).y());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, lastColumn);
+    EXPECT_EQ(window.selectedUpdateRow(), 1);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
 }
 
 TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)

@@ -63,6 +63,13 @@ protected:
 
 } // namespace
 
+TEST_F(FrmWinsock, StaysAboveItsOwner)
+{
+    QWidget owner;
+    const ShapedWindow owned(&owner);
+    EXPECT_EQ(owned.windowType(), Qt::Dialog) << "of a plain window, managers take no notice of the owner";
+}
+
 TEST_F(FrmWinsock, ShowsWhatItsClientSays)
 {
     EXPECT_EQ(window->pos(), QPoint(320, 200));
