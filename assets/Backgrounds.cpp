@@ -6,6 +6,8 @@ namespace varnhold::assets {
 
 namespace {
 
+constexpr int margin = 8;
+
 void paintWell(Picture& picture, const SkinDesign& design, const Area& inside)
 {
     for (int y = inside.y; y < inside.bottom(); ++y) {
@@ -135,28 +137,11 @@ std::vector<WindowPlan> windowPlans()
         {.file = "background-settings.bmp",
          .size = {400, 248},
          .wells = {{8, 28, 92, 212}},
-         .strips = {{108, 28, 284, 212}},
-         .footMarks = {}},
-        {.file = "background-search.bmp",
-         .size = {447, 321},
-         .wells = {},
-         .strips = {{9, 29, 429, 283}},
-         .footMarks = {}},
-        {.file = "background-DB.bmp",
-         .size = {595, 385},
-         .wells = {},
-         .strips = {{9, 29, 577, 347}},
-         .footMarks = {}},
-        {.file = "background-dl.bmp",
-         .size = {352, 164},
-         .wells = {{8, 131, 336, 9}},
-         .strips = {},
-         .footMarks = {}},
-        {.file = "background-slide.bmp",
-         .size = {447, 221},
-         .wells = {},
-         .strips = {{9, 29, 429, 183}},
-         .footMarks = {}},
+         .strips = {{108, 28, 284, 212}}},
+        {.file = "background-search.bmp", .size = {447, 321}, .strips = {{9, 29, 429, 283}}},
+        {.file = "background-DB.bmp", .size = {595, 385}, .strips = {{9, 29, 577, 347}}},
+        {.file = "background-dl.bmp", .size = {352, 164}, .wells = {{8, 131, 336, 9}}, .rules = {69}},
+        {.file = "background-slide.bmp", .size = {447, 221}, .strips = {{9, 29, 429, 183}}},
     };
 }
 
@@ -169,6 +154,8 @@ Picture drawWindow(const SkinDesign& design, const WindowPlan& plan)
     }
     paintCaption(picture, design, plan.size.width);
     paintFoot(picture, design, plan);
+    for (const int rule : plan.rules)
+        paintGroove(picture, design, margin, plan.size.width - 2 * margin, rule);
     for (const Area& strip : plan.strips)
         paintStrip(picture, design, strip);
     for (const Area& well : plan.wells)

@@ -18,7 +18,7 @@ inline constexpr std::array faceFamilies{
     FaceFamily{{"btn-updown-11.bmp", "btn-updown-22.bmp", "btn-updown-33.bmp"}, {14, 14}},
     FaceFamily{{"file-btn-111.bmp", "file-btn-222.bmp", "file-btn-333.bmp"}, {28, 14}},
     FaceFamily{{"Button1.bmp", "Button2.bmp", "Button3.bmp"}, {40, 16}},
-    FaceFamily{{"Button-1.bmp", "Button-2.bmp", "Button-3.bmp"}, {48, 16}},
+    FaceFamily{{"Button-1.bmp", "Button-2.bmp", "Button-3.bmp"}, {56, 16}},
     // 14 high: it heads panels that are 14 pixels high when closed. Wide enough for "Check Update?".
     FaceFamily{{"Button--1.bmp", "Button--2.bmp", "Button--3.bmp"}, {92, 14}},
     FaceFamily{{"Button-l1.bmp", "Button-l2.bmp", "Button-l3.bmp"}, {128, 16}},

@@ -48,7 +48,7 @@ const Sized pictures[] = {
     {u"btn-updown-11.bmp btn-updown-22.bmp btn-updown-33.bmp"_s, {14, 14}},
     {u"file-btn-111.bmp file-btn-222.bmp file-btn-333.bmp"_s, {28, 14}},
     {u"Button1.bmp Button2.bmp Button3.bmp"_s, {40, 16}},
-    {u"Button-1.bmp Button-2.bmp Button-3.bmp"_s, {48, 16}},
+    {u"Button-1.bmp Button-2.bmp Button-3.bmp"_s, {56, 16}},
     {u"Button--1.bmp Button--2.bmp Button--3.bmp"_s, {92, 14}},
     {u"Button-l1.bmp Button-l2.bmp Button-l3.bmp"_s, {128, 16}},
     {u"button-T1.bmp button-T2.bmp button-T3.bmp"_s, {20, 14}},
