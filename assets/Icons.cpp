@@ -135,7 +135,7 @@ Drawing sliderKnob(const SkinDesign& design)
                 disc({8, 8}, 2.5, design.accent)};
     case Outline::Folded:
         return {box(3, 1, 10, 14, design.rim), box(4, 2, 8, 12, design.panel), box(6, 5, 4, 1, design.rim),
-                box(6, 7.5, 4, 1, design.accent), box(6, 10, 4, 1, design.rim)};
+                box(6, 7, 4, 2, design.accent), box(6, 10, 4, 1, design.rim)};
     case Outline::Chamfered:
         break;
     }
