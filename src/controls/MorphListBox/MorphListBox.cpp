@@ -23,13 +23,6 @@ MorphListBox::MorphListBox(QWidget* parent) : QWidget(parent), m_model(std::make
 
 MorphListBox::~MorphListBox() = default;
 
-void MorphListBox::AddItem(QString text, std::optional<int> index)
-{
-    m_model->AddItem(std::move(text), index);
-    if (m_redraw)
-        repaintDirty();
-}
-
 void MorphListBox::RemoveItem(int index)
 {
     m_model->RemoveItem(index);

@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace varnhold {
 
@@ -81,7 +82,12 @@ public:
 
     /// Appends, or sorts the text in when `Sorted`, or opens a slot at `index` (0 to ListCount; another one
     /// is ignored with the whole call). `NewIndex` is the slot.
-    void AddItem(QString text, std::optional<int> index = {});
+    void AddItem(QString text, std::optional<int> index = {}) // inline: a bulk fill is made of nothing else
+    {
+        m_model->AddItem(std::move(text), index);
+        if (m_redraw)
+            repaintDirty();
+    }
     void RemoveItem(int index); ///< an index out of range is ignored
     void Clear();               ///< all items; the images stay
     /// Clears the selection (the checks of a check list) when a row is selected, else selects every row; in

@@ -56,7 +56,8 @@ int greyOf(quint32 pixel)
 
 TEST(MorphListGradient, EqualsTheFormulaAtEveryAngle)
 {
-    for (const QSize size : {QSize(37, 61), QSize(61, 37), QSize(1, 9), QSize(9, 1), QSize(1, 1)}) {
+    for (const QSize size :
+         {QSize(37, 61), QSize(61, 37), QSize(150, 20), QSize(1, 9), QSize(9, 1), QSize(1, 1)}) {
         for (int angle = -360; angle <= 720; ++angle) {
             for (const bool middleOut : {false, true}) {
                 const MorphGradient gradient{size.width(), size.height(), 0x204060, 0xF0A010,
@@ -77,6 +78,15 @@ TEST(MorphListGradient, RampsRunFromEndToEndAndBackFromTheMiddle)
               (std::vector<quint32>{0xFF000000, 0xFF020202, 0xFF040404, 0xFF020202, 0xFF000000}));
     const std::vector<quint32> even = morphRamp(6, 0, 0x646464, true);
     EXPECT_TRUE(std::equal(even.begin(), even.end(), even.rbegin()));
+    for (const int length : {2, 3, 7, 100, 255, 256, 511, 4099, 65536}) {
+        const std::vector<quint32> ramp = morphRamp(length, 0x0A00FF, 0xFFFE01, false);
+        for (int k = 0; k < length; ++k) {
+            const int last = length - 1;
+            const quint32 exact = 0xFF000000U | quint32(255 - 254LL * k / last) << 16U |
+                                  quint32(254LL * k / last) << 8U | quint32(10 + 245LL * k / last);
+            ASSERT_EQ(ramp[size_t(k)], exact) << k << " of " << length;
+        }
+    }
     EXPECT_EQ(morphRamp(4, 0x8000000F, 0x8000000F, false).front() >> 24U, 0xFFU) << "system colours resolve";
 }
 
