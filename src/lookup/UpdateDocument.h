@@ -32,7 +32,7 @@ public:
 
 private:
     void fill(int listRow);
-    void showTitle(int listRow);
+    void showTitle(int listRow, qsizetype titleStart);
     void finish();
 
     ApplicationState& m_state;

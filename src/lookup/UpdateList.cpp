@@ -2,7 +2,6 @@
 
 #include "platform/RunTimeError.h"
 
-#include <array>
 #include <functional>
 #include <limits>
 
@@ -21,21 +20,19 @@ UpdateList::UpdateList(QObject* parent) : QAbstractTableModel(parent) {}
 
 int UpdateList::count() const
 {
-    return static_cast<int>(m_rows.size());
+    return static_cast<int>(m_marks.size());
 }
 
-UpdateList::Row& UpdateList::at(int row)
+std::size_t UpdateList::indexOf(int row) const
 {
     if (row < 1 || row > count())
         throw RunTimeError(errors::indexOutOfBounds);
-    return m_rows[static_cast<std::size_t>(row - 1)];
+    return static_cast<std::size_t>(row - 1);
 }
 
-const UpdateList::Row& UpdateList::at(int row) const
+const UpdateList::Cell& UpdateList::cellOf(int row, std::size_t column) const
 {
-    if (row < 1 || row > count())
-        throw RunTimeError(errors::indexOutOfBounds);
-    return m_rows[static_cast<std::size_t>(row - 1)];
+    return m_cells.at(column)[indexOf(row)];
 }
 
 void UpdateList::tell(int row, int column)
@@ -61,7 +58,9 @@ void UpdateList::endFill()
 void UpdateList::clear()
 {
     beginFill();
-    m_rows.clear();
+    for (std::vector<Cell>& column : m_cells)
+        column.clear();
+    m_marks.clear();
     m_shared.clear();
     m_own.clear();
     endFill();
@@ -70,29 +69,30 @@ void UpdateList::clear()
 void UpdateList::fillFrom(const QString& text, std::size_t rows)
 {
     m_shared = text;
-    m_rows.reserve(rows);
+    for (std::vector<Cell>& column : m_cells)
+        column.reserve(rows);
+    m_marks.reserve(rows);
 }
 
 UpdateList::Cell UpdateList::store(QStringView text)
 {
+    const auto length = static_cast<qint32>(text.size());
     const QChar* const begin = m_shared.constData();
     // Pointers of different buffers have no order of their own; std::less gives them one.
     const std::less<> before;
     if (!before(text.data(), begin) && !before(begin + m_shared.size(), text.data() + text.size()))
-        return {text.data() - begin, text.size(), true};
+        return {static_cast<qint32>(text.data() - begin), length};
+    const auto start = static_cast<qint32>(m_own.size());
     m_own.append(text);
-    return {m_own.size() - text.size(), text.size(), false};
+    return {~start, length};
 }
 
 QStringView UpdateList::viewOf(const Cell& cell) const
 {
-    return cell.length < 0 ? QStringView()
-                           : QStringView(cell.isShared ? m_shared : m_own).sliced(cell.start, cell.length);
-}
-
-QString UpdateList::textOf(const Cell& cell) const
-{
-    return viewOf(cell).toString();
+    if (cell.length < 0)
+        return {};
+    return cell.start < 0 ? QStringView(m_own).sliced(~cell.start, cell.length)
+                          : QStringView(m_shared).sliced(cell.start, cell.length);
 }
 
 void UpdateList::addRow(QStringView text)
@@ -101,73 +101,75 @@ void UpdateList::addRow(QStringView text)
         throw RunTimeError(errors::overflow);
     if (m_fills == 0)
         beginInsertRows({}, count(), count());
-    Row& row = m_rows.emplace_back();
-    row.cells[0] = store(text);
-    row.icon = u"pkg"_s;
+    for (std::vector<Cell>& column : m_cells)
+        column.emplace_back();
+    m_cells.front().back() = store(text);
+    m_marks.push_back({u"pkg"_s, {}, false});
     if (m_fills == 0)
         endInsertRows();
 }
 
 void UpdateList::setSubItem(int row, SubItem item, QStringView text)
 {
-    at(row).cells[item] = store(text);
+    const std::size_t index = indexOf(row);
+    m_cells.at(item)[index] = store(text);
     tell(row, item);
 }
 
 void UpdateList::setReportIcon(int row, const QString& key)
 {
-    at(row).reportIcon = key;
+    m_marks[indexOf(row)].reportIcon = key;
     tell(row, Version);
 }
 
 QString UpdateList::text(int row) const
 {
-    return textOf(at(row).cells[0]);
+    return viewOf(cellOf(row, 0)).toString();
 }
 
 QString UpdateList::subItem(int row, SubItem item) const
 {
-    return textOf(at(row).cells[item]);
+    return viewOf(cellOf(row, item)).toString();
 }
 
 bool UpdateList::hasSubItem(int row, SubItem item) const
 {
-    return at(row).cells[item].length >= 0;
+    return cellOf(row, item).length >= 0;
 }
 
 QString UpdateList::icon(int row) const
 {
-    return at(row).icon;
+    return m_marks[indexOf(row)].icon;
 }
 
 void UpdateList::setIcon(int row, const QString& key)
 {
-    at(row).icon = key;
+    m_marks[indexOf(row)].icon = key;
     tell(row, 0);
 }
 
 bool UpdateList::isChecked(int row) const
 {
-    return at(row).checked;
+    return m_marks[indexOf(row)].checked;
 }
 
 void UpdateList::setChecked(int row, bool checked)
 {
-    at(row).checked = checked;
+    m_marks[indexOf(row)].checked = checked;
     tell(row, 0);
 }
 
 void UpdateList::setCheckBoxes(bool shown)
 {
     m_checkBoxes = shown;
-    if (m_fills == 0 && !m_rows.empty())
+    if (m_fills == 0 && !m_marks.empty())
         Q_EMIT dataChanged(index(0, 0), index(count() - 1, 0), {Qt::CheckStateRole});
 }
 
 int UpdateList::findUrl(const QString& url) const
 {
     for (int row = 1; row <= count(); ++row)
-        if (viewOf(m_rows[static_cast<std::size_t>(row - 1)].cells[Url]) == url)
+        if (viewOf(cellOf(row, Url)) == url)
             return row;
     return 0;
 }
@@ -186,17 +188,17 @@ QVariant UpdateList::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const Mark& mark = m_marks[static_cast<std::size_t>(index.row())];
     const int column = index.column();
     switch (role) {
     case Qt::DisplayRole:
-        return textOf(row.cells[column]);
+        return viewOf(cellOf(index.row() + 1, static_cast<std::size_t>(column))).toString();
     case Qt::CheckStateRole:
         if (column == 0 && m_checkBoxes)
-            return row.checked ? Qt::Checked : Qt::Unchecked;
+            return mark.checked ? Qt::Checked : Qt::Unchecked;
         return {};
     case IconKeyRole:
-        return column == 0 ? row.icon : column == Version ? row.reportIcon : QString();
+        return column == 0 ? mark.icon : column == Version ? mark.reportIcon : QString();
     default:
         return {};
     }

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <array>
+#include <cstddef>
 #include <vector>
 
 namespace varnhold {
@@ -64,30 +66,31 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
-    /// A stretch of the shared text or of the list's own; a length below 0: the sub-item is missing.
+    /// A place in a text, in as few bytes as a long list needs to stay near the processor; the texts that a
+    /// browser hands out end long before 32 bits do.
     struct Cell
     {
-        qsizetype start = 0;
-        qsizetype length = -1;
-        bool isShared = false;
+        qint32 start = 0;   ///< in the shared text; ~start below 0, in the list's own
+        qint32 length = -1; ///< below 0: the sub-item is missing
     };
-    struct Row
+    struct Mark
     {
-        Cell cells[5]; ///< row text, then the sub-items
         QString icon;
         QString reportIcon;
         bool checked = false;
     };
+    static constexpr std::size_t columns = 5; ///< the row text, then the sub-items
+
     [[nodiscard]] Cell store(QStringView text);
     [[nodiscard]] QStringView viewOf(const Cell& cell) const;
-    [[nodiscard]] QString textOf(const Cell& cell) const;
-    Row& at(int row);
-    [[nodiscard]] const Row& at(int row) const;
+    [[nodiscard]] std::size_t indexOf(int row) const; ///< RunTimeError 35600 out of range
+    [[nodiscard]] const Cell& cellOf(int row, std::size_t column) const;
     void tell(int row, int column);
 
-    std::vector<Row> m_rows;
-    QString m_shared; ///< the text that the fill came from
-    QString m_own;    ///< all other texts, one after the other
+    std::array<std::vector<Cell>, columns> m_cells; ///< by column, since a fill goes column by column
+    std::vector<Mark> m_marks;                      ///< by row
+    QString m_shared;                               ///< the text that the fill came from
+    QString m_own;                                  ///< all other texts, one after the other
     int m_fills = 0;
     bool m_checkBoxes = false;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 namespace varnhold {
@@ -9,7 +10,22 @@ namespace varnhold {
 
 enum class Grouping { Off, On };
 
-/// Rounded half away from zero, with exactly that many decimals; never "-0".
+/// The locale's signs, read once: asking for them takes longer than writing a number. For long lists.
+class NumberFormat
+{
+public:
+    explicit NumberFormat(Grouping grouping);
+
+    /// Appends the value, rounded half away from zero, with exactly that many decimals; never "-0".
+    void appendFixed(QString& text, double value, int decimals) const;
+
+private:
+    QLocale m_locale;
+    QString m_point;
+    bool m_hasPlainDigits;
+};
+
+/// A single number as NumberFormat appends it.
 QString fixedNumber(double value, int decimals, Grouping grouping);
 
 /// Rounded to at most that many decimals with ties to even, no trailing zeros, no grouping; never "-0".

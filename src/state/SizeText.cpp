@@ -19,20 +19,28 @@ constexpr double giga = mega * kilo;
 
 } // namespace
 
-QString Format_Size(double bytes, int decimals, bool withUnit)
+void appendSize(QString& text, const NumberFormat& numbers, double bytes, int decimals, bool withUnit)
 {
-    const auto text = [&](double value, int places, QStringView unit) {
-        QString number = fixedNumber(value, places, Grouping::On);
-        return withUnit ? number.append(unit) : number;
+    const auto append = [&](double value, int places, QStringView unit) {
+        numbers.appendFixed(text, value, places);
+        if (withUnit)
+            text.append(unit);
     };
     if (bytes >= 0 && bytes <= 1023)
-        return text(bytes, 0, u" Bytes");
-    if (bytes >= kilo && bytes <= mega - 1)
-        return text(bytes / kilo, decimals, u" kB");
-    if (bytes >= mega && bytes <= giga - 1)
-        return text(bytes / mega, decimals, u" MB");
-    // Meant also for a fraction that lies between two of the ranges, and for negative values.
-    return text(bytes / giga, decimals, u" GB");
+        append(bytes, 0, u" Bytes");
+    else if (bytes >= kilo && bytes <= mega - 1)
+        append(bytes / kilo, decimals, u" kB");
+    else if (bytes >= mega && bytes <= giga - 1)
+        append(bytes / mega, decimals, u" MB");
+    else // meant also for a fraction that lies between two of the ranges, and for negative values
+        append(bytes / giga, decimals, u" GB");
+}
+
+QString Format_Size(double bytes, int decimals, bool withUnit)
+{
+    QString text;
+    appendSize(text, NumberFormat(Grouping::On), bytes, decimals, withUnit);
+    return text;
 }
 
 QString File_Size_Text(const QString& path)

@@ -159,12 +159,27 @@ TEST_F(UpdateDocumentTest, RewritesTheTextAndStartsAfresh)
     parse(head + full + title);
     EXPECT_EQ(state.XMLText, u"\"1.0\"?><titlepatch>"_s + QString(full).remove(u"\r\n"_s) + title);
     EXPECT_EQ(state.PkgMark, 0);
-    EXPECT_EQ(list.count(), 1);
+    state.XMLText.fill(u'#');
+    state.XMLText.clear();
+    EXPECT_EQ(rows(), QStringList{u"01.01|03.5500|1.72 MB (1805056 bytes)|aa|http://h/a.pkg"_s});
     EXPECT_EQ(document.title(), u"Game"_s);
     EXPECT_EQ(list.index(0, 0).data(UpdateList::IconKeyRole), u"pkg"_s);
     EXPECT_EQ(list.index(0, 1).data(UpdateList::IconKeyRole), u""_s);
     parse(head + package(u"version=\"1\""_s) + title);
     EXPECT_EQ(list.index(0, 1).data(UpdateList::IconKeyRole), u"n/a"_s);
+}
+
+TEST_F(UpdateDocumentTest, CutsAlikeWhereverALineEndsInALongText)
+{
+    const QString front = head + u"<p>"_s + QString(5000, u'.');
+    const QString part = full + title;
+    parse(front + part);
+    const QStringList expected = rows();
+    for (qsizetype place = 0; place <= part.size(); ++place) {
+        parse(front + QString(part).insert(place, u"\r\n"_s));
+        ASSERT_EQ(rows(), expected) << place;
+        ASSERT_EQ(document.title(), u"Game"_s) << place;
+    }
 }
 
 TEST_F(UpdateDocumentTest, FindTitleCountsInTheSingular)
@@ -182,7 +197,7 @@ TEST_F(UpdateDocumentTest, KeepsTheRowsThatAnIndexReaches)
 {
     const QString short_ = u"<package version=\"1\"/>\r\n"_s;
     boxes.expect(reportText(6, u"Overflow"_s, u"Err Description: "_s));
-    parse(head + short_.repeated(1'000'000) + title);
+    parse(head + short_.repeated(100'000) + title);
     EXPECT_EQ(list.count(), 32767);
     parse(head + short_.repeated(32767) + title);
     EXPECT_EQ(view.blank, u"[32767 Updates]"_s);
