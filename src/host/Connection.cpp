@@ -1,5 +1,6 @@
 #include "host/Connection.h"
 
+#include <QSslSocket>
 #include <QTcpSocket>
 #include <QTimerEvent>
 
@@ -15,8 +16,10 @@ constexpr qint64 bufferSize = 256 * 1024;
 /// What may wait in the socket before the next piece is made.
 constexpr qint64 waitingLimit = 2 * bufferSize;
 constexpr int paceMilliseconds = 5;
-/// Long enough for the peer to see a piece on its own.
-constexpr int cutMilliseconds = 3;
+/// Long enough for the peer to see a piece on its own, on a busy machine too; many pieces get less each.
+constexpr int cutMilliseconds = 30;
+constexpr int shortCutMilliseconds = 3;
+constexpr std::size_t manyCuts = 8;
 /// Before a reset, since a reset takes away what the peer has not yet read.
 constexpr int resetMilliseconds = 60;
 
@@ -29,6 +32,8 @@ Connection::Connection(QTcpSocket* socket, Handler handler, QObject* parent)
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     connect(socket, &QTcpSocket::readyRead, this, &Connection::readMore);
     connect(socket, &QTcpSocket::bytesWritten, this, &Connection::send);
+    if (const auto* secure = qobject_cast<QSslSocket*>(socket))
+        connect(secure, &QSslSocket::encryptedBytesWritten, this, &Connection::send);
     connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     if (socket->bytesAvailable() > 0)
         readMore();
@@ -62,6 +67,14 @@ void Connection::start(SendPlan plan)
     send();
 }
 
+/// Bytes that are on their way out. Over TLS most of them wait behind the encryption, where bytesToWrite()
+/// does not count them.
+qint64 Connection::waitingBytes() const
+{
+    const auto* secure = qobject_cast<QSslSocket*>(m_socket);
+    return m_socket->bytesToWrite() + (secure != nullptr ? secure->encryptedBytesToWrite() : 0);
+}
+
 /// The stream position that may be reached now.
 qint64 Connection::allowedEnd()
 {
@@ -82,7 +95,7 @@ void Connection::send()
     if (!m_started || m_cutTimer.isActive())
         return;
     const qint64 end = allowedEnd();
-    while (m_sent < end && m_socket->bytesToWrite() < waitingLimit) {
+    while (m_sent < end && waitingBytes() < waitingLimit) {
         const qint64 count = m_plan.read(
             m_sent, {m_buffer.data(), static_cast<std::size_t>(std::min(end - m_sent, bufferSize))});
         if (m_socket->write(m_buffer.constData(), count) != count) {
@@ -95,9 +108,9 @@ void Connection::send()
         finish();
         return;
     }
-    if (m_cutsPassed < m_plan.cuts.size() && m_sent == m_plan.cuts[m_cutsPassed] &&
-        m_socket->bytesToWrite() == 0)
-        m_cutTimer.start(cutMilliseconds, Qt::PreciseTimer, this);
+    if (m_cutsPassed < m_plan.cuts.size() && m_sent == m_plan.cuts[m_cutsPassed] && waitingBytes() == 0)
+        m_cutTimer.start(m_plan.cuts.size() < manyCuts ? cutMilliseconds : shortCutMilliseconds,
+                         Qt::PreciseTimer, this);
 }
 
 void Connection::finish()
@@ -109,7 +122,7 @@ void Connection::finish()
         m_socket->disconnectFromHost();
         break;
     case SendPlan::End::Reset:
-        if (m_socket->bytesToWrite() == 0) {
+        if (waitingBytes() == 0) {
             m_started = false;
             m_paceTimer.stop();
             m_cutTimer.start(resetMilliseconds, Qt::PreciseTimer, this);

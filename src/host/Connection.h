@@ -33,6 +33,7 @@ protected:
 private:
     void readMore();
     void send();
+    [[nodiscard]] qint64 waitingBytes() const;
     [[nodiscard]] qint64 allowedEnd();
     void finish();
     void reset();

@@ -310,6 +310,16 @@ TEST_F(SampleService, OutlivesBadRequests)
         ASSERT_TRUE(leaving.waitForReadyRead(patience));
         leaving.abort();
     }
+    {
+        // Encryption has a buffer of its own, which must not take in what never ends.
+        QSslSocket leaving;
+        leaving.setPeerVerifyMode(QSslSocket::VerifyNone);
+        leaving.connectToHostEncrypted(u"127.0.0.1"_s, service->httpsAuthority().section(u':', 1).toUShort());
+        ASSERT_TRUE(leaving.waitForEncrypted(patience));
+        leaving.write("GET /odd/endless-headers/ HTTP/1.0\r\n\r\n");
+        ASSERT_TRUE(leaving.waitForReadyRead(patience));
+        leaving.abort();
+    }
     EXPECT_EQ(get(*service, "/Varnhold/txt/version.txt").status(), 200);
 }
 
