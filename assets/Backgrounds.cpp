@@ -142,6 +142,7 @@ std::vector<WindowPlan> windowPlans()
         {.file = "background-DB.bmp", .size = {595, 385}, .strips = {{9, 29, 577, 347}}},
         {.file = "background-dl.bmp", .size = {352, 164}, .wells = {{8, 131, 336, 9}}, .rules = {69}},
         {.file = "background-slide.bmp", .size = {447, 221}, .strips = {{9, 29, 429, 183}}},
+        {.file = "background-splash.bmp", .size = {320, 160}},
     };
 }
 

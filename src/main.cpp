@@ -1,5 +1,5 @@
-#include "app/PlainLook.h"
 #include "app/Program.h"
+#include "appearance/ToolkitLook.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtScreen.h"
@@ -51,7 +51,7 @@ int run(QApplication& application, const QString& root)
 {
     const QString folder = QCoreApplication::applicationDirPath();
     const Paths paths = findPaths(root, folder, folder + u"/../share/varnhold"_s);
-    plainlook::apply(application);
+    setUpToolkitLook(application);
     QtMessageBoxes boxes;
     QtFileDialogs dialogs;
     QtShell shell;

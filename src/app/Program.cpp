@@ -1,10 +1,12 @@
 #include "app/Program.h"
 
-#include "app/PlainLook.h"
+#include "appearance/ButtonSigns.h"
+#include "download/SkinDownloads.h"
 #include "lookup/UpdateServers.h"
 #include "platform/Shell.h"
 
 #include <QApplication>
+#include <QLabel>
 
 #include <utility>
 
@@ -13,12 +15,13 @@ namespace varnhold {
 namespace {
 
 /// The splash, painted already; none for a start that is to say "Already Open." first.
-std::unique_ptr<frmSplash> splashOf(const Program::World& world)
+std::unique_ptr<frmSplash> splashOf(const Program::World& world, SettingsFile& file, const Paths& paths,
+                                    ApplicationState& state)
 {
     if (!world.isFirst())
         return nullptr;
     auto splash = std::make_unique<frmSplash>();
-    plainlook::dress(*splash);
+    dressSplash(*splash, file, paths, state);
     splash->show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     return splash;
@@ -32,10 +35,15 @@ Program::Program(const Paths& paths, World world)
       m_file(m_paths, m_state),
       m_settings(m_file),
       m_sounds(m_settings, m_world.player, m_state),
-      m_splash(splashOf(m_world)),
+      m_splash(splashOf(m_world, m_file, m_paths, m_state)),
       m_menu(m_sounds),
       m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen}),
-      m_settingsWindow({m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths}),
+      m_settingsWindow(
+          {m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths, m_skinPage}),
+      m_skinnedWindows(m_main, m_settingsWindow, m_menu, m_splash),
+      m_transForm(m_world.boxes),
+      m_skin({m_state, m_settings, m_file, m_paths, m_skinPage, m_world.boxes, m_world.dialogs, m_sounds,
+              m_pump, m_transForm, m_skinnedWindows}),
       m_autoAlert(m_alert, m_settings,
                   {.pressYes = [this] { return m_alert.pressYes(); },
                    .caption = [this] { return m_main.caption(); },
@@ -48,7 +56,11 @@ Program::Program(const Paths& paths, World world)
                    .settings = m_settings,
                    .sounds = m_sounds,
                    .screen = m_world.screen,
-                   .skin = plainlook::dress},
+                   .skin =
+                       [this](QWidget& window) {
+                           m_skin.Load_DL(window);
+                           drawButtonSigns(window);
+                       }},
                   m_main),
       m_planner({m_state, m_settings, m_list, m_downloads, m_files, m_world.dialogs, m_world.boxes, m_sounds,
                  QCoreApplication::applicationName()}),
@@ -66,7 +78,9 @@ Program::Program(const Paths& paths, World world)
                  .main = m_main,
                  .settingsWindow = m_settingsWindow,
                  .splash = m_splash,
-                 .skin = plainlook::dress,
+                 .dressSplash = [this](QWidget& splash) { dressSplash(splash, m_file, m_paths, m_state); },
+                 .applySkin = [this] { m_skin.ApplySkin(); },
+                 .shape = [this](QWidget& window) { m_skin.shape(window); },
                  .isFirst = m_world.isFirst,
                  .activatePrevious = m_world.activatePrevious,
                  .findHosts = m_world.findHosts}),
@@ -74,6 +88,7 @@ Program::Program(const Paths& paths, World world)
 {
     connectMainWindow();
     connectMenus();
+    connectSkin();
     m_downloads.onUnload([this](const DownloadClient& client) { m_planner.windowUnloaded(client); });
     m_startUp.onAbandoned([this] { endProgram(); });
 }
@@ -113,7 +128,6 @@ void Program::connectMainWindow()
     });
     connect(&m_main, &frmMain::exitRequested, this, [this] { m_exitPath.run(); });
     connect(&m_main, &frmMain::closedByDesktop, this, [this] { m_world.endProcess(); });
-    connect(&m_main, &frmMain::layoutChanged, this, [this] { plainlook::dress(m_main); });
     m_main.setTipTitle([this] { return m_lookup.title(); });
     connect(&m_settingsWindow, &frmSettings::autoSslReleased, this, [this] { m_autoAlert.watch().start(); });
     connect(&m_browser, &BrowserControl::statusTextChanged, this, [this] {
@@ -131,6 +145,22 @@ void Program::connectMenus()
     connect(&m_menu, &frmMenu::mnuDLoad_Click, this, [this] { m_planner.mnuDLoad_Click(); });
 }
 
+void Program::connectSkin()
+{
+    m_main.setLayoutPictures([this](int layout) { return m_skin.loadLayout(layout); });
+    m_main.setBlankPicture([this] { return m_menu.imgBlank().pixmap(); });
+    connect(&m_main, &frmMain::layoutChanged, this, [this] {
+        m_skin.shape(m_main);
+        drawButtonSigns(m_main);
+    });
+    connect(&m_settingsWindow, &frmSettings::skinMenuWanted, &m_menu, &frmMenu::popUp_mnuSkins);
+    connect(&m_menu, &frmMenu::mnuSkinDL_Click, this,
+            [this] { mnuSkinDL_Click(m_sounds, m_world.shell, m_hosts); });
+    connect(&m_menu, &frmMenu::mnuSkin_Refresh_Click, this, [this] { m_skin.mnuSkin_Refresh_Click(); });
+    connect(&m_menu, &frmMenu::mnuSkin_Path_Click, this, [this] { m_skin.mnuSkin_Path_Click(); });
+    connect(&m_menu, &frmMenu::mnuSkin_Click, this, [this](int index) { m_skin.mnuSkin_Click(index); });
+}
+
 HostTls Program::tlsOf(const QString& authority) const
 {
     for (const HostEntry& entry : m_hosts.servers) {
@@ -143,7 +173,6 @@ HostTls Program::tlsOf(const QString& authority) const
 void Program::openSettings()
 {
     constexpr QPoint offset(23, 8); // 340 and 120 twips
-    plainlook::dress(m_settingsWindow);
     m_settingsWindow.open(m_main.pos() + offset);
 }
 

@@ -3,10 +3,14 @@
 #include "app/AutoAlert.h"
 #include "app/DownloadWindows.h"
 #include "app/ExitPath.h"
+#include "app/SkinnedWindows.h"
 #include "app/StartUp.h"
 #include "app/frmMain.h"
 #include "app/frmMenu.h"
 #include "app/frmSettings.h"
+#include "appearance/Skin.h"
+#include "appearance/SkinPage.h"
+#include "appearance/TransForm.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadPlanner.h"
 #include "lookup/Lookup.h"
@@ -69,6 +73,7 @@ public:
 private:
     void connectMainWindow();
     void connectMenus();
+    void connectSkin();
     [[nodiscard]] HostTls tlsOf(const QString& authority) const;
     void openSettings();
     void openWeb();
@@ -92,9 +97,13 @@ private:
     DiskFiles m_files;
     UpdateList m_list;
     std::unique_ptr<frmSplash> m_splash; ///< before the windows, so that it is up while they are built
+    SkinPage m_skinPage;
     frmMenu m_menu;
     frmMain m_main;
     frmSettings m_settingsWindow;
+    SkinnedWindows m_skinnedWindows;
+    clsTransForm m_transForm;
+    Skin m_skin;
     SecurityAlertWindow m_alert;
     AutoAlert m_autoAlert;
     NetworkBrowser m_browser;

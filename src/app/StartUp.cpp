@@ -76,8 +76,8 @@ void StartUp::load()
     pumpOnce();
     findHosts();
 
-    m_services.main.startLayout(readLayout(m_services.file, m_services.state));
-    m_services.skin(m_services.main);
+    showStatus(u"Loading: Skins"_s);
+    m_services.applySkin();
     pumpOnce();
     showStatus(u"Loading: Settings"_s);
     const QString listUrl = u"http://%1/Varnhold/ps3gameids.txt"_s.arg(m_services.hosts.update.authority);
@@ -86,7 +86,7 @@ void StartUp::load()
     m_services.main.createToolTip();
     m_services.main.games().setRedrawFlag(true);
     showStatus(u"Loading: Form Transparency"_s);
-    m_services.skin(m_services.main);
+    m_services.shape(m_services.main);
     m_services.sounds.play(Sound::Open);
     ClearTopMost(m_services.main);
     m_services.main.show();
@@ -97,7 +97,7 @@ void StartUp::showSplash()
 {
     if (!m_services.splash) {
         m_services.splash = std::make_unique<frmSplash>();
-        m_services.skin(*m_services.splash);
+        m_services.dressSplash(*m_services.splash);
         m_services.splash->show();
     }
     frmSplash* splash = m_services.splash.get();

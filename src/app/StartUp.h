@@ -45,7 +45,9 @@ public:
         frmSettings& settingsWindow;
         /// Made in the load unless there is one: it may be on the screen before the other windows are built.
         std::unique_ptr<frmSplash>& splash;
-        std::function<void(QWidget&)> skin;
+        std::function<void(QWidget&)> dressSplash;
+        std::function<void()> applySkin; ///< to all windows; tells its failures itself
+        std::function<void(QWidget&)> shape;
 
         std::function<bool()> isFirst;          ///< false: another instance of the program runs
         std::function<bool()> activatePrevious; ///< true when that one answered and came to the front

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -62,6 +63,43 @@ UpdateListView::UpdateListView(UpdateList& list, QWidget* parent) : QTreeView(pa
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void UpdateListView::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    viewport()->update();
+}
+
+void UpdateListView::setPictureAlignment(int alignment)
+{
+    m_pictureAlignment = alignment;
+    viewport()->update();
+}
+
+void UpdateListView::drawPicture(QPainter& painter) const
+{
+    constexpr int tiled = 5;
+    const QRect all = viewport()->rect();
+    if (m_pictureAlignment == tiled) {
+        painter.drawTiledPixmap(all, m_picture);
+        return;
+    }
+    constexpr Qt::Alignment places[] = {Qt::AlignTop | Qt::AlignLeft, Qt::AlignTop | Qt::AlignRight,
+                                        Qt::AlignBottom | Qt::AlignLeft, Qt::AlignBottom | Qt::AlignRight,
+                                        Qt::AlignCenter};
+    const Qt::Alignment place = places[qBound(0, m_pictureAlignment, 4)];
+    const QRect at = QStyle::alignedRect(Qt::LeftToRight, place, m_picture.size(), all);
+    painter.drawPixmap(at.topLeft(), m_picture);
+}
+
+void UpdateListView::paintEvent(QPaintEvent* event)
+{
+    if (!m_picture.isNull()) {
+        QPainter painter(viewport());
+        drawPicture(painter);
+    }
+    QTreeView::paintEvent(event);
 }
 
 void UpdateListView::autosizeColumns()

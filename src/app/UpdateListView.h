@@ -10,6 +10,8 @@ class UpdateList;
 class UpdateListView : public QTreeView
 {
     Q_OBJECT
+    Q_PROPERTY(QPixmap Picture READ picture WRITE setPicture)
+    Q_PROPERTY(int PictureAlignment READ pictureAlignment WRITE setPictureAlignment)
 
 public:
     UpdateListView(UpdateList& list, QWidget* parent);
@@ -17,6 +19,11 @@ public:
     /// Each column becomes as wide as its widest text, header included. Long lists are measured by a sample
     /// of their rows.
     void autosizeColumns();
+    [[nodiscard]] const QPixmap& picture() const { return m_picture; }
+    void setPicture(const QPixmap& picture); ///< below the rows
+    [[nodiscard]] int pictureAlignment() const { return m_pictureAlignment; }
+    /// 0 top left, 1 top right, 2 bottom left, 3 bottom right, 4 centre, 5 tiled.
+    void setPictureAlignment(int alignment);
     /// Selected row; 0 when none.
     [[nodiscard]] int selectedRow() const;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -29,6 +36,7 @@ Q_SIGNALS:
     void rowActivated(int row);                    ///< double click or Enter; 0: no row
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -39,6 +47,10 @@ protected:
 
 private:
     [[nodiscard]] int rowAt(const QPoint& position) const;
+    void drawPicture(QPainter& painter) const;
+
+    QPixmap m_picture;
+    int m_pictureAlignment = 5;
 };
 
 } // namespace varnhold

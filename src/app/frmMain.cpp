@@ -9,6 +9,7 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
+#include "platform/PictureBox.h"
 #include "platform/Twips.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
@@ -156,16 +157,15 @@ void frmMain::buildLeftColumn()
     m_picPreview->setObjectName("PicPreview"_L1);
     m_picPreview->setAccessibleName(tr("Cover"));
     m_picPreview->setAlignment(Qt::AlignCenter);
-    m_barLeft = new QWidget(m_picLeft);
+    m_barLeft = new PictureBox(m_picLeft);
     m_barLeft->setObjectName("barLeft"_L1);
-    m_barLeft->setAttribute(Qt::WA_StyledBackground);
     m_barLeft->setCursor(Qt::SplitVCursor);
     m_barLeft->installEventFilter(this);
 }
 
 void frmMain::buildMainColumn()
 {
-    m_picMain = new QWidget(this);
+    m_picMain = new PictureBox(this);
     m_picMain->setObjectName("picMain"_L1);
     m_updates = new UpdateListView(m_services.list, m_picMain);
     m_updates->setObjectName("ListView1"_L1);
@@ -175,9 +175,8 @@ void frmMain::buildMainColumn()
     m_notes->setAccessibleName(tr("Notes"));
     m_notes->setReadOnly(true);
     m_notes->setTabChangesFocus(true);
-    m_barMain = new QWidget(m_picMain);
+    m_barMain = new PictureBox(m_picMain);
     m_barMain->setObjectName("barMain"_L1);
-    m_barMain->setAttribute(Qt::WA_StyledBackground);
     m_barMain->setCursor(Qt::SplitVCursor);
     m_barMain->installEventFilter(this);
     m_imgPreview = new QLabel(m_picMain);
@@ -253,12 +252,19 @@ int frmMain::layoutNumber() const
 
 void frmMain::startLayout(int number)
 {
-    if (number == 2)
+    if (number == 2 && takesPictures(2))
         applyLayout(MainLayout::enlarged(), 2);
+}
+
+bool frmMain::takesPictures(int number) const
+{
+    return !m_layoutPictures || m_layoutPictures(number);
 }
 
 void frmMain::EnlargeMainWindow()
 {
+    if (!takesPictures(2))
+        return;
     applyLayout(MainLayout::enlarged(), 2);
     m_services.settings.writeLayout(2);
     Splitbar_Left();
@@ -267,6 +273,8 @@ void frmMain::EnlargeMainWindow()
 
 void frmMain::RestoreMainWindow()
 {
+    if (!takesPictures(1))
+        return;
     applyLayout(MainLayout::normal(), 1);
     m_services.settings.writeLayout(1);
     Splitbar_Left();

@@ -52,6 +52,11 @@ public:
     /// Give the window its other size and write "Miximize".
     void EnlargeMainWindow();
     void RestoreMainWindow();
+    /// Asked for the pictures of a size (1 normal, 2 enlarged) before the window takes it; false leaves the
+    /// window as it is.
+    void setLayoutPictures(std::function<bool(int)> load) { m_layoutPictures = std::move(load); }
+    /// Asked for the picture of a title without a cover.
+    void setBlankPicture(std::function<QPixmap()> picture) { m_blankPicture = std::move(picture); }
     /// The size that was stored, before the bars are: nothing is written.
     void startLayout(int number);
     /// 1 normal, 2 enlarged.
@@ -124,6 +129,7 @@ private:
     ElidedLabel* addLabel(const char* name, const QString& accessibleName);
     void orderTabs();
     void applyLayout(const MainLayout& layout, int number);
+    [[nodiscard]] bool takesPictures(int number) const;
     void layLeftColumn();
     void layMainColumn();
     void placeColumn(const SplitPlaces& places, QWidget& upper, QWidget& bar, QWidget& lower, int width);
@@ -139,6 +145,8 @@ private:
     Services m_services;
     HiddenList m_titles;
     std::function<QString()> m_tipTitle;
+    std::function<bool(int)> m_layoutPictures;
+    std::function<QPixmap()> m_blankPicture;
     double m_barLeftTop = 0; ///< twips
     double m_barMainTop = 0;
     int m_columnTwips = 0;

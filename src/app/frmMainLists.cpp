@@ -57,7 +57,7 @@ void frmMain::onGameKeyUp()
 {
     // Every key comes this way, the one that started a lookup too: its release clears the rows. This is
     // meant.
-    m_picPreview->setPixmap({});
+    m_picPreview->setPixmap(m_blankPicture ? m_blankPicture() : QPixmap());
     m_notes->clear();
     showListViews();
     m_services.list.clear();

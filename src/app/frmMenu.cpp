@@ -1,8 +1,10 @@
 #include "app/frmMenu.h"
 
+#include "appearance/SkinCatalogue.h"
 #include "state/Sounds.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 
 namespace varnhold {
@@ -10,7 +12,11 @@ namespace varnhold {
 using namespace Qt::StringLiterals;
 
 frmMenu::frmMenu(Sounds& sounds)
-    : m_sounds(sounds), m_mnuMenu(addMenu("mnuMenu")), m_mnuLView(addMenu("mnuLView"))
+    : m_sounds(sounds),
+      m_mnuMenu(addMenu("mnuMenu")),
+      m_mnuLView(addMenu("mnuLView")),
+      m_mnuSkins(addMenu("mnuSkins")),
+      m_imgBlank(new QLabel(this))
 {
     setObjectName("frmMenu"_L1);
     addEntry(*m_mnuMenu, "mnuSettings", u"Settings"_s, &frmMenu::mnuSettings_Click);
@@ -20,6 +26,13 @@ frmMenu::frmMenu(Sounds& sounds)
     m_mnuMenu->addSeparator()->setObjectName("line002"_L1);
     addEntry(*m_mnuMenu, "mnuExit", u"Exit"_s, &frmMenu::mnuExit_Click);
     addEntry(*m_mnuLView, "mnuDLoad", u"Download"_s, &frmMenu::mnuDLoad_Click);
+    addEntry(*m_mnuSkins, "mnuSkinDL", u"Download"_s, &frmMenu::mnuSkinDL_Click);
+    addEntry(*m_mnuSkins, "mnuSkin_Refresh", u"Refresh"_s, &frmMenu::mnuSkin_Refresh_Click);
+    addEntry(*m_mnuSkins, "mnuSkin_Path", u"Skin Path"_s, &frmMenu::mnuSkin_Path_Click);
+    QAction* const design = m_mnuSkins->addAction(u"-"_s); // the array's own entry, from its design
+    design->setObjectName("mnuSkin(0)"_L1);
+    design->setVisible(false);
+    m_imgBlank->setObjectName("imgBlank"_L1);
 }
 
 QMenu* frmMenu::addMenu(const char* name)
@@ -44,6 +57,29 @@ void frmMenu::popUp_mnuMenu(const QPoint& globalPosition)
 void frmMenu::popUp_mnuLView(const QPoint& globalPosition)
 {
     popUp(*m_mnuLView, globalPosition);
+}
+
+void frmMenu::popUp_mnuSkins(const QPoint& globalPosition)
+{
+    m_mnuSkins->popup(globalPosition);
+}
+
+void frmMenu::fill_mnuSkin(const SkinCatalogue& catalogue)
+{
+    for (QAction* const entry : m_skinEntries)
+        delete entry;
+    m_skinEntries.clear();
+    for (const SkinCatalogue::Entry& skin : catalogue.entries()) {
+        const int index = static_cast<int>(m_skinEntries.size()) + 1;
+        // A folder's "&" is no mnemonic.
+        QAction* const entry = m_mnuSkins->addAction(QString(skin.caption).replace(u'&', u"&&"_s));
+        entry->setObjectName(u"mnuSkin(%1)"_s.arg(index));
+        // Queued: what it starts may refill this menu.
+        connect(
+            entry, &QAction::triggered, this, [this, index] { Q_EMIT mnuSkin_Click(index); },
+            Qt::QueuedConnection);
+        m_skinEntries.push_back(entry);
+    }
 }
 
 void frmMenu::popUp(QMenu& menu, const QPoint& globalPosition)

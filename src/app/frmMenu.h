@@ -2,10 +2,15 @@
 
 #include <QWidget>
 
+#include <vector>
+
+class QAction;
+class QLabel;
 class QMenu;
 
 namespace varnhold {
 
+class SkinCatalogue;
 class Sounds;
 
 /// Owner of every popup menu; never shown itself.
@@ -20,12 +25,21 @@ public:
     void popUp_mnuMenu(const QPoint& globalPosition);
     void popUp_mnuLView(const QPoint& globalPosition);
 
+    void popUp_mnuSkins(const QPoint& globalPosition); ///< without a sound
+    /// The entries mnuSkin(1) and on.
+    void fill_mnuSkin(const SkinCatalogue& catalogue);
+    [[nodiscard]] const QLabel& imgBlank() const { return *m_imgBlank; }
+
 Q_SIGNALS:
     void mnuSettings_Click();
     void mnuWebOpen_Click();
     void mnuRaw_Click();
     void mnuExit_Click();
     void mnuDLoad_Click();
+    void mnuSkinDL_Click();
+    void mnuSkin_Refresh_Click();
+    void mnuSkin_Path_Click();
+    void mnuSkin_Click(int index); ///< from 1
 
 private:
     QMenu* addMenu(const char* name);
@@ -35,6 +49,9 @@ private:
     Sounds& m_sounds;
     QMenu* m_mnuMenu;
     QMenu* m_mnuLView;
+    QMenu* m_mnuSkins;
+    QLabel* m_imgBlank; ///< picture of a title without a cover
+    std::vector<QAction*> m_skinEntries;
 };
 
 } // namespace varnhold

@@ -39,6 +39,7 @@ frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_se
     buildFrame();
     buildDownload();
     buildOptions();
+    buildSkin();
     buildSounds();
     buildUnwanted();
     m_warnLater.setSingleShot(true);

@@ -22,6 +22,7 @@ class MessagePump;
 class Screen;
 class Settings;
 class Sounds;
+class SkinPage;
 struct ApplicationState;
 struct Paths;
 
@@ -41,18 +42,22 @@ public:
         MessagePump& pump;
         const Screen& screen;
         const Paths& paths;
+        SkinPage& skinPage;
     };
 
     explicit frmSettings(const Services& services);
 
     /// Shows it at this place in pixels; a window that is open only comes to the front.
     void open(const QPoint& place);
+    /// The same on the skin page, with the focus on btn_Skin_Path; one that is open moves too.
+    void openSkinPage(const QPoint& place);
     /// Fills all controls from the settings; nothing is written.
     void refresh();
 
 Q_SIGNALS:
     /// The mouse let go of an Auto box; raised before the box's setting changes.
     void autoSslReleased();
+    void skinMenuWanted(const QPoint& globalPosition); ///< btn_Skin_Path
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -70,6 +75,8 @@ private:
     QFrame* addPage(const QString& row, const char* name, const QString& caption);
     void buildDownload();
     void buildOptions();
+    void buildSkin();
+    void showSkin();
     void buildSounds();
     void buildUnwanted();
     void addCheck(QFrame& page, const char* name, const QString& caption, const QString& toolTip, Check check,

@@ -112,11 +112,12 @@ void frmSettings::buildDownload()
     addCheck(page, "chk_OWrite", u"Over write files on Multi DL?"_s, {}, Check::OWrite, {column, 118});
     addCheck(page, "chk_Previous", u"Download Previous Updates?"_s, {}, Check::Previous, {column, 140});
     auto* folder = addShownText(page, u"txt_SaveDir"_s, tr("Download folder"),
-                                {column, 170, controlWidth - 34, rowHeight});
+                                {column, 170, controlWidth - 56, rowHeight});
     folder->setPlaceholderText(tr("Download folder"));
     m_refreshers.emplace_back([this, folder] { showTagged(*folder, m_services.settings.saveDir()); });
     ButtonEx* choose = addButton(page, "btnSaveDir", tr("Select Download Folder"),
-                                 {column + controlWidth - 28, 171, 28, 18});
+                                 {column + controlWidth - 48, 172, 48, 16});
+    choose->setCaption(tr("Browse"));
     connect(choose, &ButtonEx::Click, this, &frmSettings::chooseSaveDir);
 }
 
@@ -182,10 +183,11 @@ void frmSettings::buildSounds()
         row->setGeometry(column, top, 64, rowHeight);
         row->setChecked(i == 0);
         auto* file = addShownText(page, indexed("txt_Sound", i), names[i],
-                                  {column + 68, top, controlWidth - 96, rowHeight});
+                                  {column + 64, top, controlWidth - 64 - 100, rowHeight});
         m_refreshers.emplace_back([this, file, i] { showTagged(*file, m_services.settings.sound(i)); });
         ButtonEx* play = addButton(page, qPrintable(indexed("cmd_Play", i)), tr("Play %1").arg(names[i]),
-                                   {column + controlWidth - 20, top + 1, 20, 18});
+                                   {column + controlWidth - 92, top + 3, 92, 14});
+        play->setCaption(tr("Play"));
         connect(play, &ButtonEx::Click, this,
                 [this, i] { m_services.sounds.playAlways(static_cast<Sound>(i)); });
     }
@@ -193,7 +195,8 @@ void frmSettings::buildSounds()
     hint->setProperty("quiet", true);
     hint->setGeometry(column + 68, 150, controlWidth - 104, rowHeight);
     ButtonEx* choose =
-        addButton(page, "cmdSound", tr("Choose a sound"), {column + controlWidth - 28, 151, 28, 18});
+        addButton(page, "cmdSound", tr("Choose a sound"), {column + controlWidth - 48, 152, 48, 16});
+    choose->setCaption(tr("Browse"));
     connect(choose, &ButtonEx::Click, this, &frmSettings::chooseSound);
 }
 

@@ -22,17 +22,20 @@ frmSplash::frmSplash() : ShapedWindow(nullptr)
     setObjectName("frmSplash"_L1);
     setWindowTitle(QCoreApplication::applicationName());
     setFixedSize(splashSize);
-    addLabel("lblProductName", {20, 18, 200, 28}, QCoreApplication::applicationName());
-    addLabel("lblVersion", {20, 48, 200, 16}, u"Version "_s + QCoreApplication::applicationVersion());
-    addLabel("lblPlatform", {220, 24, 80, 16}, u"Linux"_s)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    addLabel("lblCompanyProduct", {220, 48, 80, 16}, u"Brackwater"_s)
+    addLabel("lblProductName", {20, 28, 200, 28}, QCoreApplication::applicationName());
+    QFont large = font();
+    large.setPixelSize(22);
+    findChild<QLabel*>("lblProductName"_L1)->setFont(large);
+    addLabel("lblVersion", {20, 56, 200, 16}, u"Version "_s + QCoreApplication::applicationVersion());
+    addLabel("lblPlatform", {220, 34, 80, 16}, u"Linux"_s)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    addLabel("lblCompanyProduct", {220, 56, 80, 16}, u"Brackwater"_s)
         ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_warning = addLabel("lblWarning", {20, 76, 280, 18}, u"Please wait!"_s);
+    m_warning = addLabel("lblWarning", {20, 84, 280, 18}, u"Please wait!"_s);
     m_warning->setCursor(Qt::PointingHandCursor);
     m_warning->installEventFilter(this);
-    m_message = addLabel("lblMessage", {20, 98, 280, 30}, {});
+    m_message = addLabel("lblMessage", {20, 102, 280, 30}, {});
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_loading = addLabel("lblLoading", {20, 132, 280, 16}, {});
+    m_loading = addLabel("lblLoading", {20, 136, 280, 16}, {});
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
     SetOpacity(splashOpacity, *this);

@@ -6,6 +6,7 @@
 #include "appearance/SkinPictures.h"
 #include "appearance/SkinTexts.h"
 #include "appearance/TransForm.h"
+#include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
@@ -40,6 +41,16 @@ constexpr ColorValue red = 0x0000FF;
 struct Ending
 {
 };
+
+SkinColors skinColorsOf(const SkinIni& ini)
+{
+    SkinColors colors{};
+    colors[SkinPage::Fore] = ini.color(u"Skin ForeColor"_s).value_or(0xFFFFFF);
+    colors[SkinPage::Back] = ini.color(u"Skin BackColor"_s).value_or(0xFF3333);
+    // The key is spelled this way in every skin.
+    colors[SkinPage::Highlight] = ini.color(u"Skin HightlightColor"_s).value_or(0x00FF00);
+    return colors;
+}
 
 void showPicture(QWidget* control, const QPixmap& picture)
 {
@@ -88,16 +99,28 @@ void Skin::pumpEvents()
         throw Ending();
 }
 
-void Skin::readLocation()
+void readSkinLocation(const SettingsFile& file, const Paths& paths, ApplicationState& state)
 {
     const QString section = settingsKeys::skinSection();
-    ApplicationState& state = m_services.state;
-    state.SkinPath = m_services.file.INI_Read(section, u"Skin Path"_s, {});
+    state.SkinPath = file.INI_Read(section, u"Skin Path"_s, {});
     if (state.SkinPath.isEmpty())
-        state.SkinPath = m_services.paths.defaultSkin();
-    state.SkinName = m_services.file.INI_Read(section, u"Skin Name"_s, {});
+        state.SkinPath = paths.defaultSkin();
+    state.SkinName = file.INI_Read(section, u"Skin Name"_s, {});
     if (state.SkinName.isEmpty())
         state.SkinName = skinNameOf(state.SkinPath);
+}
+
+void dressSplash(QWidget& splash, SettingsFile& file, const Paths& paths, ApplicationState& state)
+{
+    readSkinLocation(file, paths, state);
+    silently([&] {
+        SkinPictures pictures(state.SkinPath);
+        const QPixmap picture = pictures.load(u"background-splash.bmp"_s);
+        assignProperty(splash, "Picture", picture);
+        splash.setMask(regionLeft(picture.toImage(), splash.size(), cutAwayColor));
+        const SkinIni ini(file);
+        assignSkinColorsInside(splash, skinColorsOf(ini));
+    });
 }
 
 bool Skin::ApplySkin()
@@ -116,7 +139,7 @@ void Skin::apply()
 {
     SkinHost& host = m_services.host;
     pumpEvents();
-    readLocation();
+    readSkinLocation(m_services.file, m_services.paths, m_services.state);
     m_acceptedName = m_services.state.SkinName;
     SkinPictures pictures(m_services.state.SkinPath);
     SkinIni ini(m_services.file);
@@ -172,10 +195,7 @@ bool Skin::loadLayout(int layout)
 void Skin::readColors(const SkinIni& ini)
 {
     SkinPage& page = m_services.page;
-    page.Shape_Color[SkinPage::Fore] = ini.color(u"Skin ForeColor"_s).value_or(0xFFFFFF);
-    page.Shape_Color[SkinPage::Back] = ini.color(u"Skin BackColor"_s).value_or(0xFF3333);
-    // The key is spelled this way in every skin.
-    page.Shape_Color[SkinPage::Highlight] = ini.color(u"Skin HightlightColor"_s).value_or(0x00FF00);
+    page.Shape_Color = skinColorsOf(ini);
     page.borderColor[SkinPage::Back] = page.Shape_Color[SkinPage::Highlight];
     page.borderColor[SkinPage::Fore] = page.Shape_Color[SkinPage::Highlight];
     page.borderColor[SkinPage::Highlight] = page.Shape_Color[SkinPage::Fore];
@@ -198,6 +218,8 @@ void Skin::loadGlyphs(SkinPictures& pictures)
             m_glyphs.insert(name, pictures.load(name));
         }
     }
+    const QImage plate = m_glyphs.value(u"menu/exit.bmp"_s).toImage();
+    m_services.page.menuGround = toColorValue(plate.pixelColor(0, 0));
 }
 
 void Skin::ApplySkinColors()

@@ -97,7 +97,6 @@ private:
     void loadGlyphs(SkinPictures& pictures);
     void attachMenuGlyphs();
     void buildCatalogue();
-    void readLocation();
     [[nodiscard]] QWidget* control(const char* window, const char* name) const;
     void pumpEvents();
     void report(const RunTimeError& error);
@@ -109,6 +108,13 @@ private:
     QString m_acceptedName;           ///< written back when a skin lacks a file
     QString m_pickedFolder;           ///< of the folder browser, in this run of the program
 };
+
+/// Which skin Settings.ini names; the default one when it names none.
+void readSkinLocation(const SettingsFile& file, const Paths& paths, ApplicationState& state);
+
+/// Dresses the splash, which stands before anything is loaded, by the skin's own picture for it; a skin
+/// without one leaves it plain.
+void dressSplash(QWidget& splash, SettingsFile& file, const Paths& paths, ApplicationState& state);
 
 /// Puts one row's picture or faces on a control. Throws as SkinPictures::load().
 void applyTarget(const SkinTarget& target, QWidget& control, SkinPictures& pictures);

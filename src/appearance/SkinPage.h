@@ -32,6 +32,7 @@ public:
     int vscl_LBxAlign = 0;
     int vscl_LBxTheme = 0;
     int vscl_Align = 0;
+    ColorValue menuGround = 0; ///< of the plates that menu glyphs are drawn on
     bool skinLoaded = false;
     QString availableSkins;                              ///< lbl_Available_Skins(1)
     std::array<ColorValue, 2> availableSkinsColor{0, 0}; ///< of both labels

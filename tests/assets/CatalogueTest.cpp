@@ -42,6 +42,7 @@ const Sized pictures[] = {
     {u"bImage.bmp"_s, {90, 104}},
     {u"background-dl.bmp"_s, {352, 164}},
     {u"background-slide.bmp"_s, {447, 221}},
+    {u"background-splash.bmp"_s, {320, 160}},
     {u"list.bmp back.bmp"_s, {64, 64}},
     {u"slider.ico flag-us.ico flag-uk.ico flag-jp.ico flag-asia.ico flag-kor.ico psn.ico unknown.ico"_s,
      {16, 16}},

@@ -1,26 +1,39 @@
-#include "app/PlainStyle.h"
-
-#include "app/PlainColors.h"
+#include "appearance/ToolkitStyle.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
 
-namespace varnhold::plainlook {
+namespace varnhold {
 
 using namespace Qt::StringLiterals;
 
-PlainStyle::PlainStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+ToolkitStyle::ToolkitStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
-void PlainStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                               const QWidget* widget) const
+void ToolkitStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const
 {
+    const QPalette& colors = option->palette;
+    if (element == PE_PanelLineEdit || element == PE_Frame) {
+        if (element == PE_PanelLineEdit)
+            painter->fillRect(option->rect, colors.base());
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+            frame == nullptr || frame->lineWidth > 0) {
+            const bool lit = (option->state & State_HasFocus) != 0;
+            painter->save();
+            painter->setPen(lit ? colors.color(QPalette::Link) : colors.color(QPalette::Mid));
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->restore();
+        }
+        return;
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton &&
         element != PE_IndicatorItemViewItemCheck) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
+    const QColor accent = colors.color(QPalette::Link);
     constexpr int side = 12;
     const bool on = (option->state & State_On) != 0;
     const bool lit = (option->state & (State_MouseOver | State_HasFocus)) != 0;
@@ -29,8 +42,8 @@ void PlainStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     box.moveTopLeft(QPointF(box.topLeft().toPoint()) + QPointF(0.5, 0.5));
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(lit || on ? accent : QColor(0x6d8bbd), 1));
-    painter->setBrush(panel);
+    painter->setPen(QPen(lit || on ? accent : colors.color(QPalette::Dark), 1));
+    painter->setBrush(colors.window());
     if (element == PE_IndicatorRadioButton) {
         painter->drawEllipse(box);
         painter->setPen(Qt::NoPen);
@@ -50,4 +63,4 @@ void PlainStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
-} // namespace varnhold::plainlook
+} // namespace varnhold

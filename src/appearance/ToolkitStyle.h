@@ -2,18 +2,18 @@
 
 #include <QProxyStyle>
 
-namespace varnhold::plainlook {
+namespace varnhold {
 
 /// Check boxes and option buttons that can be told apart on a dark ground.
-class PlainStyle : public QProxyStyle
+class ToolkitStyle : public QProxyStyle
 {
     Q_OBJECT
 
 public:
-    PlainStyle();
+    ToolkitStyle();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };
 
-} // namespace varnhold::plainlook
+} // namespace varnhold

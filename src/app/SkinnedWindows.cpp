@@ -1,0 +1,77 @@
+#include "app/SkinnedWindows.h"
+
+#include "app/frmMain.h"
+#include "app/frmMenu.h"
+#include "app/frmSettings.h"
+#include "app/frmSplash.h"
+#include "appearance/ButtonSigns.h"
+#include "appearance/ToolkitLook.h"
+#include "controls/CTooltip/CTooltip.h"
+#include "platform/CaptionDrag.h"
+
+#include <QWindow>
+
+namespace varnhold {
+
+SkinnedWindows::SkinnedWindows(frmMain& main, frmSettings& settings, frmMenu& menu,
+                               std::unique_ptr<frmSplash>& splash)
+    : m_main(main), m_settings(settings), m_menu(menu), m_splash(splash)
+{
+}
+
+void SkinnedWindows::showStatus(const QString& text)
+{
+    if (m_splash)
+        m_splash->setStatus(text);
+}
+
+void SkinnedWindows::showMessage(const QString& text)
+{
+    if (m_splash)
+        m_splash->setMessage(text);
+}
+
+QWidget* SkinnedWindows::window(const char* name)
+{
+    QWidget* const windows[] = {&m_main, &m_settings, &m_menu};
+    for (QWidget* const each : windows) {
+        if (each->objectName() == QLatin1StringView(name))
+            return each;
+    }
+    return nullptr;
+}
+
+void SkinnedWindows::enlargeMainWindow()
+{
+    // While loading the bars have not been read yet, and must not be written.
+    if (m_splash)
+        m_main.startLayout(2);
+    else
+        m_main.EnlargeMainWindow();
+}
+
+void SkinnedWindows::takeColors(const SkinPage& page)
+{
+    colorToolkit(page.Shape_Color, page.menuGround);
+    drawButtonSigns(m_main);
+    drawButtonSigns(m_settings);
+    for (CTooltip* const tip : m_main.findChildren<CTooltip*>()) {
+        tip->setForeColor(page.Shape_Color[SkinPage::Fore]);
+        tip->setBackColor(page.Shape_Color[SkinPage::Back]);
+    }
+}
+
+void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
+{
+    m_menu.fill_mnuSkin(catalogue);
+}
+
+void SkinnedWindows::askForSkinFolder()
+{
+    m_settings.winId(); // an owner needs a handle
+    m_main.winId();
+    m_settings.windowHandle()->setTransientParent(m_main.windowHandle());
+    m_settings.openSkinPage(m_main.pos());
+}
+
+} // namespace varnhold

@@ -1,0 +1,124 @@
+#include "appearance/ButtonSigns.h"
+
+#include "controls/ButtonEx/ButtonEx.h"
+#include "controls/SystemColorsUi.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear };
+
+Sign signOf(const ButtonEx& button)
+{
+    const QString name = button.objectName();
+    if (name == "btn_WinState(0)"_L1)
+        return Sign::Minimize;
+    if (name == "btn_WinState(2)"_L1)
+        return button.Caption() == "2"_L1 ? Sign::Restore : Sign::Maximize;
+    if (name == "btn_WinState(1)"_L1 || name == "btnExit"_L1)
+        return Sign::Close;
+    if (name == "btn_Tools(1)"_L1)
+        return Sign::Gear;
+    if (name == "btnFile"_L1)
+        return Sign::Menu;
+    return Sign::None;
+}
+
+QPainterPath gear(const QPointF& centre)
+{
+    QPainterPath teeth;
+    for (int i = 0; i < 8; ++i) {
+        QTransform turn;
+        turn.translate(centre.x(), centre.y());
+        turn.rotate(i * 45.0);
+        QPainterPath tooth;
+        tooth.addRect(-0.9, -4.6, 1.8, 2.4);
+        teeth.addPath(turn.map(tooth));
+    }
+    QPainterPath body;
+    body.addEllipse(centre, 3.4, 3.4);
+    QPainterPath hole;
+    hole.addEllipse(centre, 1.4, 1.4);
+    return teeth.united(body).subtracted(hole);
+}
+
+void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& color)
+{
+    const QPointF centre(size.width() / 2.0, size.height() / 2.0);
+    const double x = std::floor(centre.x());
+    const double y = std::floor(centre.y());
+    const auto line = [&](double left, double top, double width, double height) {
+        painter.fillRect(QRectF(x + left, y + top, width, height), color);
+    };
+    const auto frame = [&](double left, double top, double width, double height) {
+        line(left, top, width, 1);
+        line(left, top + height - 1, width, 1);
+        line(left, top, 1, height);
+        line(left + width - 1, top, 1, height);
+    };
+    painter.setRenderHint(QPainter::Antialiasing);
+    switch (sign) {
+    case Sign::None:
+        return;
+    case Sign::Minimize:
+        line(-3, 2, 6, 1);
+        return;
+    case Sign::Maximize:
+        frame(-3, -3, 6, 6);
+        line(-3, -2, 6, 1);
+        return;
+    case Sign::Restore:
+        frame(-3, -1, 4, 4);
+        line(-1, -3, 4, 1);
+        line(2, -3, 1, 4);
+        return;
+    case Sign::Close:
+        painter.setPen(QPen(color, 1.3));
+        painter.drawLine(centre + QPointF(-2.5, -2.5), centre + QPointF(2.5, 2.5));
+        painter.drawLine(centre + QPointF(-2.5, 2.5), centre + QPointF(2.5, -2.5));
+        return;
+    case Sign::Menu:
+        for (const int top : {-3, 0, 3})
+            line(-5, top - 1, 10, 1);
+        return;
+    case Sign::Gear:
+        painter.fillPath(gear(centre), color);
+        return;
+    }
+}
+
+QPixmap draw(Sign sign, ColorValue color)
+{
+    constexpr QSize size(12, 12);
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawSign(painter, sign, size, toQColor(color));
+    return picture;
+}
+
+} // namespace
+
+void drawButtonSign(ButtonEx& button)
+{
+    const Sign sign = signOf(button);
+    if (sign == Sign::None)
+        return;
+    button.setPicture(draw(sign, button.ForeColor()));
+    button.setPictureOver(draw(sign, button.HighlightColor()));
+}
+
+void drawButtonSigns(const QWidget& window)
+{
+    for (ButtonEx* const button : window.findChildren<ButtonEx*>())
+        drawButtonSign(*button);
+}
+
+} // namespace varnhold
