@@ -1,8 +1,8 @@
 // The program's start against a bare window of the same toolkit, in pairs of processes: from the process's
 // start to the first paint of the splash, and to the idle main window. start_bench [PAIRS].
 
-#include "app/PlainLook.h"
 #include "app/Program.h"
+#include "appearance/ToolkitLook.h"
 #include "platform/QtFileDialogs.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtScreen.h"
@@ -45,7 +45,7 @@ private:
 int runOurs(QApplication& application, const QString& until, const QString& root)
 {
     const Paths paths{root};
-    plainlook::apply(application);
+    setUpToolkitLook(application);
     QtMessageBoxes boxes;
     QtFileDialogs dialogs;
     QtShell shell;
@@ -82,6 +82,8 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const int pairs = mode.empty() ? 21 : std::atoi(mode.c_str());
     const QTemporaryDir root;
+    std::filesystem::copy(std::filesystem::path(argv[0]).parent_path() / "../share/skin",
+                          root.path().toStdString() + "/skin", std::filesystem::copy_options::recursive);
     const std::string bare = (std::filesystem::path(argv[0]).parent_path() / "bare_window").string();
     const auto timeOfBare = [&] { return runChildren({{bare}}).seconds; };
     const auto timeOf = [&](const char* what) {

@@ -112,11 +112,11 @@ void frmSettings::buildDownload()
     addCheck(page, "chk_OWrite", u"Over write files on Multi DL?"_s, {}, Check::OWrite, {column, 118});
     addCheck(page, "chk_Previous", u"Download Previous Updates?"_s, {}, Check::Previous, {column, 140});
     auto* folder = addShownText(page, u"txt_SaveDir"_s, tr("Download folder"),
-                                {column, 170, controlWidth - 56, rowHeight});
+                                {column, 170, controlWidth - 64, rowHeight});
     folder->setPlaceholderText(tr("Download folder"));
     m_refreshers.emplace_back([this, folder] { showTagged(*folder, m_services.settings.saveDir()); });
     ButtonEx* choose = addButton(page, "btnSaveDir", tr("Select Download Folder"),
-                                 {column + controlWidth - 48, 172, 48, 16});
+                                 {column + controlWidth - 56, 172, 56, 16});
     choose->setCaption(tr("Browse"));
     connect(choose, &ButtonEx::Click, this, &frmSettings::chooseSaveDir);
 }
@@ -195,7 +195,7 @@ void frmSettings::buildSounds()
     hint->setProperty("quiet", true);
     hint->setGeometry(column + 68, 150, controlWidth - 104, rowHeight);
     ButtonEx* choose =
-        addButton(page, "cmdSound", tr("Choose a sound"), {column + controlWidth - 48, 152, 48, 16});
+        addButton(page, "cmdSound", tr("Choose a sound"), {column + controlWidth - 56, 152, 56, 16});
     choose->setCaption(tr("Browse"));
     connect(choose, &ButtonEx::Click, this, &frmSettings::chooseSound);
 }

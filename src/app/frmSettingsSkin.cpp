@@ -53,7 +53,7 @@ void frmSettings::buildSkin()
     QFrame& page = *addPage(u"Skin"_s, "frm_Skin(0)", u"Settings: Skin"_s);
     addLabel(page, u"lbl_Available_Skins(0)"_s, tr("Available skins"), {column, 6, 120, rowHeight});
     addLabel(page, u"lbl_Available_Skins(1)"_s, u"0"_s, {valueColumn, 6, 60, rowHeight});
-    ButtonEx* choose = addButton(page, "btn_Skin_Path", tr("Skin"), {228, 8, 48, 16});
+    ButtonEx* choose = addButton(page, "btn_Skin_Path", tr("Skin"), {220, 8, 56, 16});
     choose->setCaption(tr("Choose"));
     connect(choose, &ButtonEx::MouseEnter, this,
             [this, choose] { choose->setToolTip(u"Skin Patch: "_s + m_services.state.SkinPath); });

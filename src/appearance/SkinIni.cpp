@@ -83,6 +83,9 @@ std::optional<int> SkinIni::number(const QString& key, int most) const
 
 void SkinIni::write(const QString& key, const QString& value)
 {
+    // A value that stands there already needs no slow write: the bars write what they were just given.
+    if (text(key) == value)
+        return;
     m_file.Skin_Write(skinSettingsSection(), key, value);
 }
 

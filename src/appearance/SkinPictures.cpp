@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <cstdlib>
 
@@ -15,6 +16,17 @@ namespace {
 constexpr qint64 mostPixels = qint64(128) << 18; // 128 MB at four bytes each
 constexpr int iconSide = 16;
 
+/// Size as the file tells it; the toolkit's reader keeps silent about a bitmap that it finds too large.
+QSize toldSize(const QByteArray& bytes, const QImageReader& reader)
+{
+    constexpr qsizetype widthAt = 18;
+    constexpr qsizetype heightAt = 22;
+    if (!bytes.startsWith("BM") || bytes.size() < heightAt + 4)
+        return reader.size();
+    return {qFromLittleEndian<qint32>(bytes.constData() + widthAt),
+            qAbs(qFromLittleEndian<qint32>(bytes.constData() + heightAt))};
+}
+
 QPixmap decode(QByteArray bytes)
 {
     QBuffer buffer(&bytes);
@@ -23,7 +35,7 @@ QPixmap decode(QByteArray bytes)
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead())
         throw RunTimeError(errors::invalidPicture);
-    const QSize told = reader.size();
+    const QSize told = toldSize(bytes, reader);
     if (told.isValid() && qint64(told.width()) * told.height() > mostPixels)
         throw RunTimeError(errors::outOfMemory);
     QImage best;

@@ -43,9 +43,10 @@ Tones tonesOf(const SkinColors& colors, ColorValue ground)
     tones.ground = toQColor(ground);
     tones.edge = mixed(tones.ground, tones.text, 0.3);
     tones.accent = toQColor(colors[1]);
-    tones.chosen = toQColor(colors[2]);
-    tones.chosenText =
-        contrastRatio(fore, colors[2]) < readable ? toQColor(blackOrWhiteOn(colors[2])) : tones.text;
+    // What is chosen must show on a menu's ground and on a field's, which is the back colour itself.
+    tones.chosen = mixed(toQColor(colors[2]), tones.accent, 0.35);
+    const ColorValue chosen = toColorValue(tones.chosen);
+    tones.chosenText = contrastRatio(fore, chosen) < readable ? toQColor(blackOrWhiteOn(chosen)) : tones.text;
     return tones;
 }
 

@@ -1,6 +1,7 @@
 #include "AppWorld.h"
 
 #include "app/frmSettings.h"
+#include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "support/FakeFileDialogs.h"
 #include "support/FakePump.h"
@@ -34,7 +35,8 @@ protected:
 
     FakeFileDialogs dialogs;
     FakePump pump;
-    frmSettings window{{state, settings, sounds, dialogs, pump, screen, root.paths()}};
+    SkinPage skinPage;
+    frmSettings window{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
 };
 
 } // namespace
@@ -67,10 +69,10 @@ TEST_F(FrmSettings, WritesEachBoxWithItsClick)
         {1, "chk_Fade", u"Fade Out"_s},
         {1, "chk_Exit", u"Exit"_s},
         {1, "chk_Edge", u"Edge Detection"_s},
-        {2, "chk_Sounds_Click", u"Click Sounds"_s},
-        {3, "chk_RemoveUnw", u"Remove Unwanted"_s},
-        {3, "chk_Double", u"Remove DblSpace"_s},
-        {3, "chk_Colon", u"Remove Colon"_s},
+        {3, "chk_Sounds_Click", u"Click Sounds"_s},
+        {4, "chk_RemoveUnw", u"Remove Unwanted"_s},
+        {4, "chk_Double", u"Remove DblSpace"_s},
+        {4, "chk_Colon", u"Remove Colon"_s},
     };
     for (const auto& given : cases) {
         openPage(given.page);
@@ -138,7 +140,7 @@ TEST_F(FrmSettings, ChoosesTheDownloadFolder)
 
 TEST_F(FrmSettings, GivesTheChosenRowAnotherSound)
 {
-    openPage(2);
+    openPage(3);
     setCheck(Check::SoundsClick, false);
     click("opt_Index(2)");
     dialogs.answer(u"/music/horn.mp3"_s);
@@ -152,7 +154,7 @@ TEST_F(FrmSettings, GivesTheChosenRowAnotherSound)
 
 TEST_F(FrmSettings, KeepsTheUnwantedStringsAsTheyAreTyped)
 {
-    openPage(3);
+    openPage(4);
     auto& box = child<QPlainTextEdit>(window, "txtRemove");
     EXPECT_FALSE(child(window, "lblCount").isVisible());
     QTest::keyClicks(&box, u" ab"_s);
@@ -176,14 +178,15 @@ TEST_F(FrmSettings, ShowsOnePageAtATime)
 {
     const QPair<const char*, QString> pages[] = {{"frm_Download", u"Settings: Download"_s},
                                                  {"frm_Options", u"Settings: Options"_s},
+                                                 {"frm_Skin(0)", u"Settings: Skin"_s},
                                                  {"frm_Sound", u"Settings: Sounds"_s},
                                                  {"frm_Unwanted", u"Settings: ReMove Un-Wanted strings"_s}};
-    for (int row = 0; row < 4; ++row) {
+    for (int row = 0; row < 5; ++row) {
         player.played.clear();
         openPage(row);
         EXPECT_EQ(player.played, QStringList{u"0"_s});
         EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), pages[row].second);
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 5; ++i)
             EXPECT_EQ(child(window, pages[i].first).isVisible(), i == row);
     }
     QTest::keyClick(&child(window, "List1"), Qt::Key_Up);

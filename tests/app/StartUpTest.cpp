@@ -2,6 +2,7 @@
 
 #include "app/StartUp.h"
 #include "app/frmSettings.h"
+#include "appearance/SkinPage.h"
 #include "controls/CTooltip/CTooltip.h"
 #include "lookup/CertificateWatch.h"
 #include "platform/RunTimeError.h"
@@ -48,7 +49,8 @@ protected:
     FakeCertificateHost certificateHost;
     CertificateWatch certificates{settings, certificateHost};
     frmMain main{{state, settings, list, boxes, sounds, screen}};
-    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths()}};
+    SkinPage skinPage;
+    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
     bool first = true;
     bool previousAnswers = true;
     std::unique_ptr<frmSplash> splash;
@@ -67,7 +69,9 @@ protected:
                      .main = main,
                      .settingsWindow = settingsWindow,
                      .splash = splash,
-                     .skin = [](QWidget&) {},
+                     .dressSplash = [](QWidget&) {},
+                     .applySkin = [this] { main.startLayout(readLayout(file, state)); },
+                     .shape = [](QWidget&) {},
                      .isFirst = [this] { return first; },
                      .activatePrevious = [this] { return previousAnswers; },
                      .findHosts = [this] { return findHosts(); }}};

@@ -1,0 +1,133 @@
+#include "appearance/SkinFolder.h"
+#include "appearance/SkinCatalogue.h"
+#include "appearance/SkinIni.h"
+#include "appearance/SkinTexts.h"
+#include "platform/RunTimeError.h"
+#include "state/ApplicationState.h"
+#include "state/SettingsFile.h"
+#include "support/PrintText.h"
+#include "support/TempRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename Call> int errorOf(Call&& call)
+{
+    try {
+        static_cast<void>(call());
+        return errors::none;
+    } catch (const RunTimeError& error) {
+        return error.number();
+    }
+}
+
+} // namespace
+
+TEST(SkinFolder, FindsNamesWithoutRegardToCase)
+{
+    const TempRoot root;
+    root.write(u"skin/Mixed/BUTTON--1.BMP"_s, "1");
+    root.write(u"skin/Mixed/Menu/Db.bmp"_s, "2");
+    const SkinFolder folder(root.path(u"skin/Mixed"_s));
+    EXPECT_EQ(folder.read(u"Button--1.bmp"_s), "1");
+    EXPECT_EQ(folder.find(u"button--1.bmp"_s), root.path(u"skin/Mixed/BUTTON--1.BMP"_s));
+    EXPECT_EQ(folder.read(u"menu/db.bmp"_s), "2");
+    EXPECT_FALSE(folder.has(u"list.bmp"_s));
+}
+
+TEST(SkinFolder, SaysWhatIsMissing)
+{
+    const TempRoot root;
+    root.write(u"skin/a/Button1.bmp"_s, "1");
+    root.makeFolder(u"skin/a/Button2.bmp"_s);
+    const SkinFolder folder(root.path(u"skin/a"_s));
+    EXPECT_EQ(errorOf([&] { return folder.read(u"Button3.bmp"_s); }), errors::fileNotFound);
+    EXPECT_EQ(errorOf([&] { return folder.read(u"menu/db.bmp"_s); }), errors::pathNotFound);
+    EXPECT_EQ(errorOf([&] { return folder.read(u"Button2.bmp"_s); }), errors::pathFileAccess);
+    EXPECT_EQ(errorOf([&] { return SkinFolder(root.path(u"skin/b"_s)).read(u"Button1.bmp"_s); }),
+              errors::pathNotFound);
+
+    QFile::remove(root.path(u"skin/a/Button1.bmp"_s));
+    EXPECT_EQ(errorOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::fileNotFound);
+    QDir(root.path(u"skin/a"_s)).removeRecursively();
+    EXPECT_EQ(errorOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::pathNotFound)
+        << "the folder went after it was listed";
+}
+
+TEST(SkinCatalogue, ListsTheRootOnceUntilItIsCleared)
+{
+    const TempRoot root;
+    SkinCatalogue catalogue(root.path(u"skin"_s));
+    EXPECT_TRUE(catalogue.build());
+    EXPECT_TRUE(catalogue.entries().empty()) << "no root";
+    for (const char* const name : {"skin/zinc", "skin/Beech", "skin/ä b.1", "skin/ash"})
+        root.makeFolder(QString::fromUtf8(name));
+    root.write(u"skin/readme.txt"_s, "no skin");
+    EXPECT_TRUE(catalogue.build());
+    ASSERT_EQ(catalogue.entries().size(), 4U);
+    EXPECT_EQ(catalogue.entries()[0].caption, u"ash"_s);
+    EXPECT_EQ(catalogue.entries()[1].tag, root.path(u"skin/Beech"_s));
+    root.makeFolder(u"skin/new"_s);
+    EXPECT_FALSE(catalogue.build());
+    EXPECT_EQ(catalogue.entries().size(), 4U);
+    catalogue.clear();
+    EXPECT_TRUE(catalogue.build());
+    EXPECT_EQ(catalogue.entries().size(), 5U);
+    EXPECT_EQ(skinNameOf(u"/skins/my.skin"_s), u"my"_s);
+    EXPECT_EQ(skinNameOf(u"/skins/plain"_s), u"plain"_s);
+}
+
+TEST(SkinIni, TakesWhatItsControlTakes)
+{
+    const TempRoot root;
+    ApplicationState state;
+    state.SkinPath = root.path(u"skin"_s);
+    SettingsFile file(root.paths(), state);
+    const SkinIni ini(file);
+    EXPECT_EQ(ini.color(u"Skin ForeColor"_s), std::nullopt) << "no Skin.ini at all";
+
+    const struct
+    {
+        const char* value;
+        std::optional<ColorValue> color;
+        int error;
+    } cases[] = {
+        {"", std::nullopt, 0},
+        {"0", 0U, 0},
+        {"16724787", 0xFF3333U, 0},
+        {"16777215", 0xFFFFFFU, 0},
+        {"-2147483633", 0x8000000FU, 0},
+        {"16777216", {}, errors::invalidPropertyValue},
+        {"-1", {}, errors::invalidPropertyValue},
+        {"3000000000", {}, errors::overflow},
+        {"red", {}, errors::typeMismatch},
+    };
+    for (const auto& each : cases) {
+        root.write(u"skin/Skin.ini"_s, QByteArray("[Settings]\r\nSkin ForeColor=") + each.value);
+        std::optional<ColorValue> color;
+        EXPECT_EQ(errorOf([&] { color = ini.color(u"Skin ForeColor"_s); }), each.error) << each.value;
+        EXPECT_EQ(color, each.color) << each.value;
+    }
+    root.write(u"skin/Skin.ini"_s, "[Settings]\r\nLBxMode=2\r\nLBx Theme=11\r\nLvPicture=yes\r\n");
+    EXPECT_EQ(ini.number(u"LBxMode"_s, 2), 2);
+    EXPECT_EQ(errorOf([&] { return ini.number(u"LBx Theme"_s, 10); }), errors::invalidPropertyValue);
+    EXPECT_EQ(errorOf([&] { return ini.number(u"LvPicture"_s, 1); }), errors::typeMismatch);
+}
+
+TEST(SkinTexts, ReadAsTold)
+{
+    EXPECT_EQ(missingSkinFileText(RunTimeError(errors::fileNotFound)),
+              u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not exist!\r\n"
+              "File not found\r\nSolution:        Please check the skin folder in question."_s);
+    EXPECT_EQ(skinErrorText(RunTimeError(errors::invalidPicture)), u"481 Invalid picture"_s);
+    EXPECT_EQ(selectSkinFolderMessage(), u"Please select Skin Folder.\rThank You! *¿*"_s);
+}
+
+} // namespace varnhold::test

@@ -1,0 +1,285 @@
+#include "app/SkinnedWindows.h"
+#include "app/frmMenu.h"
+#include "app/frmSettings.h"
+#include "app/frmSplash.h"
+#include "appearance/SkinIni.h"
+#include "appearance/SkinPictures.h"
+#include "appearance/TransForm.h"
+#include "controls/ButtonEx/ButtonEx.h"
+#include "controls/MorphListBox/MorphListBox.h"
+#include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "download/frm_Winsock.h"
+#include "support/FakeClock.h"
+#include "support/FakeDownloadFiles.h"
+#include "support/FakeFileDialogs.h"
+#include "support/FakePump.h"
+#include "support/FakeSocket.h"
+
+#include "../app/AppWorld.h"
+
+#include <QAction>
+#include <QDir>
+#include <QDirIterator>
+#include <QLabel>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void copyFolder(const QString& from, const QString& to)
+{
+    QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString source = walk.next();
+        const QString target = to + u'/' + QDir(from).relativeFilePath(source);
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::copy(source, target);
+    }
+}
+
+class SkinTest : public testing::Test, protected AppWorld
+{
+protected:
+    SkinTest()
+    {
+        main.setLayoutPictures([this](int layout) { return skin.loadLayout(layout); });
+        for (const char* const name : {"default", "paper"})
+            copyFolder(QStringLiteral(VARNHOLD_SKINS "/") + QLatin1StringView(name),
+                       root.path(u"skin/"_s + QLatin1StringView(name)));
+    }
+
+    [[nodiscard]] QString inSkin(const QString& name) const { return root.path(u"skin/default/"_s + name); }
+    [[nodiscard]] QString storedSkin(const QString& key) const
+    {
+        return file.INI_Read(u"Skin"_s, key, u"(missing)"_s);
+    }
+    void replace(const QString& name, const QByteArray& bytes)
+    {
+        QFile::remove(inSkin(name));
+        root.write(u"skin/default/"_s + name, bytes);
+    }
+
+    FakeFileDialogs dialogs;
+    FakePump pump;
+    SkinPage page;
+    frmMenu menu{sounds};
+    frmMain main{{state, settings, list, boxes, sounds, screen}};
+    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), page}};
+    std::unique_ptr<frmSplash> splash = std::make_unique<frmSplash>();
+    SkinnedWindows windows{main, settingsWindow, menu, splash};
+    clsTransForm transForm{boxes};
+    Skin skin{{state, settings, file, root.paths(), page, boxes, dialogs, sounds, pump, transForm, windows}};
+};
+
+QImage imageOf(const QObject& control, const char* property)
+{
+    return control.property(property).value<QPixmap>().toImage();
+}
+
+} // namespace
+
+TEST(SkinTargets, GiveThreeButtonsTheHoverFaceWithTheFocus)
+{
+    QStringList exceptions;
+    int buttons = 0;
+    for (const auto& targets :
+         {mainTargets(), settingsTargets(), searchTargets(), databaseTargets(), databaseButtonTargets()}) {
+        for (const SkinTarget& target : targets) {
+            if (target.family == nullptr)
+                continue;
+            ++buttons;
+            if (target.faces == hoverWhenFocused)
+                exceptions.append(QLatin1StringView(target.window) + u' ' +
+                                  QLatin1StringView(target.control));
+            else
+                EXPECT_EQ(target.faces, (FaceOrder{1, 2, 1, 3, 3}));
+        }
+    }
+    EXPECT_EQ(exceptions,
+              (QStringList{u"frmSearch cmdImport"_s, u"frmDB cmd_Collapse(1)"_s, u"frmDB cmd_Tools(1)"_s}));
+    EXPECT_EQ(buttons, 14 + 36 + 6 + 25);
+}
+
+TEST_F(SkinTest, PutsItsFileOnEachControl)
+{
+    ASSERT_TRUE(skin.ApplySkin());
+    SkinPictures pictures(root.path(u"skin/default"_s));
+    int dressed = 0;
+    for (const auto& targets : {normalTargets(), mainTargets(), settingsTargets()}) {
+        for (const SkinTarget& target : targets) {
+            QWidget* const window = windows.window(target.window);
+            ASSERT_NE(window, nullptr);
+            QWidget* const control = *target.control == '\0'
+                                         ? window
+                                         : window->findChild<QWidget*>(QLatin1StringView(target.control));
+            if (control == nullptr)
+                continue; // of a page that is not there yet
+            ++dressed;
+            if (target.family == nullptr) {
+                EXPECT_EQ(imageOf(*control, target.property),
+                          pictures.load(QLatin1StringView(target.file)).toImage())
+                    << target.control;
+                continue;
+            }
+            for (std::size_t i = 0; i < 5; ++i) {
+                const char* const name = target.family->files.at(std::size_t(target.faces.at(i) - 1));
+                EXPECT_EQ(imageOf(*control, faceProperties.at(i)),
+                          pictures.load(QLatin1StringView(name)).toImage())
+                    << target.control << ' ' << faceProperties.at(i);
+            }
+        }
+    }
+    EXPECT_GE(dressed, 4 + 6 + 9);
+    const auto& fetch = child<ButtonEx>(main, "btnFetch");
+    EXPECT_EQ(fetch.ForeColor(), page.Shape_Color[SkinPage::Fore]);
+    EXPECT_EQ(fetch.HighlightColor(), page.Shape_Color[SkinPage::Highlight]);
+    EXPECT_EQ(fetch.BackColor(), page.Shape_Color[SkinPage::Back]);
+    EXPECT_EQ(child<XP_ProgressBar>(main, "ProgressBar1").color(), page.Shape_Color[SkinPage::Back]);
+    EXPECT_FALSE(main.mask().contains(QPoint(0, 0))) << "a corner is cut away";
+    EXPECT_TRUE(main.mask().contains(main.rect().center()));
+    const auto* exit = menu.findChild<QAction*>(u"mnuExit"_s);
+    EXPECT_FALSE(exit->icon().isNull());
+    EXPECT_TRUE(exit->isIconVisibleInMenu());
+    EXPECT_EQ(page.availableSkins, u"2"_s);
+    EXPECT_EQ(child<QLabel>(settingsWindow, "lbl_Available_Skins(1)").text(), u"2"_s);
+    EXPECT_FALSE(menu.findChild<QAction*>(u"mnuSkin(2)"_s)->icon().isNull());
+    EXPECT_EQ(child<MorphListBox>(main, "MorphListBox1").BackColor1(),
+              SkinIni(file).customColor(u"BackColor1"_s));
+}
+
+TEST_F(SkinTest, TakesTheEnlargedPicturesAtOnce)
+{
+    root.write(u"Settings.ini"_s, "[Settings]\r\nMiximize=2\r\n");
+    ASSERT_TRUE(skin.ApplySkin());
+    EXPECT_EQ(main.size(), QSize(595, 385));
+    EXPECT_EQ(main.picture().size(), QSize(595, 385));
+    splash.reset();
+    main.RestoreMainWindow();
+    EXPECT_EQ(main.picture().size(), QSize(447, 289));
+    EXPECT_EQ(stored(u"Miximize"_s), u"1"_s);
+
+    QFile::remove(inSkin(u"mainLBar.bmp"_s));
+    boxes.expect(u"Err Number: 53\r\nErr Description: File not found\r\nSolution: Please update the skin "
+                 "folder in question."_s);
+    main.EnlargeMainWindow();
+    EXPECT_EQ(main.size(), QSize(447, 289)) << "it stays as it is";
+}
+
+TEST_F(SkinTest, TellsOfAMissingFileAndStopsThere)
+{
+    QFile::remove(inSkin(u"button1.bmp"_s));
+    QFile::remove(inSkin(u"Button1.bmp"_s));
+    boxes.expect(
+        u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not exist!\r\nFile "
+        "not found\r\nSolution:        Please check the skin folder in question."_s,
+        QCoreApplication::applicationName());
+    EXPECT_FALSE(skin.ApplySkin());
+    EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
+    EXPECT_FALSE(main.picture().isNull()) << "applied before";
+    EXPECT_TRUE(settingsWindow.picture().isNull()) << "not reached";
+    EXPECT_EQ(storedSkin(u"Skin Name"_s), u"default"_s);
+    EXPECT_EQ(storedSkin(u"Skin Path"_s), QString()) << "nothing was picked in this run";
+}
+
+TEST_F(SkinTest, AsksForAFolderWhenTheSkinIsGone)
+{
+    settings.writeSkinPath(root.path(u"skin/gone"_s));
+    main.move(200, 150);
+    EXPECT_FALSE(skin.ApplySkin());
+    EXPECT_EQ(child<QLabel>(*splash, "lblLoading").text(), u"Loading: Skin not found"_s);
+    EXPECT_EQ(child<QLabel>(*splash, "lblMessage").text(), u"Please select Skin Folder.\rThank You! *¿*"_s);
+    EXPECT_FALSE(page.skinLoaded);
+    EXPECT_TRUE(settingsWindow.isVisible());
+    EXPECT_EQ(settingsWindow.pos(), main.pos());
+    EXPECT_TRUE(child(settingsWindow, "frm_Skin(0)").isVisible());
+    EXPECT_EQ(child(settingsWindow, "lbl_Available_Skins(0)").palette().color(QPalette::WindowText),
+              QColor(255, 255, 0));
+    EXPECT_EQ(child(settingsWindow, "lbl_Available_Skins(1)").palette().color(QPalette::WindowText),
+              QColor(255, 0, 0));
+    EXPECT_EQ(settingsWindow.focusWidget(), &child(settingsWindow, "btn_Skin_Path"));
+    EXPECT_EQ(storedSkin(u"Skin Path"_s), root.path(u"skin/gone"_s));
+
+    dialogs.answer(root.path(u"skin/default"_s));
+    skin.mnuSkin_Path_Click();
+    EXPECT_TRUE(page.skinLoaded);
+    EXPECT_EQ(storedSkin(u"Skin Name"_s), u"default"_s);
+}
+
+TEST_F(SkinTest, TellsEveryOtherFailureInALine)
+{
+    // A bitmap that says it is 20,000 pixels wide and high.
+    QFile small(inSkin(u"list.bmp"_s));
+    ASSERT_TRUE(small.open(QIODevice::ReadOnly));
+    QByteArray huge = small.readAll();
+    for (const int field : {18, 22})
+        huge.replace(field, 4, QByteArray::fromHex("204e0000"));
+    const struct
+    {
+        QByteArray bytes;
+        QString text;
+    } cases[] = {{"not a picture", u"481 Invalid picture"_s},
+                 {"", u"481 Invalid picture"_s},
+                 {"BM", u"481 Invalid picture"_s},
+                 {huge, u"7 Out of memory"_s}};
+    for (const auto& each : cases) {
+        replace(u"barLeft.bmp"_s, each.bytes);
+        boxes.expect(each.text);
+        EXPECT_FALSE(skin.ApplySkin());
+    }
+    replace(u"barLeft.bmp"_s, "");
+    QFile::remove(inSkin(u"barLeft.bmp"_s));
+    QFile::copy(inSkin(u"mainBar.bmp"_s), inSkin(u"BARLEFT.BMP"_s));
+    root.write(u"skin/default/Skin.ini"_s, "[Settings]\r\nSkin ForeColor=red\r\n");
+    boxes.expect(u"13 Type mismatch"_s);
+    EXPECT_FALSE(skin.ApplySkin());
+    EXPECT_EQ(storedSkin(u"Skin Path"_s), u"(missing)"_s) << "nothing is written back";
+}
+
+TEST_F(SkinTest, LeavesAnOpenDownloadAsItIs)
+{
+    FakeSocketMaker sockets;
+    FakeDownloadFiles files;
+    FakeClock clock;
+    const frm_Winsock::Services services{.client = {sockets, files, clock, pump, boxes},
+                                         .state = state,
+                                         .settings = settings,
+                                         .sounds = sounds,
+                                         .screen = screen,
+                                         .skin = [this](QWidget& window) { skin.Load_DL(window); }};
+    ASSERT_TRUE(skin.ApplySkin());
+    frm_Winsock before(services, nullptr);
+    before.loadSkin();
+    before.show();
+    const auto& cancel = child<ButtonEx>(before, "cmdCancel");
+    const QImage face = cancel.SkinUp().toImage();
+    const quint32 fore = cancel.ForeColor();
+    EXPECT_FALSE(before.mask().isEmpty());
+
+    skin.mnuSkin_Click(2);
+    EXPECT_EQ(storedSkin(u"Skin Path"_s), root.path(u"skin/paper"_s));
+    EXPECT_EQ(storedSkin(u"Skin Name"_s), u"(missing)"_s) << "the menu leaves it unwritten";
+    EXPECT_EQ(state.SkinName, u"paper"_s);
+    EXPECT_EQ(cancel.SkinUp().toImage(), face);
+    EXPECT_EQ(cancel.ForeColor(), fore);
+    frm_Winsock after(services, nullptr);
+    after.loadSkin();
+    EXPECT_NE(child<ButtonEx>(after, "cmdCancel").SkinUp().toImage(), face);
+    EXPECT_EQ(child<ButtonEx>(after, "cmdCancel").ForeColor(), page.Shape_Color[SkinPage::Fore]);
+}
+
+TEST_F(SkinTest, RefreshesItsMenuOnYes)
+{
+    ASSERT_TRUE(skin.ApplySkin());
+    root.makeFolder(u"skin/third"_s);
+    boxes.expect(u"Do you wish to Refresh the Skin Menu?"_s, BoxAnswer::No);
+    skin.mnuSkin_Refresh_Click();
+    EXPECT_EQ(page.availableSkins, u"2"_s);
+    boxes.expect(u"Do you wish to Refresh the Skin Menu?"_s, BoxAnswer::Yes);
+    skin.mnuSkin_Refresh_Click();
+    EXPECT_EQ(page.availableSkins, u"3"_s);
+    EXPECT_EQ(menu.findChild<QAction*>(u"mnuSkin(3)"_s)->text(), u"third"_s);
+}
+
+} // namespace varnhold::test
