@@ -20,33 +20,35 @@ MorphListEvents MorphListModel::press(int button, int shift, QPoint position, qi
     if (button == mousebutton::right)
         return {down}; // the selection stays
 
+    MorphListEvents events;
+    endCapture(events); // of another button
     m_pressedRow = -1;
     switch (m_zone) {
     case HitZone::Rows:
         m_pressedRow = MouseOverIndex(position.y());
         if (m_pressedRow >= 0) {
             m_capture = CaptureMode::SelectingRows;
-            const int current = m_selection.listIndex();
-            const int focus = m_selection.focusRow();
+            const MorphListShown before = shown();
             m_selection.press(m_pressedRow, shift);
-            selectionChanged(current, focus, multiSelect() == SelectMode::Extended);
+            selectionChanged(before);
         }
-        return {down};
+        break;
     case HitZone::UpperArrow:
         hold(CaptureMode::UpperArrow, now, down);
-        return {};
+        return events;
     case HitZone::LowerArrow:
         hold(CaptureMode::LowerArrow, now, down);
-        return {};
+        return events;
     case HitZone::Track:
         hold(metrics().aboveThumb(position) ? CaptureMode::PageUp : CaptureMode::PageDown, now, down);
-        return {};
+        return events;
     case HitZone::Thumb:
         m_capture = CaptureMode::Thumb;
         m_grip = position.y() - metrics().thumb().top();
-        return {down};
+        break;
     }
-    return {down};
+    events.append(down);
+    return events;
 }
 
 MorphListEvents MorphListModel::move(int button, int shift, QPoint position)
@@ -64,11 +66,7 @@ MorphListEvents MorphListModel::move(int button, int shift, QPoint position)
     if (m_capture == CaptureMode::Thumb) {
         scrolled(m_scroll.setFirst(metrics().firstRowFor(position.y() - m_grip)));
     } else if (m_capture == CaptureMode::SelectingRows && m_hoverRow >= 0 && !dragEnabled) {
-        const int current = m_selection.listIndex();
-        const int focus = m_selection.focusRow();
-        m_selection.drag(m_hoverRow);
-        selectionChanged(current, focus,
-                         multiSelect() == SelectMode::Extended && focus != m_selection.focusRow());
+        dragTo(m_hoverRow);
     } else if (m_repeat.held() && onHeldPart()) {
         m_repeat.resume();
     }
@@ -115,6 +113,11 @@ MorphListEvents MorphListModel::beat(qint64 now)
 {
     if (m_repeat.beat(now, onHeldPart()))
         stepHeld();
+    const int drag = dragScroll();
+    if (drag != 0 && count() > 0 && now - m_dragStep >= MorphListConstants::repeatInterval) {
+        m_dragStep = now;
+        dragTo(std::clamp(drag < 0 ? topIndex() - 1 : lastVisible() + 1, 0, count() - 1));
+    }
     MorphListEvents events;
     if (m_repeat.state() == MorphListRepeat::State::Resting && m_heldDown)
         events.append(*std::exchange(m_heldDown, std::nullopt));
@@ -156,9 +159,9 @@ MorphListEvents MorphListModel::keyDown(int keyCode, int shift)
         moveFocus(focus + 1, shift);
         break;
     case keycode::space: {
-        const int current = m_selection.listIndex();
+        const MorphListShown before = shown();
         m_selection.toggleFocusRow();
-        selectionChanged(current, focus, false);
+        selectionChanged(before);
         break;
     }
     default:
@@ -210,12 +213,9 @@ MorphListEvents MorphListModel::activate(int index)
 {
     if (!m_enabled || !contains(index))
         return {};
-    settle();
-    const int current = m_selection.listIndex();
-    const int focus = m_selection.focusRow();
+    const MorphListShown before = shown();
     m_selection.press(index, 0);
-    selectionChanged(current, focus, multiSelect() == SelectMode::Extended);
-    static_cast<void>(metrics());
+    selectionChanged(before);
     scrolled(m_scroll.showRow(index));
     return {{Kind::Click, 0, 0, {}}};
 }
@@ -283,14 +283,28 @@ bool MorphListModel::onHeldPart()
     return false;
 }
 
+int MorphListModel::dragScroll() const
+{
+    if (m_capture != CaptureMode::SelectingRows || dragEnabled || !m_selection.extendsByDrag())
+        return 0;
+    return m_position.y() < 0 ? -1 : int(m_position.y() >= m_measure.ScaleHeight);
+}
+
+void MorphListModel::dragTo(int row)
+{
+    const MorphListShown before = shown();
+    m_selection.drag(row);
+    selectionChanged(before);
+    scrolled(m_scroll.showRow(row));
+}
+
 void MorphListModel::moveFocus(int row, int shift)
 {
     if (count() == 0)
         return;
-    const int current = m_selection.listIndex();
-    const int focus = m_selection.focusRow();
+    const MorphListShown before = shown();
     m_selection.moveTo(std::clamp(row, 0, count() - 1), shift);
-    selectionChanged(current, focus, multiSelect() == SelectMode::Extended);
+    selectionChanged(before);
     scrolled(m_scroll.showRow(m_selection.focusRow()));
 }
 

@@ -1,12 +1,13 @@
 #include "controls/MorphListBox/MorphListModel.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace varnhold {
 
 void MorphListDirty::addRow(int row)
 {
-    if (all || rows.contains(row))
+    if (row < 0 || all || rows.contains(row))
         return;
     if (rows.size() == rows.capacity())
         all = true;
@@ -41,6 +42,7 @@ void MorphListModel::RemoveItem(int index)
     m_items.remove(index);
     m_selection.onRemoved(index);
     m_pressedRow = -1;
+    m_hoverRow = std::min(m_hoverRow, count() - 1);
     itemsChanged();
 }
 
@@ -168,12 +170,9 @@ void MorphListModel::setSelected(int index, bool selected)
 {
     if (!m_enabled || !contains(index))
         return;
-    settle();
-    const int current = m_selection.listIndex();
-    const int focus = m_selection.focusRow();
+    const MorphListShown before = shown();
     m_selection.setSelected(index, selected);
-    m_dirty.addRow(index);
-    selectionChanged(current, focus, false);
+    selectionChanged(before);
 }
 
 int MorphListModel::newIndex()
@@ -231,12 +230,9 @@ void MorphListModel::setListIndex(int index)
 {
     if (!m_enabled || index < -1 || index >= count())
         return;
-    settle();
-    const int current = m_selection.listIndex();
-    const int focus = m_selection.focusRow();
+    const MorphListShown before = shown();
     m_selection.setListIndex(index);
-    selectionChanged(current, focus, false);
-    static_cast<void>(metrics());
+    selectionChanged(before);
     scrolled(m_scroll.showRow(index));
 }
 
@@ -306,15 +302,28 @@ MorphListDirty MorphListModel::takeDirty()
     return std::exchange(m_dirty, {});
 }
 
-void MorphListModel::selectionChanged(int oldCurrent, int oldFocus, bool flags)
+MorphListShown MorphListModel::shown()
 {
-    if (flags) {
-        m_dirty.all = true;
-        return;
+    MorphListShown shown;
+    shown.focusRow = focusRow();
+    const int top = topIndex();
+    for (int row = top; row <= m_scroll.last(); ++row) {
+        shown.rows.at(size_t(row - top)) =
+            quint8(int(m_selection.selected(row)) | int(m_selection.showsSelected(row)) << 1);
     }
-    for (const int row : {oldCurrent, oldFocus, m_selection.listIndex(), m_selection.focusRow()}) {
-        if (row >= 0)
-            m_dirty.addRow(row);
+    return shown;
+}
+
+void MorphListModel::selectionChanged(const MorphListShown& before)
+{
+    const MorphListShown now = shown();
+    for (size_t i = 0; i < now.rows.size(); ++i) {
+        if (now.rows[i] != before.rows[i])
+            m_dirty.addRow(m_scroll.first() + int(i));
+    }
+    if (now.focusRow != before.focusRow) {
+        m_dirty.addRow(before.focusRow);
+        m_dirty.addRow(now.focusRow);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/MorphListBox/MorphListDesign.h"
 #include "controls/MorphListBox/MorphListItems.h"
 #include "controls/MorphListBox/MorphListMetrics.h"
 #include "controls/MorphListBox/MorphListRepeat.h"
@@ -8,6 +9,7 @@
 
 #include <QVarLengthArray>
 
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -56,6 +58,13 @@ struct MorphListDirty
     QVarLengthArray<int, 8> rows; ///< item indexes, few; more count as `all`
 
     void addRow(int row);
+};
+
+/// What of the selection shows, so that a change repaints the rows that it involves and no others.
+struct MorphListShown
+{
+    std::array<quint8, MorphListConstants::rowLimit> rows{}; ///< from the first visible one
+    int focusRow = -1;
 };
 
 /// Whole state and behaviour of a list, without a widget: items, selection, scrolling, mouse, keys, focus
@@ -135,7 +144,8 @@ public:
     {
         return (m_shift ? shiftstate::shift : 0) | (m_ctrl ? shiftstate::ctrl : 0);
     }
-    [[nodiscard]] bool repeating() const { return m_repeat.held(); }
+    /// beat() is wanted: a scroll part is held, or rows are dragged over past the upper or lower edge.
+    [[nodiscard]] bool repeating() const { return m_repeat.held() || dragScroll() != 0; }
 
     /// Lengths that the geometry depends on; the model fills in what it knows itself.
     void setMeasure(const MorphListMeasure& measure);
@@ -174,12 +184,15 @@ private:
         m_dirty.all = true;
         m_dirty.items = true;
     }
-    void selectionChanged(int oldCurrent, int oldFocus, bool flags);
+    [[nodiscard]] MorphListShown shown();
+    void selectionChanged(const MorphListShown& before);
     void addInPlace(QString&& text, std::optional<int> index);
     void scrolled(bool changed);
     void hold(CaptureMode mode, qint64 now, const MorphListEvent& down);
     void stepHeld();
     [[nodiscard]] bool onHeldPart();
+    [[nodiscard]] int dragScroll() const; ///< -1 up, 1 down, 0 not
+    void dragTo(int row);
     void moveFocus(int row, int shift);
     void endCapture(MorphListEvents& events);
 
@@ -204,6 +217,7 @@ private:
     int m_hoverRow = -1;
     int m_pressedRow = -1;
     int m_pressedButton = 0;
+    qint64 m_dragStep = 0;                    ///< when dragScroll() last moved the rows
     int m_grip = 0;                           ///< from the thumb's top to the press on it
     std::optional<MorphListEvent> m_heldDown; ///< MouseDown that waits for the end of the auto-repeat
 };

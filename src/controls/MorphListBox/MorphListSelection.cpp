@@ -87,7 +87,7 @@ void MorphListSelection::press(int row, int shiftState)
 
 void MorphListSelection::drag(int row)
 {
-    if (row == m_focus || m_checkList || m_mode == SelectMode::Simple)
+    if (row == m_focus || !extendsByDrag())
         return;
     m_listIndex = row;
     m_focus = row;

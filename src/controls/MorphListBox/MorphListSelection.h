@@ -39,6 +39,7 @@ public:
 
     void press(int row, int shiftState);
     void drag(int row); ///< the press goes on over another row
+    [[nodiscard]] bool extendsByDrag() const { return !m_checkList && m_mode != SelectMode::Simple; }
     /// A key moves the focus to that row.
     void moveTo(int row, int shiftState);
     void toggleFocusRow();

@@ -109,6 +109,55 @@ TEST_F(MorphListInput, ADragExtendsTheSelection)
     EXPECT_EQ(selection(), u"3,4"_s);
 }
 
+TEST_F(MorphListInput, ADragPastAnEdgeScrolls)
+{
+    m_list.setMultiSelect(SelectMode::Extended);
+    static_cast<void>(m_list.press(left, 0, row(18), 0));
+    static_cast<void>(m_list.move(left, 0, {20, 300}));
+    ASSERT_TRUE(m_list.repeating());
+    for (const qint64 time : {100, 125, 150})
+        EXPECT_TRUE(m_list.beat(time).isEmpty());
+    EXPECT_EQ(selection(), u"18,19,20,21"_s) << "a row each 50 ms";
+    EXPECT_EQ(m_list.topIndex(), 2);
+    for (qint64 time = 200; time < 3000; time += 50)
+        static_cast<void>(m_list.beat(time));
+    EXPECT_EQ(m_list.listIndex(), 39);
+    static_cast<void>(m_list.move(left, 0, {20, -1}));
+    static_cast<void>(m_list.beat(5000));
+    EXPECT_EQ(m_list.topIndex(), 19);
+    static_cast<void>(m_list.move(left, 0, row(3)));
+    EXPECT_FALSE(m_list.repeating()) << "back in the list";
+    static_cast<void>(m_list.move(left, 0, {20, 300}));
+    static_cast<void>(m_list.release(left, 0, {20, 300}, false));
+    EXPECT_FALSE(m_list.repeating());
+}
+
+TEST_F(MorphListInput, RepaintsTheRowsInvolvedOnly)
+{
+    const auto dirtyRows = [this] {
+        const MorphListDirty dirty = m_list.takeDirty();
+        QStringList rows;
+        for (const int row : dirty.rows)
+            rows.append(QString::number(row));
+        rows.sort();
+        return dirty.all ? u"all"_s : rows.join(u',');
+    };
+    m_list.setMultiSelect(SelectMode::Extended);
+    m_list.focusIn();
+    static_cast<void>(m_list.metrics());
+    static_cast<void>(dirtyRows());
+    click(row(3));
+    EXPECT_EQ(dirtyRows(), u"0,3"_s) << "row 0 had the focus rectangle";
+    click(row(5), shiftstate::shift);
+    EXPECT_EQ(dirtyRows(), u"3,4,5"_s);
+    click(row(7));
+    EXPECT_EQ(dirtyRows(), u"3,4,5,7"_s);
+    click(row(7));
+    EXPECT_EQ(dirtyRows(), QString());
+    key(keycode::end);
+    EXPECT_EQ(dirtyRows(), u"all"_s) << "scrolled";
+}
+
 TEST_F(MorphListInput, ClickNeedsALeftPressOnARowAndAReleaseInside)
 {
     EXPECT_EQ(kindsOf(m_list.press(left, 0, row(2), 0)), std::vector{Kind::MouseDown});
@@ -145,7 +194,11 @@ TEST_F(MorphListInput, AHeldArrowRestsOffThePartAndGoesOn)
     EXPECT_FALSE(m_list.repeating());
     EXPECT_EQ(m_list.capture(), CaptureMode::None);
 
-    static_cast<void>(m_list.press(left, 0, upperArrow, 2000));
+    static_cast<void>(m_list.press(mousebutton::middle, 0, lowerArrow, 1900));
+    EXPECT_EQ(kindsOf(m_list.press(left, 0, upperArrow, 2000)), std::vector{Kind::MouseDown})
+        << "a second button ends the first one's repeat";
+    EXPECT_EQ(m_list.topIndex(), 4);
+    static_cast<void>(m_list.beat(2400));
     EXPECT_EQ(m_list.topIndex(), 3);
     EXPECT_EQ(kindsOf(m_list.release(left, 0, upperArrow, true)),
               (std::vector{Kind::MouseUp, Kind::MouseDown}));
