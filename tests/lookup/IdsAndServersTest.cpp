@@ -1,6 +1,5 @@
 #include "lookup/GameIdFilter.h"
 #include "lookup/NavigationErrors.h"
-#include "lookup/RawView.h"
 #include "lookup/UpdateServers.h"
 #include "state/Hosts.h"
 #include "support/PrintText.h"
@@ -61,16 +60,6 @@ TEST(UpdateServers, MakeAddressesByTheTable)
         EXPECT_EQ(updateServer(value), nullptr);
         EXPECT_EQ(Document_Url(hosts, value, u"BLUS30443"_s), u""_s);
     }
-}
-
-TEST(RawView, TogglesBetweenItsTwoPlaces)
-{
-    RawView view;
-    EXPECT_EQ(view.left(), 8600);
-    EXPECT_EQ(view.toggle(8415), u"Raw XML"_s);
-    EXPECT_EQ(view.left(), 0);
-    EXPECT_EQ(view.toggle(8415), u"8415"_s);
-    EXPECT_FALSE(view.isShown());
 }
 
 } // namespace varnhold::test
