@@ -171,8 +171,8 @@ void benchCut(int packages, int pairs, double atMost)
         const std::string name = std::to_string(packages) + " packages, " + what;
         const auto cpu = [](const auto& work) { return [&] { return cpuSecondsOf(work); }; };
         const auto wall = [](const auto& work) { return [&] { return secondsOf(work); }; };
-        printPaired(name, comparePaired(pairs, cpu(ours), cpu(parse)), "ms CPU ", 1e3, limit);
-        printPaired(name, comparePaired(pairs, wall(ours), wall(parse)), "ms wall", 1e3, limit);
+        printPaired(name, comparePaired(pairs, cpu(ours), cpu(parse)), "CPU ms", 1e3, limit);
+        printPaired(name, comparePaired(pairs, wall(ours), wall(parse)), "wall ms", 1e3, limit);
     };
     compare("text to rows / parser with copies", cut, atMost);
     compare("bytes to tree text to rows / the same", treeAndCut, 0);
