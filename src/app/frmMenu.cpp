@@ -56,7 +56,7 @@ void frmMenu::popUp_mnuMenu(const QPoint& globalPosition)
 
 void frmMenu::popUp_mnuLView(const QPoint& globalPosition)
 {
-    popUp(*m_mnuLView, globalPosition);
+    m_mnuLView->popup(globalPosition); // the list sounds when the button is released
 }
 
 void frmMenu::popUp_mnuSkins(const QPoint& globalPosition)

@@ -23,7 +23,7 @@ public:
 
     /// Both play the menu sound first.
     void popUp_mnuMenu(const QPoint& globalPosition);
-    void popUp_mnuLView(const QPoint& globalPosition);
+    void popUp_mnuLView(const QPoint& globalPosition); ///< without a sound
 
     void popUp_mnuSkins(const QPoint& globalPosition); ///< without a sound
     /// The entries mnuSkin(1) and on.
