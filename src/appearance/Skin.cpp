@@ -6,6 +6,8 @@
 #include "appearance/SkinPictures.h"
 #include "appearance/SkinTexts.h"
 #include "appearance/TransForm.h"
+#include "controls/Contrast.h"
+#include "controls/DesignValues.h"
 #include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/FileDialogs.h"
@@ -41,6 +43,13 @@ constexpr ColorValue red = 0x0000FF;
 struct Ending
 {
 };
+
+void colorBar(XP_ProgressBar& bar, ColorValue color)
+{
+    constexpr ColorValue white = 0xFFFFFF;
+    bar.setColor(color);
+    bar.setScrolling(blackOrWhiteOn(color) == white ? design::barLookOnDark : design::barLookOnLight);
+}
 
 SkinColors skinColorsOf(const SkinIni& ini)
 {
@@ -238,7 +247,7 @@ void Skin::ApplySkinColors()
     for (const char* const name : {"frmMain", "frmSearch"}) {
         if (const QWidget* const window = host.window(name)) {
             for (XP_ProgressBar* const bar : window->findChildren<XP_ProgressBar*>())
-                bar->setColor(page.Shape_Color[SkinPage::Back]);
+                colorBar(*bar, page.Shape_Color[SkinPage::Back]);
         }
     }
     page.availableSkinsColor[1] = page.Shape_Color[SkinPage::Highlight];
@@ -301,7 +310,7 @@ void Skin::Load_DL(QWidget& window)
             silently([&] { applyTarget(target, *found, pictures); });
     }
     for (XP_ProgressBar* const bar : window.findChildren<XP_ProgressBar*>())
-        bar->setColor(colors[SkinPage::Back]);
+        colorBar(*bar, colors[SkinPage::Back]);
     assignSkinColorsInside(window, colors);
     shape(window);
 }

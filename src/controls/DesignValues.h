@@ -19,8 +19,11 @@ inline constexpr int picture = 8;
 inline constexpr int media = 9;
 } // namespace progresslook
 
-/// Which look each window's bar has. All take their colour from the skin, so it must be one whose bar stands
-/// out from its track in light and in dark colours: only the media look does.
+/// Looks whose bar stands out from its track and whose track suits the window, by the skin's back colour.
+inline constexpr int barLookOnDark = progresslook::office;
+inline constexpr int barLookOnLight = progresslook::media;
+
+/// Which look each window's bar has before a skin gives it its colour: the only one that can be told in any.
 inline constexpr int frmMain_ProgressBar1_Scrolling = progresslook::media;
 inline constexpr int frmSearch_PB_Scrolling = progresslook::media;
 inline constexpr int frm_Winsock_PB_Scrolling = progresslook::media;
