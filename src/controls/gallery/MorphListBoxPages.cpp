@@ -18,7 +18,7 @@ namespace {
 constexpr std::array<const char16_t*, 10> themeNames = {
     u"None", u"Cyan", u"Gunmetal", u"Blue", u"Red", u"Pinky", u"Green", u"Purple", u"Golden", u"Copper"};
 
-MorphListBox* filled(int theme, int count = 40, QSize size = {113, 150})
+MorphListBox* filled(int theme, int count = 40, QSize size = {113, 90})
 {
     auto* list = new MorphListBox;
     QFont font(u"Arial"_s);
@@ -106,29 +106,19 @@ QWidget* themes()
 QWidget* states()
 {
     auto* sheet = new GallerySheet(760);
-    sheet->heading(u"Scroll bar"_s);
-    sheet->add(filled(1, 6), u"none: all rows fit"_s);
-    sheet->add(pressedAt(filled(1), {108, 145}), u"arrow held"_s);
-    sheet->add(pressedAt(filled(1), {108, 120}), u"track held"_s);
-    sheet->add(filled(1, 100'000), u"100,000 rows"_s);
     sheet->heading(u"Rows"_s);
     MorphListBox* many = filled(3);
     many->setMultiSelect(2);
     for (const int row : {1, 2, 5})
         many->setSelected(row, true);
     sheet->add(many, u"multiple selection"_s);
+    sheet->add(filled(1, 6), u"all rows fit"_s);
     sheet->add(withImages(filled(9), 0), u"images"_s);
-    sheet->add(withImages(filled(9), 24), u"images of 24"_s);
     for (const int style : {0, 1, 2})
         sheet->add(checks(style), u"CheckStyle %1"_s.arg(style));
     MorphListBox* mirrored = withImages(filled(6), 0);
     mirrored->setRightToLeft(true);
     sheet->add(mirrored, u"RightToLeft"_s);
-    MorphListBox* texts = filled(8);
-    texts->setList(0, QString(10000, u'W'));
-    texts->setList(1, u"\u0633\u0644\u0627\u0645 \u05d0\u05d1\u05d2"_s);
-    texts->setList(3, u"Gr\u00fc\u00dfe \u65e5\u672c"_s);
-    sheet->add(texts, u"long and foreign texts"_s);
     sheet->heading(u"Background and border"_s);
     for (int mode = 0; mode < 3; ++mode) {
         MorphListBox* list = filled(8);
@@ -144,6 +134,24 @@ QWidget* states()
     MorphListBox* circular = filled(7);
     circular->setCircularGradient(true);
     sheet->add(circular, u"CircularGradient"_s);
+    return sheet->finish();
+}
+
+QWidget* details()
+{
+    auto* sheet = new GallerySheet(760);
+    sheet->heading(u"Scroll bar"_s);
+    sheet->add(pressedAt(filled(1), {108, 85}), u"arrow held"_s);
+    sheet->add(pressedAt(filled(1), {108, 65}), u"track held"_s);
+    sheet->add(filled(1, 100'000), u"100,000 rows"_s);
+    sheet->heading(u"Rows"_s);
+    sheet->add(withImages(filled(9), 24), u"images of 24"_s);
+    MorphListBox* texts = filled(8);
+    texts->setList(0, QString(10000, u'W'));
+    texts->setList(1, u"\u0633\u0644\u0627\u0645 \u05d0\u05d1\u05d2"_s);
+    texts->setList(3, u"Gr\u00fc\u00dfe \u65e5\u672c"_s);
+    sheet->add(texts, u"long and foreign texts"_s);
+    sheet->heading(u"Background"_s);
     for (int angle = 0; angle < 360; angle += 45) {
         MorphListBox* list = filled(5, 0, {113, 80});
         list->setBackMiddleOut(false);
@@ -160,6 +168,7 @@ GalleryPages morphListBoxPages()
     return {
         {u"morphlistbox-themes"_s, u"MorphListBox: themes"_s, themes},
         {u"morphlistbox-states"_s, u"MorphListBox: states"_s, states},
+        {u"morphlistbox-details"_s, u"MorphListBox: details"_s, details, false},
     };
 }
 
