@@ -179,6 +179,8 @@ void frmMain::buildMainColumn()
     m_barMain->setObjectName("barMain"_L1);
     m_barMain->setCursor(Qt::SplitVCursor);
     m_barMain->installEventFilter(this);
+    for (QFrame* const framed : std::initializer_list<QFrame*>{m_updates, m_notes})
+        framed->setFrameShape(QFrame::NoFrame); // the window's picture draws the well
     m_imgPreview = new QLabel(m_picMain);
     m_imgPreview->setObjectName("imgPreview"_L1);
     m_imgPreview->setAccessibleName(tr("Large cover"));
@@ -187,6 +189,7 @@ void frmMain::buildMainColumn()
     m_browser = new QPlainTextEdit(m_picMain);
     m_browser->setObjectName("WebBrowser1"_L1);
     m_browser->setAccessibleName(tr("Raw document"));
+    m_browser->setFrameShape(QFrame::NoFrame);
     m_browser->setReadOnly(true);
     m_browser->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_browser->setTabChangesFocus(true);

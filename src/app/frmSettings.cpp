@@ -82,6 +82,7 @@ void frmSettings::buildFrame()
     m_list = new QListWidget(this);
     m_list->setObjectName("List1"_L1);
     m_list->setAccessibleName(tr("Pages"));
+    m_list->setFrameShape(QFrame::NoFrame); // the window's picture draws the well
     m_list->setGeometry(listPlace);
     m_list->setMouseTracking(true);
     connect(m_list, &QListWidget::itemEntered, this,

@@ -65,7 +65,7 @@ void frmSettings::buildSkin()
         QString text;
     } cells[] = {{"lbl_ForeColor", tr("Text colour")},
                  {"lbl_HighLightColor", tr("Highlight colour")},
-                 {"lbl_BackColor", tr("Ground of fields and bars")}};
+                 {"lbl_BackColor", tr("Background colour")}};
     for (int i = 0; i < 3; ++i) {
         const int top = 40 + 24 * i;
         addLabel(page, {}, cells[i].text, {column, top, 130, rowHeight});

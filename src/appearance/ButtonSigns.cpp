@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int signSide = 12;
+
 enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear };
 
 Sign signOf(const ButtonEx& button)
@@ -96,7 +98,7 @@ void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& col
 
 QPixmap draw(Sign sign, ColorValue color)
 {
-    constexpr QSize size(12, 12);
+    const QSize size(signSide, signSide);
     QPixmap picture(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -111,6 +113,8 @@ void drawButtonSign(ButtonEx& button)
     const Sign sign = signOf(button);
     if (sign == Sign::None)
         return;
+    // A glyph stands as far from the left as from the top; on a wide face that is not the middle.
+    button.setPictureOffsetX((button.width() - button.height()) / 2);
     button.setPicture(draw(sign, button.ForeColor()));
     button.setPictureOver(draw(sign, button.HighlightColor()));
 }
