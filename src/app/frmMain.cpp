@@ -152,7 +152,8 @@ void frmMain::buildLeftColumn()
     m_games = new MorphListBox(m_picLeft);
     m_games->setObjectName("MorphListBox1"_L1);
     m_games->setAccessibleName(tr("Games"));
-    m_games->setSorted(false); // List1 runs beside it, row by row
+    m_games->setBorderWidth(0); // the window draws the well
+    m_games->setSorted(false);  // List1 runs beside it, row by row
     m_picPreview = new QLabel(m_picLeft);
     m_picPreview->setObjectName("PicPreview"_L1);
     m_picPreview->setAccessibleName(tr("Cover"));
