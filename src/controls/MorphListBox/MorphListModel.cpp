@@ -170,6 +170,12 @@ void MorphListModel::setSelected(int index, bool selected)
 {
     if (!m_enabled || !contains(index))
         return;
+    settle();
+    if (checkList() || multiSelect() != SelectMode::Single) { // often called for each of many rows
+        m_selection.setSelected(index, selected);
+        m_dirty.addRow(index);
+        return;
+    }
     const MorphListShown before = shown();
     m_selection.setSelected(index, selected);
     selectionChanged(before);
