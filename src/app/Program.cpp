@@ -97,7 +97,15 @@ Program::~Program() = default;
 
 bool Program::start()
 {
-    return m_startUp.run() == StartUp::Outcome::Running;
+    if (m_startUp.run() != StartUp::Outcome::Running)
+        return false;
+    // Without a skin the load has opened the settings, which ask for one: the main window must not cover
+    // them.
+    if (m_settingsWindow.isVisible()) {
+        m_settingsWindow.raise();
+        m_settingsWindow.activateWindow();
+    }
+    return true;
 }
 
 void Program::comeToFront()
@@ -147,6 +155,8 @@ void Program::connectMenus()
 
 void Program::connectSkin()
 {
+    drawButtonSigns(m_main); // buttons without faces bear them too
+    drawButtonSigns(m_settingsWindow);
     m_main.setLayoutPictures([this](int layout) { return m_skin.loadLayout(layout); });
     m_main.setBlankPicture([this] { return m_menu.imgBlank().pixmap(); });
     connect(&m_main, &frmMain::layoutChanged, this, [this] {
