@@ -2,6 +2,7 @@
 
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/DesignValues.h"
+#include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
@@ -35,12 +36,11 @@ int rowTop(int row)
 }
 
 /// Image1: a parcel on its way down.
-QPixmap decoration()
+QPixmap decoration(const QColor& ink)
 {
     QPixmap picture(14, 14);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    const QColor ink(0x3fd4e8);
     painter.fillRect(6, 1, 2, 6, ink);
     for (int i = 0; i < 4; ++i)
         painter.fillRect(3 + i, 5 + i, 8 - 2 * i, 1, ink);
@@ -134,8 +134,8 @@ void frm_Winsock::build()
 
     auto* image = new QLabel(this);
     image->setObjectName("Image1"_L1);
-    image->setPixmap(decoration());
     image->setGeometry(margin, 145, 14, 14);
+    m_image = image;
     auto* maker = addLabel("Label2", {margin + 20, 144, 100, 16});
     maker->setText(u"Brackwater"_s);
 
@@ -165,6 +165,7 @@ void frm_Winsock::place(double leftTwips, double topTwips)
 void frm_Winsock::loadSkin()
 {
     m_services.skin(*this);
+    m_image->setPixmap(decoration(toQColor(m_cancel->HighlightColor())));
     // Last, so that the window appears in its opacity at once.
     SetOpacity(m_services.settings.opacity(OpacityOf::Download), *this);
 }

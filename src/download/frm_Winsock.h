@@ -103,6 +103,7 @@ private:
     ElidedLabel* m_lblSpeed = nullptr;
     ElidedLabel* m_lblDone = nullptr;
     ElidedLabel* m_lblCaption = nullptr;
+    QLabel* m_image = nullptr;
     XP_ProgressBar* m_bar = nullptr;
     ButtonEx* m_cancel = nullptr;
 };
