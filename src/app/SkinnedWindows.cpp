@@ -68,6 +68,9 @@ void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
 
 void SkinnedWindows::askForSkinFolder()
 {
+    // Window managers keep a dialog above its owner, but not a plain window.
+    if (!m_settings.isVisible())
+        m_settings.setWindowFlag(Qt::Dialog);
     m_settings.winId(); // an owner needs a handle
     m_main.winId();
     m_settings.windowHandle()->setTransientParent(m_main.windowHandle());
