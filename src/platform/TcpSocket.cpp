@@ -21,7 +21,7 @@ namespace varnhold {
 namespace {
 
 // Half of what the kernel's pipe holds: pages that are not full still fit at once.
-constexpr qint64 chunkLimit = 512 * 1024;
+constexpr qint64 chunkLimit = 1024 * 1024;
 
 int errorNumber(int cause)
 {
