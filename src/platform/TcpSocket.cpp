@@ -20,8 +20,8 @@ namespace varnhold {
 
 namespace {
 
-// Half of what the kernel's pipe holds: pages that are not full still fit at once.
-constexpr qint64 chunkLimit = 1024 * 1024;
+// What an ordinary pipe of the kernel holds. Larger turns would starve timers and other connections.
+constexpr qint64 chunkLimit = qint64{1} << 20;
 
 int errorNumber(int cause)
 {
