@@ -117,6 +117,33 @@ TEST_F(DownloadClientTest, takesHeaderAndContentApartAtEveryCut)
     }
 }
 
+TEST_F(DownloadClientTest, actsOnNoHeaderThatIsCut)
+{
+    const QByteArray headers[] = {
+        "HTTP/1.0 302 Found\r\nLocation: http://other.test/b.pkg\r\n\r\n",
+        "HTTP/1.0 302 Found\r\nLocation: \r\n\r\n",
+        "HTTP/1.0 404 Not Found\r\n\r\n",
+        "HTTP/1.0 200 OK\r\nContent-Length: 2147483648\r\n\r\n",
+        "HTTP/1.0\r\n\r\n",
+        "HTTP\n\nno line ends of the protocol's",
+    };
+    for (const QByteArray& header : headers) {
+        for (qsizetype cut = 1; cut < header.size(); ++cut) {
+            SCOPED_TRACE(testing::Message() << header.toStdString() << " cut at " << cut);
+            reset();
+            connectUp();
+            socket().arrive(header.first(cut));
+            socket().arrive(header.sliced(cut));
+            // No box, no redirect, no stranding: what does not begin with the four letters is content.
+            EXPECT_EQ(socket().connects.size(), 1);
+            EXPECT_EQ(client->fileSize(), 0);
+            EXPECT_EQ(files.contents.value(tempPath), cut < 4 ? header : header.sliced(cut));
+            socket().peerCloses();
+            EXPECT_EQ(unloads, 1);
+        }
+    }
+}
+
 TEST_F(DownloadClientTest, actsOnTheStatusWord)
 {
     enum class Then { Goes, Stranded, StrandedFileClosed };
