@@ -1,14 +1,8 @@
-#include "app/Program.h"
+#include "app/DesktopWorld.h"
 #include "appearance/ToolkitLook.h"
-#include "platform/QtFileDialogs.h"
-#include "platform/QtMessageBoxes.h"
-#include "platform/QtScreen.h"
-#include "platform/QtShell.h"
 #include "platform/RunTimeError.h"
 #include "platform/SampleServiceProcess.h"
-#include "platform/SdlSoundPlayer.h"
 #include "platform/SingleInstance.h"
-#include "platform/TcpSocket.h"
 #include "state/SampleHosts.h"
 
 #include <QApplication>
@@ -52,24 +46,12 @@ int run(QApplication& application, const QString& root)
     const QString folder = QCoreApplication::applicationDirPath();
     const Paths paths = findPaths(root, folder, folder + u"/../share/varnhold"_s);
     setUpToolkitLook(application);
-    QtMessageBoxes boxes;
-    QtFileDialogs dialogs;
-    QtShell shell;
-    SdlSoundPlayer player;
-    TcpSocketMaker sockets;
-    const QtScreen screen;
+    DesktopWorld desktop;
     SampleServiceProcess sampleService;
     SingleInstance instance(paths.root);
-    Program program(paths, {.boxes = boxes,
-                            .dialogs = dialogs,
-                            .shell = shell,
-                            .player = player,
-                            .sockets = sockets,
-                            .screen = screen,
-                            .isFirst = [&] { return instance.isFirst(); },
-                            .activatePrevious = [&] { return instance.askFirst(); },
-                            .findHosts = [&] { return hostsInUse(paths.hostsIni(), sampleService); },
-                            .endProcess = [] { std::_Exit(0); }});
+    Program program(paths,
+                    desktop.world({[&] { return instance.isFirst(); }, [&] { return instance.askFirst(); }},
+                                  [&] { return hostsInUse(paths.hostsIni(), sampleService); }));
     QObject::connect(&instance, &SingleInstance::activationRequested, &program, &Program::comeToFront);
     if (!program.start())
         return 0;

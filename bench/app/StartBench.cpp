@@ -1,14 +1,8 @@
 // The program's start against a bare window of the same toolkit, in pairs of processes: from the process's
 // start to the first paint of the splash, and to the idle main window. start_bench [PAIRS].
 
-#include "app/Program.h"
+#include "app/DesktopWorld.h"
 #include "appearance/ToolkitLook.h"
-#include "platform/QtFileDialogs.h"
-#include "platform/QtMessageBoxes.h"
-#include "platform/QtScreen.h"
-#include "platform/QtShell.h"
-#include "platform/SdlSoundPlayer.h"
-#include "platform/TcpSocket.h"
 #include "support/ChildRun.h"
 #include "support/PairedRuns.h"
 
@@ -46,24 +40,10 @@ int runOurs(QApplication& application, const QString& until, const QString& root
 {
     const Paths paths{root};
     setUpToolkitLook(application);
-    QtMessageBoxes boxes;
-    QtFileDialogs dialogs;
-    QtShell shell;
-    SdlSoundPlayer player;
-    TcpSocketMaker sockets;
-    const QtScreen screen;
+    DesktopWorld desktop;
     EndAtPaint end(until);
     application.installEventFilter(&end);
-    Program program(paths, {.boxes = boxes,
-                            .dialogs = dialogs,
-                            .shell = shell,
-                            .player = player,
-                            .sockets = sockets,
-                            .screen = screen,
-                            .isFirst = [] { return true; },
-                            .activatePrevious = [] { return false; },
-                            .findHosts = [] { return Hosts(); },
-                            .endProcess = [] { std::_Exit(1); }});
+    Program program(paths, desktop.lonelyWorld());
     return program.start() ? QApplication::exec() : 1;
 }
 

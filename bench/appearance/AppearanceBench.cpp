@@ -1,15 +1,9 @@
 // Shaping a window of 1920 x 1080 with a ragged cut-out, against subtracting run by run and against the bare
 // scan; and applying a skin to all windows until they are painted.
 
-#include "app/Program.h"
+#include "app/DesktopWorld.h"
 #include "appearance/ToolkitLook.h"
 #include "appearance/TransForm.h"
-#include "platform/QtFileDialogs.h"
-#include "platform/QtMessageBoxes.h"
-#include "platform/QtScreen.h"
-#include "platform/QtShell.h"
-#include "platform/SdlSoundPlayer.h"
-#include "platform/TcpSocket.h"
 
 #include <benchmark/benchmark.h>
 
@@ -103,22 +97,8 @@ void applySkin(benchmark::State& state)
     const QTemporaryDir root;
     std::filesystem::copy(VARNHOLD_SHARE, root.path().toStdString(),
                           std::filesystem::copy_options::recursive);
-    QtMessageBoxes boxes;
-    QtFileDialogs dialogs;
-    QtShell shell;
-    SdlSoundPlayer player;
-    TcpSocketMaker sockets;
-    const QtScreen screen;
-    Program program({root.path()}, {.boxes = boxes,
-                                    .dialogs = dialogs,
-                                    .shell = shell,
-                                    .player = player,
-                                    .sockets = sockets,
-                                    .screen = screen,
-                                    .isFirst = [] { return true; },
-                                    .activatePrevious = [] { return false; },
-                                    .findHosts = [] { return Hosts(); },
-                                    .endProcess = [] { std::_Exit(1); }});
+    DesktopWorld desktop;
+    Program program({root.path()}, desktop.lonelyWorld());
     program.start();
     program.settingsWindow().open({100, 100});
     QCoreApplication::processEvents();

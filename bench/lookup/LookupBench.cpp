@@ -3,7 +3,7 @@
 
 #include "host/SampleService.h"
 #include "lookup/Lookup.h"
-#include "lookup/LookupView.h"
+#include "lookup/UnseenLookupView.h"
 #include "lookup/UpdateList.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"
@@ -54,29 +54,6 @@ QByteArray documentOf(int packages)
     return document + "<paramsfo><TITLE>Made Up: Update</TITLE></paramsfo></tag></titlepatch>\n";
 }
 
-class QuietView : public LookupView
-{
-public:
-    [[nodiscard]] QString gameIdText() const override { return gameId; }
-    void setGameIdText(const QString&) override {}
-    [[nodiscard]] QString info() const override { return m_info; }
-    void setInfo(const QString& text) override { m_info = text; }
-    void setBlank(const QString&) override {}
-    void setStatus(const QString&) override {}
-    void hideProgress() override {}
-    void showProgress() override {}
-    void setProgressValue(int) override {}
-    void showListViews() override {}
-    void autosizeColumns() override {}
-    [[nodiscard]] int selectedGameRow() const override { return -1; }
-    [[nodiscard]] QString selectedGameText() const override { return {}; }
-    QString selectTitleRow(int) override { return {}; }
-    void setTitleRow(int, const QString&) override {}
-
-private:
-    QString m_info;
-};
-
 class NoBoxes : public MessageBoxes
 {
 public:
@@ -111,7 +88,7 @@ struct World
     SettingsFile file{paths, state};
     Settings settings{file};
     UpdateList list;
-    QuietView view;
+    UnseenLookupView view{gameId};
     NoBoxes boxes;
     NoSound player;
     Sounds sounds{settings, player, state};

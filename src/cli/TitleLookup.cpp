@@ -2,8 +2,8 @@
 
 #include "cli/Session.h"
 #include "lookup/Lookup.h"
-#include "lookup/LookupView.h"
 #include "lookup/NavigationErrors.h"
+#include "lookup/UnseenLookupView.h"
 #include "lookup/UpdateList.h"
 #include "platform/MessagePump.h"
 #include "platform/NetworkBrowser.h"
@@ -19,33 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int notFound = 404;
-
-/// A lookup's view without a window: it names the id and takes the title.
-class PlainView : public LookupView
-{
-public:
-    explicit PlainView(QString gameId) : m_gameId(std::move(gameId)) {}
-
-    [[nodiscard]] QString gameIdText() const override { return m_gameId; }
-    void setGameIdText(const QString& text) override { m_gameId = text; }
-    [[nodiscard]] QString info() const override { return m_info; }
-    void setInfo(const QString& text) override { m_info = text; }
-    void setBlank(const QString&) override {}
-    void setStatus(const QString&) override {}
-    void hideProgress() override {}
-    void showProgress() override {}
-    void setProgressValue(int) override {}
-    void showListViews() override {}
-    void autosizeColumns() override {}
-    [[nodiscard]] int selectedGameRow() const override { return -1; }
-    [[nodiscard]] QString selectedGameText() const override { return {}; }
-    QString selectTitleRow(int) override { return {}; }
-    void setTitleRow(int, const QString&) override {}
-
-private:
-    QString m_gameId;
-    QString m_info;
-};
 
 class NoSound : public SoundPlayer
 {
@@ -106,7 +79,7 @@ TitleUpdates lookUp(Session& session, const QString& gameId)
     TerminalAlert alert(session.terminal());
     NetworkBrowser browser(alert, [&](const QString& asked) { return tlsOf(session.hosts(), asked); });
     UpdateList list;
-    PlainView view(gameId);
+    UnseenLookupView view(gameId);
     NoSound player;
     Sounds sounds(session.settings(), player, session.state());
     EventLoopPump pump;

@@ -1,8 +1,7 @@
 #include "controls/XP_ProgressBar/ProgressBarAccessible.h"
 
+#include "controls/ValueAccessible.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
-
-#include <QAccessibleWidget>
 
 namespace varnhold {
 
@@ -10,17 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ProgressBarAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+class ProgressBarAccessible : public ValueAccessible
 {
 public:
-    explicit ProgressBarAccessible(XP_ProgressBar* bar) : QAccessibleWidget(bar, QAccessible::ProgressBar) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
+    explicit ProgressBarAccessible(XP_ProgressBar* bar) : ValueAccessible(bar, QAccessible::ProgressBar) {}
 
     [[nodiscard]] QString text(QAccessible::Text part) const override
     {
@@ -41,26 +33,16 @@ public:
     void setCurrentValue(const QVariant& /*value*/) override {}
     [[nodiscard]] QVariant minimumValue() const override { return 0; }
     [[nodiscard]] QVariant maximumValue() const override { return 100; }
-    [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
 
 private:
     [[nodiscard]] const XP_ProgressBar& bar() const { return *static_cast<XP_ProgressBar*>(widget()); }
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
-{
-    auto* bar = qobject_cast<XP_ProgressBar*>(object);
-    return bar == nullptr ? nullptr : new ProgressBarAccessible(bar);
-}
-
 } // namespace
 
 void installProgressBarAccessible()
 {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
+    installAccessible<XP_ProgressBar, ProgressBarAccessible>();
 }
 
 } // namespace varnhold

@@ -1,24 +1,16 @@
 #include "controls/ucSlider/SliderAccessible.h"
 
+#include "controls/ValueAccessible.h"
 #include "controls/ucSlider/ucSlider.h"
-
-#include <QAccessibleWidget>
 
 namespace varnhold {
 
 namespace {
 
-class SliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface
+class SliderAccessible : public ValueAccessible
 {
 public:
-    explicit SliderAccessible(ucSlider* slider) : QAccessibleWidget(slider, QAccessible::Slider) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
+    explicit SliderAccessible(ucSlider* slider) : ValueAccessible(slider, QAccessible::Slider) {}
 
     [[nodiscard]] QString text(QAccessible::Text part) const override
     {
@@ -52,26 +44,16 @@ public:
     }
     [[nodiscard]] QVariant minimumValue() const override { return slider().min(); }
     [[nodiscard]] QVariant maximumValue() const override { return slider().max(); }
-    [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
 
 private:
     [[nodiscard]] ucSlider& slider() const { return *static_cast<ucSlider*>(widget()); }
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
-{
-    auto* slider = qobject_cast<ucSlider*>(object);
-    return slider == nullptr ? nullptr : new SliderAccessible(slider);
-}
-
 } // namespace
 
 void installSliderAccessible()
 {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
+    installAccessible<ucSlider, SliderAccessible>();
 }
 
 } // namespace varnhold
