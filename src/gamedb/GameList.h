@@ -32,8 +32,8 @@ public:
     /// Appends to what the lists hold: emptying them is the caller's. Failures are reported; the connection
     /// then stays open, which is meant.
     void reloadGameList();
-    /// reloadGameList with the older tables' renames before it and the thanks after it, as the choice of
-    /// another database does.
+    /// What follows the choice of another database: empties what shows the old one, then reloadGameList with
+    /// the older tables' renames before it and the thanks after it.
     void loadChosenDatabase();
     void Load_LBIcons();
     void clearPreview();
@@ -44,8 +44,11 @@ public:
 
 private:
     void renameOldTables();
+    void reload();
     void walk(bool withProgress);
     void showIcons(bool selectFirst);
+    void showCount();
+    void thank();
     void tellStartFailure(const RunTimeError& error);
 
     Services m_services;

@@ -49,6 +49,11 @@ void Lookup::setEntryLoader(EntryLoader loader)
     m_loadEntry = std::move(loader);
 }
 
+void Lookup::setLinkSaver(LinkSaver saver)
+{
+    m_document.setLinkSaver(std::move(saver));
+}
+
 void Lookup::btnFetch_Click()
 {
     LookupView& view = m_services.view;

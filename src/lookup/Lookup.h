@@ -51,6 +51,7 @@ public:
     void dropText(const QString& text, const DropTarget& target);
 
     void setEntryLoader(EntryLoader loader);
+    void setLinkSaver(LinkSaver saver);
 
     /// ListRow: game list row of the last lookup from the list.
     [[nodiscard]] int listRow() const { return m_listRow; }

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace varnhold {
@@ -129,6 +130,11 @@ UpdateDocument::UpdateDocument(ApplicationState& state, const Settings& settings
 {
 }
 
+void UpdateDocument::setLinkSaver(LinkSaver saver)
+{
+    m_saveLinks = std::move(saver);
+}
+
 void UpdateDocument::Fill_Updates(int listRow)
 {
     reporting(m_boxes, DescriptionLabel::WithBlank, [&] {
@@ -182,6 +188,8 @@ void UpdateDocument::finish()
 {
     m_view.autosizeColumns();
     Mark_Rows(m_list, m_settings, m_state, m_view.gameIdText(), m_view.info());
+    if (m_saveLinks && m_settings.isChecked(Check::DBLinks))
+        m_saveLinks();
 }
 
 } // namespace varnhold

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <functional>
+
 namespace varnhold {
 
 class MessageBoxes;
@@ -10,6 +12,9 @@ class Settings;
 class LookupView;
 class UpdateList;
 struct ApplicationState;
+
+/// Remembers the rows of the update list in the database; it reports its own failures.
+using LinkSaver = std::function<void()>;
 
 /// Text of `piece` up to its first double quote; the whole piece when it has none.
 QStringView Attribute_Value(QStringView piece);
@@ -27,6 +32,9 @@ public:
     /// The title half alone.
     void Find_Title(int listRow);
 
+    /// Runs at the end of each parse while "DB Links" is on.
+    void setLinkSaver(LinkSaver saver);
+
     /// Title: the cleaned title of the last parse that found one.
     [[nodiscard]] const QString& title() const { return m_title; }
 
@@ -40,6 +48,7 @@ private:
     UpdateList& m_list;
     LookupView& m_view;
     MessageBoxes& m_boxes;
+    LinkSaver m_saveLinks;
     QString m_title;
 };
 

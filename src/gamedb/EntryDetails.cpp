@@ -1,0 +1,60 @@
+#include "gamedb/EntryDetails.h"
+
+#include "gamedb/EntryView.h"
+#include "gamedb/SharedDatabase.h"
+#include "gamedb/Statements.h"
+#include "platform/Files.h"
+#include "state/Settings.h"
+
+#include <QScopeGuard>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The stored picture whole; empty when there is none.
+QByteArray storedPicture(Recordset& records)
+{
+    const QString column = u"GameImage"_s;
+    const qint64 size = records.ActualSize(column);
+    return size >= 1 ? records.GetChunk(column, size) : QByteArray();
+}
+
+void showCover(const Settings& settings, const QString& gameId, EntryView& view)
+{
+    const QString& folder = settings.covers().tag;
+    const QString file = folder + u'/' + gameId + u".jpg"_s;
+    if (!folder.isEmpty() && FileExists(file))
+        view.showCoverFile(file);
+    else
+        view.showBlankPicture();
+}
+
+} // namespace
+
+void loadGameDetails(SharedDatabase& database, const Settings& settings, EntryView& view)
+{
+    if (view.gameCount() == 0)
+        return;
+    database.reporting([&] {
+        view.showBusy(true);
+        const auto busy = qScopeGuard([&view] { view.showBusy(false); }); // also before a report shows
+        database.DBKey = view.gameIdText();
+        database.connect();
+        database.select(statements::entry(settings.orderText(Order::DBTable), database.DBKey));
+        // A game that the table does not know shows no notes of another one.
+        Recordset& records = *database.DBRecords;
+        const bool found = !records.atEnd();
+        view.showNotes(found ? records.value(u"GameNotes"_s) : QString());
+        if (const QByteArray picture = found ? storedPicture(records) : QByteArray(); !picture.isEmpty())
+            view.showStoredPicture(picture);
+        else
+            showCover(settings, database.DBKey, view);
+        database.close();
+        view.Make_Links();
+    });
+}
+
+} // namespace varnhold
