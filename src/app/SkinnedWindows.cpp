@@ -7,9 +7,6 @@
 #include "appearance/ButtonSigns.h"
 #include "appearance/ToolkitLook.h"
 #include "controls/CTooltip/CTooltip.h"
-#include "platform/CaptionDrag.h"
-
-#include <QWindow>
 
 namespace varnhold {
 
@@ -68,13 +65,7 @@ void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
 
 void SkinnedWindows::askForSkinFolder()
 {
-    // Window managers keep a dialog above its owner, but not a plain window.
-    if (!m_settings.isVisible())
-        m_settings.setWindowFlag(Qt::Dialog);
-    m_settings.winId(); // an owner needs a handle
-    m_main.winId();
-    m_settings.windowHandle()->setTransientParent(m_main.windowHandle());
-    m_settings.openSkinPage(m_main.pos());
+    m_settings.askForSkin(m_main);
 }
 
 } // namespace varnhold

@@ -16,6 +16,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QWindow>
 
 #include <utility>
 
@@ -37,6 +39,7 @@ frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_se
     setWindowTitle(u"Settings: "_s);
     setFixedSize(windowSize);
     buildFrame();
+    buildDatabase();
     buildDownload();
     buildOptions();
     buildSkin();
@@ -132,6 +135,28 @@ void frmSettings::open(const QPoint& place)
     }
     raise();
     activateWindow();
+}
+
+void frmSettings::showPageOver(QWidget& owner, const char* name)
+{
+    // Window managers keep a dialog above its owner, but not a plain window.
+    if (!isVisible())
+        setWindowFlag(Qt::Dialog);
+    winId(); // an owner needs a handle
+    owner.winId();
+    windowHandle()->setTransientParent(owner.windowHandle());
+    if (CaptionDrag::placesWindows())
+        move(owner.pos());
+    refresh();
+    show();
+    raise();
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        if (m_pages[i].frame->objectName() == QLatin1StringView(name)) {
+            const QSignalBlocker silence(*m_list);
+            m_list->setCurrentRow(static_cast<int>(i));
+            showPage(static_cast<int>(i));
+        }
+    }
 }
 
 void frmSettings::refresh()

@@ -3,6 +3,7 @@
 #include "platform/ShapedWindow.h"
 #include "state/SettingsValues.h"
 
+#include <QRect>
 #include <QTimer>
 
 #include <functional>
@@ -49,8 +50,15 @@ public:
 
     /// Shows it at this place in pixels; a window that is open only comes to the front.
     void open(const QPoint& place);
-    /// The same on the skin page, with the focus on btn_Skin_Path; one that is open moves too.
-    void openSkinPage(const QPoint& place);
+    /// At the owner's corner and above it from now on; one that is open moves there too. On the skin page,
+    /// with the focus on btn_Skin_Path.
+    void askForSkin(QWidget& owner);
+    /// The same on the Database page: `text` in Label9(1), the focus on txt_IDList.
+    void askForDatabase(QWidget& owner, const QString& text);
+    /// The same with `caption` in lbl_Caption, until another page is opened.
+    void askForTables(QWidget& owner, const QString& caption);
+    /// `text` in Label9(1), in the highlight colour.
+    void thankForDatabase(const QString& text);
     /// Fills all controls from the settings; nothing is written.
     void refresh();
 
@@ -58,6 +66,7 @@ Q_SIGNALS:
     /// The mouse let go of an Auto box; raised before the box's setting changes.
     void autoSslReleased();
     void skinMenuWanted(const QPoint& globalPosition); ///< btn_Skin_Path
+    void btnOpen_Click();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -71,8 +80,23 @@ private:
         QFrame* frame;
     };
 
+    /// A bar from 1 to `most` with the text of its value.
+    struct Scroll
+    {
+        QString name;
+        QString labelName;
+        QString accessibleName;
+        QPoint place = {};
+        QRect labelPlace = {};
+        int most;
+        std::function<int()> read;
+        std::function<void(int)> write;
+        std::function<QString()> text;
+    };
+
     void buildFrame();
     QFrame* addPage(const QString& row, const char* name, const QString& caption);
+    void buildDatabase();
     void buildDownload();
     void buildOptions();
     void buildSkin();
@@ -81,10 +105,11 @@ private:
     void buildUnwanted();
     void addCheck(QFrame& page, const char* name, const QString& caption, const QString& toolTip, Check check,
                   const QPoint& place);
-    void addScroll(QFrame& page, const char* name, const char* labelName, int top, int least, int most,
-                   std::function<int()> read, std::function<void(int)> write, std::function<QString()> text);
+    void addScroll(QFrame& page, const Scroll& scroll);
+    void addOrder(QFrame& page, Order which, const QString& heading, int left);
     ButtonEx* addButton(QWidget& page, const char* name, const QString& toolTip, const QRect& place);
     void showPage(int row);
+    void showPageOver(QWidget& owner, const char* name);
     void chooseSaveDir();
     void chooseSound();
     void warn();

@@ -1,5 +1,6 @@
 // The pages of the settings window.
 
+#include "app/SettingsControls.h"
 #include "app/frmSettings.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "lookup/UpdateServers.h"
@@ -20,35 +21,7 @@
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int column = 8;
-constexpr int controlWidth = 268;
-constexpr int rowHeight = 20;
-
-QLineEdit* addShownText(QFrame& page, const QString& name, const QString& accessibleName, const QRect& place)
-{
-    auto* box = new QLineEdit(&page);
-    box->setObjectName(name);
-    box->setAccessibleName(accessibleName);
-    box->setReadOnly(true);
-    box->setGeometry(place);
-    return box;
-}
-
-void showTagged(QLineEdit& box, const TaggedText& value)
-{
-    box.setText(value.text);
-    box.setToolTip(value.tag);
-}
-
-QString indexed(const char* name, int index)
-{
-    return u"%1(%2)"_s.arg(QLatin1StringView(name)).arg(index);
-}
-
-} // namespace
+using namespace settingspage;
 
 void frmSettings::addCheck(QFrame& page, const char* name, const QString& caption, const QString& toolTip,
                            Check check, const QPoint& place)
@@ -57,29 +30,31 @@ void frmSettings::addCheck(QFrame& page, const char* name, const QString& captio
     box->setObjectName(QLatin1StringView(name));
     box->setToolTip(toolTip);
     box->setGeometry(QRect(place, QSize(controlWidth - place.x() + column, rowHeight)));
-    connect(box, &QCheckBox::clicked, this,
-            [this, check](bool on) { m_services.settings.setChecked(check, on); });
+    // Also when it is the program that changes the box; not while it is filled.
+    connect(box, &QCheckBox::toggled, this, [this, check](bool on) {
+        if (!m_refreshing)
+            m_services.settings.setChecked(check, on);
+    });
     m_refreshers.emplace_back([this, box, check] { box->setChecked(m_services.settings.isChecked(check)); });
 }
 
-void frmSettings::addScroll(QFrame& page, const char* name, const char* labelName, int top, int least,
-                            int most, std::function<int()> read, std::function<void(int)> write,
-                            std::function<QString()> text)
+void frmSettings::addScroll(QFrame& page, const Scroll& scroll)
 {
     auto* bar = new QScrollBar(Qt::Vertical, &page);
-    bar->setObjectName(QLatin1StringView(name));
-    bar->setRange(least, most);
+    bar->setObjectName(scroll.name);
+    bar->setAccessibleName(scroll.accessibleName);
+    bar->setRange(1, scroll.most);
     bar->setPageStep(1);
     bar->setFocusPolicy(Qt::StrongFocus);
-    bar->setGeometry(column, top, 14, 30);
+    bar->setGeometry(QRect(scroll.place, QSize(14, 30)));
     auto* label = new QLabel(&page);
-    label->setObjectName(QLatin1StringView(labelName));
-    label->setGeometry(column + 104, top + 6, 150, 18);
-    connect(bar, &QScrollBar::valueChanged, this, [this, write = std::move(write)](int value) {
+    label->setObjectName(scroll.labelName);
+    label->setGeometry(scroll.labelPlace);
+    connect(bar, &QScrollBar::valueChanged, this, [this, write = scroll.write](int value) {
         if (!m_refreshing)
             write(value);
     });
-    m_refreshers.emplace_back([bar, label, read = std::move(read), text = std::move(text)] {
+    m_refreshers.emplace_back([bar, label, read = scroll.read, text = scroll.text] {
         bar->setValue(read());
         label->setText(text());
     });
@@ -89,24 +64,34 @@ void frmSettings::buildDownload()
 {
     QFrame& page = *addPage(u"Download"_s, "frm_Download", u"Settings: Download"_s);
     Settings& settings = m_services.settings;
-    const auto addHeading = [&page](const QString& text, int top) {
-        auto* heading = new QLabel(text, &page);
+    const auto addHeaded = [this, &page](Scroll scroll, int top) {
+        auto* heading = new QLabel(scroll.accessibleName, &page);
         heading->setProperty("quiet", true);
         heading->setGeometry(column + 20, top + 6, 84, 18);
+        scroll.place = {column, top};
+        scroll.labelPlace = {column + 104, top + 6, 150, 18};
+        addScroll(page, scroll);
     };
-    addHeading(tr("Update server"), 4);
-    addScroll(
-        page, "Vs_Server", "lblServer", 4, 1, 6, [&settings] { return settings.server(); },
-        [&settings](int value) { settings.setServer(value); },
-        [&settings] {
-            const UpdateServer* server = updateServer(settings.server());
-            return server == nullptr ? QString() : QString::fromUtf16(server->label);
-        });
-    addHeading(tr("At a time"), 38);
-    addScroll(
-        page, "VScroll1", "lblDLMax", 38, 1, 5, [&settings] { return settings.downloadMax(); },
-        [&settings](int value) { settings.setDownloadMax(value); },
-        [&settings] { return settings.downloadMaxText(); });
+    addHeaded({.name = u"Vs_Server"_s,
+               .labelName = u"lblServer"_s,
+               .accessibleName = tr("Update server"),
+               .most = 6,
+               .read = [&settings] { return settings.server(); },
+               .write = [&settings](int value) { settings.setServer(value); },
+               .text =
+                   [&settings] {
+                       const UpdateServer* server = updateServer(settings.server());
+                       return server == nullptr ? QString() : QString::fromUtf16(server->label);
+                   }},
+              4);
+    addHeaded({.name = u"VScroll1"_s,
+               .labelName = u"lblDLMax"_s,
+               .accessibleName = tr("At a time"),
+               .most = 5,
+               .read = [&settings] { return settings.downloadMax(); },
+               .write = [&settings](int value) { settings.setDownloadMax(value); },
+               .text = [&settings] { return settings.downloadMaxText(); }},
+              38);
     addCheck(page, "chk_UseDLD", u"Use Download Directory?"_s, {}, Check::UseDLD, {column, 74});
     addCheck(page, "chk_CGNFolder", u"Create [ Game Name ] folder?"_s, {}, Check::CGNFolder, {column, 96});
     addCheck(page, "chk_OWrite", u"Over write files on Multi DL?"_s, {}, Check::OWrite, {column, 118});

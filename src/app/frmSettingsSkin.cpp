@@ -4,12 +4,10 @@
 #include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/SystemColorsUi.h"
-#include "platform/CaptionDrag.h"
 #include "state/ApplicationState.h"
 
 #include <QFrame>
 #include <QLabel>
-#include <QListWidget>
 #include <QPainter>
 
 namespace varnhold {
@@ -97,19 +95,9 @@ void frmSettings::showSkin()
         setTextColor(*count, page.availableSkinsColor[1]);
 }
 
-void frmSettings::openSkinPage(const QPoint& place)
+void frmSettings::askForSkin(QWidget& owner)
 {
-    if (CaptionDrag::placesWindows())
-        move(place);
-    refresh();
-    show();
-    raise();
-    for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        if (m_pages[i].frame->objectName() == "frm_Skin(0)"_L1) {
-            m_list->setCurrentRow(static_cast<int>(i));
-            showPage(static_cast<int>(i));
-        }
-    }
+    showPageOver(owner, "frm_Skin(0)");
     findChild<ButtonEx*>("btn_Skin_Path"_L1)->setFocus();
 }
 

@@ -51,7 +51,11 @@ enum class OpacityOf { Main = 0, Settings = 1, Download = 2, Search = 3, Databas
 /// where a key without a default is missing.
 struct SettingsValues
 {
-    SettingsValues() { checks.at(static_cast<std::size_t>(Check::SoundsClick)) = true; }
+    SettingsValues()
+    {
+        checks.at(static_cast<std::size_t>(Check::SoundsClick)) = true;
+        idList.text = QStringLiteral(u"\u00A7elect Database >>>");
+    }
 
     std::array<bool, static_cast<std::size_t>(Check::Count)> checks{};
     int server = 1;                                        ///< Vs_Server, 1 to 6

@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QWindow>
 
 namespace varnhold::test {
 
@@ -24,12 +25,13 @@ namespace {
 class FrmSettings : public testing::Test, protected AppWorld
 {
 protected:
-    void openPage(int row)
+    void openPage(const QString& name)
     {
         window.open({100, 100});
         auto& pages = child<QListWidget>(window, "List1");
-        QTest::mouseClick(pages.viewport(), Qt::LeftButton, {},
-                          pages.visualItemRect(pages.item(row)).center());
+        const QList<QListWidgetItem*> rows = pages.findItems(name, Qt::MatchExactly);
+        ASSERT_EQ(rows.size(), 1) << qPrintable(name);
+        QTest::mouseClick(pages.viewport(), Qt::LeftButton, {}, pages.visualItemRect(rows.front()).center());
     }
     void click(const char* name) { QTest::mouseClick(&child(window, name), Qt::LeftButton, {}, {8, 10}); }
 
@@ -58,21 +60,23 @@ TEST_F(FrmSettings, WritesEachBoxWithItsClick)
 {
     const struct
     {
-        int page;
+        QString page;
         const char* name;
         QString key;
     } cases[] = {
-        {0, "chk_UseDLD", u"Use DLDir"_s},
-        {0, "chk_CGNFolder", u"Create GNFolder"_s},
-        {0, "chk_OWrite", u"Over Write"_s},
-        {0, "chk_Previous", u"Previous"_s},
-        {1, "chk_Fade", u"Fade Out"_s},
-        {1, "chk_Exit", u"Exit"_s},
-        {1, "chk_Edge", u"Edge Detection"_s},
-        {3, "chk_Sounds_Click", u"Click Sounds"_s},
-        {4, "chk_RemoveUnw", u"Remove Unwanted"_s},
-        {4, "chk_Double", u"Remove DblSpace"_s},
-        {4, "chk_Colon", u"Remove Colon"_s},
+        {u"Database"_s, "chk_Icons", u"Show Icons"_s},
+        {u"Database"_s, "chk_DBLinks", u"DB Links"_s},
+        {u"Download"_s, "chk_UseDLD", u"Use DLDir"_s},
+        {u"Download"_s, "chk_CGNFolder", u"Create GNFolder"_s},
+        {u"Download"_s, "chk_OWrite", u"Over Write"_s},
+        {u"Download"_s, "chk_Previous", u"Previous"_s},
+        {u"Options"_s, "chk_Fade", u"Fade Out"_s},
+        {u"Options"_s, "chk_Exit", u"Exit"_s},
+        {u"Options"_s, "chk_Edge", u"Edge Detection"_s},
+        {u"Sounds"_s, "chk_Sounds_Click", u"Click Sounds"_s},
+        {u"UnWanted"_s, "chk_RemoveUnw", u"Remove Unwanted"_s},
+        {u"UnWanted"_s, "chk_Double", u"Remove DblSpace"_s},
+        {u"UnWanted"_s, "chk_Colon", u"Remove Colon"_s},
     };
     for (const auto& given : cases) {
         openPage(given.page);
@@ -85,7 +89,7 @@ TEST_F(FrmSettings, WritesEachBoxWithItsClick)
 
 TEST_F(FrmSettings, WritesServerAndLimitAsTheyTurn)
 {
-    openPage(0);
+    openPage(u"Download"_s);
     QTest::keyClick(&child(window, "Vs_Server"), Qt::Key_Down);
     EXPECT_EQ(stored(u"Server"_s), u"2"_s);
     EXPECT_EQ(child<QLabel>(window, "lblServer").text(), u"Retail: Server 1"_s);
@@ -95,9 +99,73 @@ TEST_F(FrmSettings, WritesServerAndLimitAsTheyTurn)
     EXPECT_EQ(child<QLabel>(window, "lblDLMax").text(), u"5"_s);
 }
 
+TEST_F(FrmSettings, ChoosesTableAndOrderOfTheGameList)
+{
+    openPage(u"Database"_s);
+    const struct
+    {
+        const char* bar;
+        const char* label;
+        QString key;
+        QString texts[2];
+    } cases[] = {
+        {"vOrder(0)", "lblOrder(0)", u"Asc Desc"_s, {u"Ascending"_s, u"Descending"_s}},
+        {"vOrder(1)", "lblOrder(1)", u"Search Table"_s, {u"GameID"_s, u"GameName"_s}},
+        {"vOrder(2)", "lblOrder(2)", u"DB Table"_s, {u"PS3Games"_s, u"PS3Personal"_s}},
+    };
+    for (const auto& given : cases) {
+        auto& bar = child<QScrollBar>(window, given.bar);
+        const auto& label = child<QLabel>(window, given.label);
+        for (const int value : {2, 1}) {
+            QTest::keyClick(&bar, value == 2 ? Qt::Key_Down : Qt::Key_Up);
+            EXPECT_EQ(label.text(), given.texts[value - 1]) << given.label;
+            if (stored(given.key) != u"(missing)"_s) {
+                EXPECT_EQ(stored(given.key), QString::number(value)) << given.bar;
+            }
+        }
+        bar.setValue(2); // the program's own change counts too
+        EXPECT_EQ(stored(given.key), u"2"_s) << given.bar;
+    }
+    child<QCheckBox>(window, "chk_Icons").setChecked(true);
+    EXPECT_EQ(stored(u"Show Icons"_s), u"1"_s);
+}
+
+TEST_F(FrmSettings, ShowsTheDatabaseAndAsksForOne)
+{
+    QWidget owner;
+    owner.move(40, 60);
+    owner.show();
+    window.askForDatabase(owner, u"Not Found!"_s);
+    EXPECT_TRUE(child(window, "frm_Database").isVisible());
+    EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), u"Settings: Database"_s);
+    EXPECT_EQ(child<QListWidget>(window, "List1").currentItem()->text(), u"Database"_s);
+    EXPECT_EQ(child<QLabel>(window, "Label9(1)").text(), u"Not Found!"_s);
+    EXPECT_EQ(window.focusWidget(), &child(window, "txt_IDList"));
+    EXPECT_EQ(window.pos(), owner.pos());
+    EXPECT_EQ(window.windowHandle()->transientParent(), owner.windowHandle());
+    EXPECT_FALSE(window.isModal());
+    EXPECT_TRUE(player.played.isEmpty()) << "nobody clicked";
+
+    settings.setIdList({u"games.mdb"_s, root.write(u"games.mdb"_s, QByteArray(1536, 'x'))});
+    EXPECT_EQ(child<QLineEdit>(window, "txt_IDList").text(), u"games.mdb"_s);
+    EXPECT_EQ(child(window, "txt_IDList").toolTip(), root.path(u"games.mdb"_s));
+    EXPECT_EQ(child<QLabel>(window, "lblFSize").text(), u"Before: 1.50 KB"_s);
+
+    skinPage.Shape_Color[SkinPage::Highlight] = 0x0000FF;
+    window.thankForDatabase(u"Thank You!"_s);
+    const auto& label = child<QLabel>(window, "Label9(1)");
+    EXPECT_EQ(label.text(), u"Thank You!"_s);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+
+    openPage(u"Download"_s);
+    window.askForTables(owner, u"ReName"_s);
+    EXPECT_TRUE(child(window, "frm_Database").isVisible());
+    EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), u"ReName"_s);
+}
+
 TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
 {
-    openPage(1);
+    openPage(u"Options"_s);
     const QSignalSpy released(&window, &frmSettings::autoSslReleased);
     const auto states = [this] {
         return QPair(child<QCheckBox>(window, "chk_AutoSSL(0)").isChecked(),
@@ -122,7 +190,7 @@ TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
 
 TEST_F(FrmSettings, ChoosesTheDownloadFolder)
 {
-    openPage(0);
+    openPage(u"Download"_s);
     auto& button = child<ButtonEx>(window, "btnSaveDir");
     dialogs.cancelNext();
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -140,7 +208,7 @@ TEST_F(FrmSettings, ChoosesTheDownloadFolder)
 
 TEST_F(FrmSettings, GivesTheChosenRowAnotherSound)
 {
-    openPage(3);
+    openPage(u"Sounds"_s);
     setCheck(Check::SoundsClick, false);
     click("opt_Index(2)");
     dialogs.answer(u"/music/horn.mp3"_s);
@@ -154,7 +222,7 @@ TEST_F(FrmSettings, GivesTheChosenRowAnotherSound)
 
 TEST_F(FrmSettings, KeepsTheUnwantedStringsAsTheyAreTyped)
 {
-    openPage(4);
+    openPage(u"UnWanted"_s);
     auto& box = child<QPlainTextEdit>(window, "txtRemove");
     EXPECT_FALSE(child(window, "lblCount").isVisible());
     QTest::keyClicks(&box, u" ab"_s);
@@ -176,18 +244,24 @@ TEST_F(FrmSettings, KeepsTheUnwantedStringsAsTheyAreTyped)
 
 TEST_F(FrmSettings, ShowsOnePageAtATime)
 {
-    const QPair<const char*, QString> pages[] = {{"frm_Download", u"Settings: Download"_s},
-                                                 {"frm_Options", u"Settings: Options"_s},
-                                                 {"frm_Skin(0)", u"Settings: Skin"_s},
-                                                 {"frm_Sound", u"Settings: Sounds"_s},
-                                                 {"frm_Unwanted", u"Settings: ReMove Un-Wanted strings"_s}};
-    for (int row = 0; row < 5; ++row) {
+    const struct
+    {
+        QString row;
+        const char* frame;
+        QString caption;
+    } pages[] = {{u"Database"_s, "frm_Database", u"Settings: Database"_s},
+                 {u"Download"_s, "frm_Download", u"Settings: Download"_s},
+                 {u"Options"_s, "frm_Options", u"Settings: Options"_s},
+                 {u"Skin"_s, "frm_Skin(0)", u"Settings: Skin"_s},
+                 {u"Sounds"_s, "frm_Sound", u"Settings: Sounds"_s},
+                 {u"UnWanted"_s, "frm_Unwanted", u"Settings: ReMove Un-Wanted strings"_s}};
+    for (const auto& page : pages) {
         player.played.clear();
-        openPage(row);
+        openPage(page.row);
         EXPECT_EQ(player.played, QStringList{u"0"_s});
-        EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), pages[row].second);
-        for (int i = 0; i < 5; ++i)
-            EXPECT_EQ(child(window, pages[i].first).isVisible(), i == row);
+        EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), page.caption);
+        for (const auto& other : pages)
+            EXPECT_EQ(child(window, other.frame).isVisible(), &other == &page) << other.frame;
     }
     QTest::keyClick(&child(window, "List1"), Qt::Key_Up);
     EXPECT_TRUE(child(window, "frm_Sound").isVisible());

@@ -247,7 +247,7 @@ TEST_F(SettingsLoadTest, ANamedDatabase)
     settings.unwrittenValues() = {};
     state = {};
     ASSERT_EQ(load("IDList Path=/gone.mdb\r\n"), errors::none);
-    EXPECT_EQ(settings.idList(), TaggedText());
+    EXPECT_EQ(settings.idList(), (TaggedText{u"\u00A7elect Database >>>"_s, {}}));
     EXPECT_EQ(state.DBPath, QString());
 }
 
