@@ -193,6 +193,21 @@ TEST_F(UpdateDocumentTest, FindTitleCountsInTheSingular)
     EXPECT_EQ(view.blank, u"[2 Updates]"_s);
 }
 
+TEST_F(UpdateDocumentTest, SavesLinksAtTheEndOfEachParseThatHasATitle)
+{
+    QStringList saved;
+    document.setLinkSaver([&] { saved.append(view.info() + u' ' + list.icon(1)); });
+    parse(head + full + title);
+    EXPECT_EQ(saved, QStringList());
+    setCheck(Check::DBLinks, true);
+    parse(head + full + title);
+    parse(head + full + u"<x url=\"y\">"_s + title); // over Find_Title
+    EXPECT_EQ(saved, QStringList({u"Game pkg"_s, u"Game pkg"_s}));
+    boxes.expect(reportText(5, u"Invalid procedure call or argument"_s, u"Err Description: "_s));
+    parse(head + full);
+    EXPECT_EQ(saved.size(), 2);
+}
+
 TEST_F(UpdateDocumentTest, KeepsTheRowsThatAnIndexReaches)
 {
     const QString short_ = u"<package version=\"1\"/>\r\n"_s;
