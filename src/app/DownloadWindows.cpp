@@ -2,12 +2,19 @@
 
 #include "app/frmMain.h"
 #include "platform/Twips.h"
+#include "state/Settings.h"
 
 namespace varnhold {
 
 DownloadWindows::DownloadWindows(const frm_Winsock::Services& services, frmMain& owner)
     : m_services(services), m_main(owner)
 {
+    QObject::connect(&m_followLater, &QTimer::timeout, &m_followLater, [this] {
+        if (m_nextFollower >= m_windows.size())
+            m_followLater.stop();
+        else if (frm_Winsock* const window = m_windows[m_nextFollower++])
+            SetOpacity(m_services.settings.opacity(OpacityOf::Download), *window);
+    });
 }
 
 DownloadWindow& DownloadWindows::makeWindow()
@@ -37,6 +44,12 @@ void DownloadWindows::unloadAll()
         if (*window && (*window)->isVisible())
             (*window)->unload();
     }
+}
+
+void DownloadWindows::followOpacity()
+{
+    m_nextFollower = 0;
+    m_followLater.start(0);
 }
 
 void DownloadWindows::showCount(int count)

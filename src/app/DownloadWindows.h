@@ -4,6 +4,7 @@
 #include "download/frm_Winsock.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include <vector>
 
@@ -21,6 +22,9 @@ public:
     void onUnload(std::function<void(const DownloadClient&)> action) { m_onUnload = std::move(action); }
     /// Closes all windows as their own button does.
     void unloadAll();
+    /// Gives the open windows the opacity that is set, one each time the program is idle, so that the slider
+    /// which sets it never waits for them.
+    void followOpacity();
 
     DownloadWindow& makeWindow() override;
     void drop(DownloadWindow& window) override;
@@ -36,6 +40,8 @@ private:
     frmMain& m_main;
     std::function<void(const DownloadClient&)> m_onUnload;
     std::vector<QPointer<frm_Winsock>> m_windows;
+    std::size_t m_nextFollower = 0;
+    QTimer m_followLater;
 };
 
 } // namespace varnhold

@@ -64,26 +64,28 @@ Program::Program(const Paths& paths, World world)
                   m_main),
       m_planner({m_state, m_settings, m_list, m_downloads, m_files, m_world.dialogs, m_world.boxes, m_sounds,
                  QCoreApplication::applicationName()}),
-      m_startUp({.state = m_state,
-                 .settings = m_settings,
-                 .file = m_file,
-                 .paths = m_paths,
-                 .hosts = m_hosts,
-                 .boxes = m_world.boxes,
-                 .sounds = m_sounds,
-                 .pump = m_pump,
-                 .screen = m_world.screen,
-                 .browser = m_browser,
-                 .certificates = m_autoAlert.watch(),
-                 .main = m_main,
-                 .settingsWindow = m_settingsWindow,
-                 .splash = m_splash,
-                 .dressSplash = [this](QWidget& splash) { dressSplash(splash, m_file, m_paths, m_state); },
-                 .applySkin = [this] { m_skin.ApplySkin(); },
-                 .shape = [this](QWidget& window) { m_skin.shape(window); },
-                 .isFirst = m_world.isFirst,
-                 .activatePrevious = m_world.activatePrevious,
-                 .findHosts = m_world.findHosts}),
+      m_startUp(
+          {.state = m_state,
+           .settings = m_settings,
+           .file = m_file,
+           .paths = m_paths,
+           .hosts = m_hosts,
+           .boxes = m_world.boxes,
+           .sounds = m_sounds,
+           .pump = m_pump,
+           .screen = m_world.screen,
+           .browser = m_browser,
+           .certificates = m_autoAlert.watch(),
+           .main = m_main,
+           .settingsWindow = m_settingsWindow,
+           .splash = m_splash,
+           .dressSplash = [this](QWidget& splash) { dressSplash(splash, m_file, m_paths, m_state); },
+           .applySkin = [this] { m_skin.ApplySkin(); },
+           .shape = [this](QWidget& window) { m_skin.shape(window); },
+           .setOpacity = [this](OpacityOf which, int value) { m_skinnedWindows.setOpacity(which, value); },
+           .isFirst = m_world.isFirst,
+           .activatePrevious = m_world.activatePrevious,
+           .findHosts = m_world.findHosts}),
       m_exitPath({m_settings, m_world.boxes, m_sounds, m_pump}, *this)
 {
     connectMainWindow();
@@ -164,6 +166,12 @@ void Program::connectSkin()
         drawButtonSigns(m_main);
     });
     connect(&m_settingsWindow, &frmSettings::skinMenuWanted, &m_menu, &frmMenu::popUp_mnuSkins);
+    connect(&m_settingsWindow, &frmSettings::opacityMoved, this, [this](OpacityOf which, int value) {
+        if (which == OpacityOf::Download)
+            m_downloads.followOpacity();
+        else
+            m_skinnedWindows.setOpacity(which, value);
+    });
     connect(&m_menu, &frmMenu::mnuSkinDL_Click, this,
             [this] { mnuSkinDL_Click(m_sounds, m_world.shell, m_hosts); });
     connect(&m_menu, &frmMenu::mnuSkin_Refresh_Click, this, [this] { m_skin.mnuSkin_Refresh_Click(); });

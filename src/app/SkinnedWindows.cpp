@@ -8,12 +8,21 @@
 #include "appearance/ToolkitLook.h"
 #include "controls/CTooltip/CTooltip.h"
 
+#include <array>
+
 namespace varnhold {
 
 SkinnedWindows::SkinnedWindows(frmMain& main, frmSettings& settings, frmMenu& menu,
                                std::unique_ptr<frmSplash>& splash)
     : m_main(main), m_settings(settings), m_menu(menu), m_splash(splash)
 {
+}
+
+void SkinnedWindows::setOpacity(OpacityOf which, int value)
+{
+    static constexpr std::array names{"frmMain", "frmSettings", "frm_Winsock", "frmSearch", "frmDB"};
+    if (QWidget* const found = window(names.at(static_cast<std::size_t>(which))))
+        SetOpacity(value, *found);
 }
 
 void SkinnedWindows::showStatus(const QString& text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appearance/Skin.h"
+#include "state/SettingsValues.h"
 
 #include <memory>
 
@@ -16,6 +17,10 @@ class SkinnedWindows : public SkinHost
 {
 public:
     SkinnedWindows(frmMain& main, frmSettings& settings, frmMenu& menu, std::unique_ptr<frmSplash>& splash);
+
+    /// Opacity 0 to 255 of a window that stays, kept at 20 or above. Without effect on one that is not made,
+    /// and on download windows.
+    void setOpacity(OpacityOf which, int value);
 
     void showStatus(const QString& text) override;
     void showMessage(const QString& text) override;

@@ -168,10 +168,7 @@ void StartUp::setBarLeftTop(double twips)
 
 void StartUp::applyOpacity(OpacityOf window, int value)
 {
-    if (window == OpacityOf::Main)
-        SetOpacity(value, m_services.main);
-    else if (window == OpacityOf::Settings)
-        SetOpacity(value, m_services.settingsWindow);
+    m_services.setOpacity(window, value);
 }
 
 } // namespace varnhold

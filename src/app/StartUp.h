@@ -48,6 +48,7 @@ public:
         std::function<void(QWidget&)> dressSplash;
         std::function<void()> applySkin; ///< to all windows; tells its failures itself
         std::function<void(QWidget&)> shape;
+        std::function<void(OpacityOf, int)> setOpacity; ///< of a window that stays
 
         std::function<bool()> isFirst;          ///< false: another instance of the program runs
         std::function<bool()> activatePrevious; ///< true when that one answered and came to the front

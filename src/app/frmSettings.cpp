@@ -41,6 +41,7 @@ frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_se
     buildFrame();
     buildDatabase();
     buildDownload();
+    buildOpacity();
     buildOptions();
     buildSkin();
     buildSounds();

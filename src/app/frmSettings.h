@@ -67,6 +67,8 @@ Q_SIGNALS:
     void autoSslReleased();
     void skinMenuWanted(const QPoint& globalPosition); ///< btn_Skin_Path
     void btnOpen_Click();
+    /// The user moved a slider; its key is written.
+    void opacityMoved(varnhold::OpacityOf which, int value);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -98,6 +100,7 @@ private:
     QFrame* addPage(const QString& row, const char* name, const QString& caption);
     void buildDatabase();
     void buildDownload();
+    void buildOpacity();
     void buildOptions();
     void buildSkin();
     void showSkin();
@@ -106,6 +109,7 @@ private:
     void addCheck(QFrame& page, const char* name, const QString& caption, const QString& toolTip, Check check,
                   const QPoint& place);
     void addScroll(QFrame& page, const Scroll& scroll);
+    void addOpacity(QFrame& page, OpacityOf which, const QString& heading, int top);
     void addOrder(QFrame& page, Order which, const QString& heading, int left);
     ButtonEx* addButton(QWidget& page, const char* name, const QString& toolTip, const QRect& place);
     void showPage(int row);

@@ -3,6 +3,7 @@
 #include "app/frmSettings.h"
 #include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
+#include "controls/ucSlider/ucSlider.h"
 #include "support/FakeFileDialogs.h"
 #include "support/FakePump.h"
 
@@ -163,6 +164,29 @@ TEST_F(FrmSettings, ShowsTheDatabaseAndAsksForOne)
     EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), u"ReName"_s);
 }
 
+TEST_F(FrmSettings, WritesAnOpacityAsItsSliderMoves)
+{
+    settings.unwrittenValues().opacities = {10, 220, 180, 220, 0};
+    openPage(u"Opacity"_s);
+    EXPECT_EQ(child<QLabel>(window, "lbl_Opacity(0)").text(), u"10"_s) << "as it is stored";
+    const QString keys[] = {u"Main Opacity"_s, u"Settings Opacity"_s, u"DL Opacity"_s, u"Search Opacity"_s,
+                            u"DB Opacity"_s};
+    const QSignalSpy moved(&window, &frmSettings::opacityMoved);
+    for (int i = 0; i < 5; ++i) {
+        auto& slider = child<ucSlider>(window, qPrintable(u"ucSlider1(%1)"_s.arg(i)));
+        EXPECT_EQ(slider.value(), settings.values().opacities.at(std::size_t(i)));
+        EXPECT_EQ(stored(keys[i]), u"(missing)"_s);
+        QTest::mousePress(&slider, Qt::LeftButton, {}, {slider.width() - 1, 4});
+        EXPECT_EQ(stored(keys[i]), u"255"_s) << "before the release";
+        QTest::mouseRelease(&slider, Qt::LeftButton, {}, {slider.width() - 1, 4});
+        QTest::keyClick(&slider, Qt::Key_Left);
+        EXPECT_EQ(stored(keys[i]), u"254"_s);
+        EXPECT_EQ(child<QLabel>(window, qPrintable(u"lbl_Opacity(%1)"_s.arg(i))).text(), u"254"_s);
+        EXPECT_EQ(moved.back().at(0).value<OpacityOf>(), static_cast<OpacityOf>(i));
+        EXPECT_EQ(moved.back().at(1), 254);
+    }
+}
+
 TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
 {
     openPage(u"Options"_s);
@@ -251,6 +275,7 @@ TEST_F(FrmSettings, ShowsOnePageAtATime)
         QString caption;
     } pages[] = {{u"Database"_s, "frm_Database", u"Settings: Database"_s},
                  {u"Download"_s, "frm_Download", u"Settings: Download"_s},
+                 {u"Opacity"_s, "frm_Opacity", u"Settings: Opacity"_s},
                  {u"Options"_s, "frm_Options", u"Settings: Options"_s},
                  {u"Skin"_s, "frm_Skin(0)", u"Settings: Skin"_s},
                  {u"Sounds"_s, "frm_Sound", u"Settings: Sounds"_s},

@@ -1,5 +1,6 @@
 #include "AppWorld.h"
 
+#include "app/DownloadWindows.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "download/frm_Winsock.h"
@@ -68,6 +69,32 @@ TEST_F(FrmWinsock, StaysAboveItsOwner)
     QWidget owner;
     const ShapedWindow owned(&owner);
     EXPECT_EQ(owned.windowType(), Qt::Dialog) << "of a plain window, managers take no notice of the owner";
+}
+
+TEST_F(FrmWinsock, FollowsItsOpacityOneWindowAfterTheOther)
+{
+    frmMain main({state, settings, list, boxes, sounds, screen});
+    DownloadWindows windows({.client = {sockets, files, clock, pump, boxes},
+                             .state = state,
+                             .settings = settings,
+                             .sounds = sounds,
+                             .screen = screen,
+                             .skin = [](QWidget&) {}},
+                            main);
+    frm_Winsock* open[3];
+    for (frm_Winsock*& each : open) {
+        each = &dynamic_cast<frm_Winsock&>(windows.makeWindow());
+        each->loadSkin();
+        each->show();
+    }
+    delete open[1];
+    settings.setOpacity(OpacityOf::Download, 10);
+    windows.followOpacity();
+    EXPECT_NEAR(open[0]->windowOpacity(), 180 / 255.0, 0.01) << "not while the slider moves";
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_NEAR(open[0]->windowOpacity(), 20 / 255.0, 0.01);
+    EXPECT_NEAR(open[2]->windowOpacity(), 20 / 255.0, 0.01);
 }
 
 TEST_F(FrmWinsock, ShowsWhatItsClientSays)

@@ -72,6 +72,11 @@ protected:
                      .dressSplash = [](QWidget&) {},
                      .applySkin = [this] { main.startLayout(readLayout(file, state)); },
                      .shape = [](QWidget&) {},
+                     .setOpacity =
+                         [this](OpacityOf which, int value) {
+                             if (which == OpacityOf::Main)
+                                 SetOpacity(value, main);
+                         },
                      .isFirst = [this] { return first; },
                      .activatePrevious = [this] { return previousAnswers; },
                      .findHosts = [this] { return findHosts(); }}};
