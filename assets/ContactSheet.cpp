@@ -2,6 +2,7 @@
 
 #include "Backgrounds.h"
 #include "ButtonFaces.h"
+#include "CoverArt.h"
 #include "Icons.h"
 #include "MenuGlyphs.h"
 #include "Ornaments.h"
@@ -96,6 +97,16 @@ void placeSkin(Picture& sheet, const SkinDesign& design, int left)
     }
 }
 
+QImage enlarged(const Picture& sheet, int zoom)
+{
+    QImage image(sheet.width() * zoom, sheet.height() * zoom, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, sheet.at(x / zoom, y / zoom));
+    }
+    return image;
+}
+
 } // namespace
 
 QImage contactSheet(int zoom)
@@ -109,12 +120,26 @@ QImage contactSheet(int zoom)
         sheet.fill({left + columns / 2, 0, columns / 2, sheetSize.height}, rgb(0x181A1E));
         placeSkin(sheet, skinDesigns()[static_cast<std::size_t>(i)], left + 8);
     }
-    QImage image(sheet.width() * zoom, sheet.height() * zoom, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, sheet.at(x / zoom, y / zoom));
+    return enlarged(sheet, zoom);
+}
+
+QImage coverSheet(const std::vector<Title>& titles)
+{
+    constexpr int columns = 9;
+    constexpr int margin = 12;
+    std::vector<Picture> covers;
+    for (const Title& title : titles) {
+        if (title.cover)
+            covers.push_back(drawCover(*title.cover));
     }
-    return image;
+    const int rows = (static_cast<int>(covers.size()) + columns - 1) / columns;
+    const Size cell{coverSize.width + margin, coverSize.height + margin};
+    Picture sheet({columns * cell.width + margin, rows * cell.height + margin}, rgb(0x2A2D33));
+    for (int i = 0; const Picture& cover : covers) {
+        place(sheet, cover, margin + i % columns * cell.width, margin + i / columns * cell.height);
+        ++i;
+    }
+    return enlarged(sheet, 1);
 }
 
 } // namespace varnhold::assets

@@ -1,6 +1,7 @@
-// Draws the delivered skins and plays the delivered sounds into files.
+// Makes what is delivered beside the programs: skins, sounds and the game database.
 
 #include "ContactSheet.h"
+#include "DatabaseFile.h"
 #include "Delivery.h"
 
 #include <QString>
@@ -11,6 +12,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
+#include <stdexcept>
 
 namespace {
 
@@ -19,8 +22,9 @@ using namespace varnhold::assets;
 
 int usage()
 {
-    std::cerr << "usage: varnhold-assets DIR               writes DIR/skin and DIR/wav\n"
-                 "       varnhold-assets --sheet FILE.png [ZOOM]   all pictures on one sheet\n";
+    std::cerr << "usage: varnhold-assets DIR TITLES        writes DIR/skin, DIR/wav and DIR/GameDB.mdb\n"
+                 "       varnhold-assets --sheet FILE.png [ZOOM]     all pictures of the skins on one sheet\n"
+                 "       varnhold-assets --covers FILE.png TITLES    all covers on one sheet\n";
     return 2;
 }
 
@@ -36,16 +40,30 @@ void write(const fs::path& folder, const std::vector<DeliveredFile>& files)
     }
 }
 
+int save(const QImage& image, const char* path)
+{
+    if (image.save(QString::fromLocal8Bit(path)))
+        return 0;
+    std::cerr << "varnhold-assets: cannot write " << path << '\n';
+    return 1;
+}
+
 int writeSheet(const char* path, const char* zoomText)
 {
     int zoom = 0;
     std::from_chars(zoomText, zoomText + std::strlen(zoomText), zoom);
     if (zoom < 1 || zoom > 8)
         return usage();
-    if (contactSheet(zoom).save(QString::fromLocal8Bit(path)))
-        return 0;
-    std::cerr << "varnhold-assets: cannot write " << path << '\n';
-    return 1;
+    return save(contactSheet(zoom), path);
+}
+
+std::vector<Title> titlesOf(const char* path)
+{
+    std::ifstream in(path, std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(in), {}};
+    if (!in.is_open())
+        throw std::runtime_error("cannot be read");
+    return readTitles(QString::fromStdString(text));
 }
 
 } // namespace
@@ -54,14 +72,24 @@ int main(int argc, char** argv)
 {
     if (argc >= 3 && argc <= 4 && std::strcmp(argv[1], "--sheet") == 0)
         return writeSheet(argv[2], argc == 4 ? argv[3] : "1");
-    if (argc != 2 || argv[1][0] == '-')
+    const bool covers = argc == 4 && std::strcmp(argv[1], "--covers") == 0;
+    if (!covers && (argc != 3 || argv[1][0] == '-'))
         return usage();
+    const char* target = covers ? argv[2] : argv[1];
+    const char* list = argv[argc - 1];
+    const char* at = list;
     try {
+        const std::vector<Title> titles = titlesOf(list);
+        if (covers)
+            return save(coverSheet(titles), target);
+        const DeliveredFile database{"GameDB.mdb", databaseFile(titles)};
+        at = target;
         for (const SkinDesign& design : skinDesigns())
-            write(argv[1], skinFiles(design));
-        write(argv[1], soundFiles());
+            write(target, skinFiles(design));
+        write(target, soundFiles());
+        write(target, {database});
     } catch (const std::exception& error) {
-        std::cerr << "varnhold-assets: " << argv[1] << ": " << error.what() << '\n';
+        std::cerr << "varnhold-assets: " << at << ": " << error.what() << '\n';
         return 1;
     }
     return 0;

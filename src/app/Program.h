@@ -11,7 +11,6 @@
 #include "appearance/Skin.h"
 #include "appearance/SkinPage.h"
 #include "appearance/TransForm.h"
-#include "covers/CoverCommands.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadPlanner.h"
 #include "lookup/Lookup.h"
@@ -101,7 +100,6 @@ private:
     SkinPage m_skinPage;
     frmMenu m_menu;
     frmMain m_main;
-    CoverCommands m_covers;
     frmSettings m_settingsWindow;
     SkinnedWindows m_skinnedWindows;
     clsTransForm m_transForm;

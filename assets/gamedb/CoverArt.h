@@ -1,0 +1,12 @@
+#pragma once
+
+#include "CoverCanvas.h"
+#include "TitleList.h"
+
+namespace varnhold::assets {
+
+/// The covers are one series: a scene in a few inks, its title above, a spine at the left and the imprint
+/// below. Throws std::runtime_error for a scene or inks that there are none of.
+Picture drawCover(const CoverOrder& order);
+
+} // namespace varnhold::assets
