@@ -12,6 +12,18 @@ constexpr int leftColumn = 8;
 constexpr int leftColumnWidth = 90;
 constexpr int mainColumn = 102;
 
+/// The buttons stand 30 pixels apart.
+constexpr std::array<FootButton, 7> footButtonsFrom(int left)
+{
+    return {{{"cmdView", left},
+             {"cmdClear", left + 30},
+             {"CmdAdd", left + 60},
+             {"CmdDelete", left + 90},
+             {"cmdEdit", left + 120},
+             {"CmdNewRecord", left + 150},
+             {"CmdRefresh", left + 180}}};
+}
+
 } // namespace
 
 const MainLayout& MainLayout::normal()
@@ -26,6 +38,8 @@ const MainLayout& MainLayout::normal()
         .lblCnt = {417, 274, 22, 15},
         .picLeft = {leftColumn, columnsTop, leftColumnWidth, 224},
         .picMain = {mainColumn, columnsTop, 337, 224},
+        .footTop = 274,
+        .footButtons = footButtonsFrom(127),
         .columnTwips = 3365,
     };
     return layout;
@@ -43,6 +57,8 @@ const MainLayout& MainLayout::enlarged()
         .lblCnt = {565, 370, 22, 15},
         .picLeft = {leftColumn, columnsTop, leftColumnWidth, 320},
         .picMain = {mainColumn, columnsTop, 485, 320},
+        .footTop = 370,
+        .footButtons = footButtonsFrom(275),
         .columnTwips = 4800,
     };
     return layout;

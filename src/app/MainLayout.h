@@ -3,7 +3,17 @@
 #include <QRect>
 #include <QSize>
 
+#include <array>
+
 namespace varnhold {
+
+/// A button in the foot; all are of one size. The window gives those a place that it has.
+struct FootButton
+{
+    const char* name;
+    int left;
+};
+inline constexpr QSize footButtonSize{28, 14};
 
 /// Where the controls of the main window stand in one of its two sizes, in pixels. Controls that are not
 /// named here keep their place.
@@ -18,6 +28,8 @@ struct MainLayout
     QRect lblCnt;
     QRect picLeft;
     QRect picMain;
+    int footTop;
+    std::array<FootButton, 7> footButtons;
     int columnTwips; ///< scale height of picLeft and picMain
 
     static const MainLayout& normal();

@@ -37,7 +37,8 @@ Program::Program(const Paths& paths, World world)
       m_sounds(m_settings, m_world.player, m_state),
       m_splash(splashOf(m_world, m_file, m_paths, m_state)),
       m_menu(m_sounds),
-      m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen}),
+      m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen, m_paths}),
+      m_covers(m_settings, m_world.shell, m_world.boxes),
       m_settingsWindow(
           {m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths, m_skinPage}),
       m_skinnedWindows(m_main, m_settingsWindow, m_menu, m_splash),
@@ -131,6 +132,8 @@ void Program::connectMainWindow()
         Qt::QueuedConnection);
     connect(&m_main, &frmMain::updateRowActivated, this, [this] { m_planner.ListView1_DblClick(); });
     connect(&m_main, &frmMain::mnuMenuWanted, &m_menu, &frmMenu::popUp_mnuMenu);
+    connect(&m_main, &frmMain::mnuLBoxWanted, &m_menu, &frmMenu::popUp_mnuLBox);
+    connect(&m_main, &frmMain::mnuImageWanted, &m_menu, &frmMenu::popUp_mnuImage);
     connect(&m_main, &frmMain::mnuLViewWanted, &m_menu, &frmMenu::popUp_mnuLView);
     connect(&m_main, &frmMain::settingsRequested, this, [this] {
         m_sounds.play(Sound::Menu);
@@ -153,6 +156,10 @@ void Program::connectMenus()
     connect(&m_menu, &frmMenu::mnuRaw_Click, this, &Program::showRaw);
     connect(&m_menu, &frmMenu::mnuExit_Click, this, [this] { m_exitPath.run(); });
     connect(&m_menu, &frmMenu::mnuDLoad_Click, this, [this] { m_planner.mnuDLoad_Click(); });
+    connect(&m_menu, &frmMenu::mnuImageView_Click, this,
+            [this] { m_covers.mnuImageView_Click(m_main.gameIdText()); });
+    connect(&m_menu, &frmMenu::mnuImageExplore_Click, this, [this] { m_covers.mnuImageExplore_Click(); });
+    connect(&m_menu, &frmMenu::mnuImageOpen_Click, this, [this] { m_covers.mnuImageOpen_Click(); });
 }
 
 void Program::connectSkin()

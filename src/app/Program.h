@@ -11,6 +11,7 @@
 #include "appearance/Skin.h"
 #include "appearance/SkinPage.h"
 #include "appearance/TransForm.h"
+#include "covers/CoverCommands.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadPlanner.h"
 #include "lookup/Lookup.h"
@@ -100,6 +101,7 @@ private:
     SkinPage m_skinPage;
     frmMenu m_menu;
     frmMain m_main;
+    CoverCommands m_covers;
     frmSettings m_settingsWindow;
     SkinnedWindows m_skinnedWindows;
     clsTransForm m_transForm;

@@ -1,12 +1,18 @@
 #include "app/frmMain.h"
 
+#include "app/CoverPanel.h"
 #include "app/GameIdBox.h"
+#include "app/GameListInput.h"
+#include "app/ListProgress.h"
 #include "app/MainLayout.h"
+#include "app/SplitColumn.h"
+#include "app/UpdateListInput.h"
 #include "app/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/DesignValues.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "covers/CoverBox.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
@@ -33,25 +39,28 @@ constexpr double browserParkedTwips = 8600;
 
 } // namespace
 
-frmMain::frmMain(const Services& services) : ShapedWindow(nullptr), m_services(services)
+frmMain::frmMain(const Services& services)
+    : ShapedWindow(nullptr),
+      m_services(services),
+      m_selection({services.state, services.settings, services.list, services.sounds, *this, *this})
 {
     setObjectName("frmMain"_L1);
     setWindowTitle(QCoreApplication::applicationName());
-    m_drag = new CaptionDrag(
+    m_drag = std::make_unique<CaptionDrag>(
         *this, m_services.screen,
-        {.store = [this](double left, double top) { m_services.settings.writePosition(left, top); },
-         .snaps = [this] { return m_services.settings.isChecked(Check::Edge); },
-         .keepWorkArea = [this](const WorkArea& area) { m_services.state.workArea = area; }});
+        CaptionDrag::Hooks{
+            .store = [this](double left, double top) { m_services.settings.writePosition(left, top); },
+            .snaps = [this] { return m_services.settings.isChecked(Check::Edge); },
+            .keepWorkArea = [this](const WorkArea& area) { m_services.state.workArea = area; }});
     buildCaption();
+    buildWindowButtons();
     buildLeftColumn();
     buildMainColumn();
     buildFoot();
     for (ElidedLabel* label : {m_caption, m_info, m_status, m_blank})
         m_drag->addHandle(*label);
     m_info->installEventFilter(this);
-    connectGames();
-    connectUpdates();
-    m_barLeftTop = m_barMainTop = MainLayout::normal().columnTwips - splitBarHeight;
+    connectColumns();
     applyLayout(MainLayout::normal(), 1);
     orderTabs();
     m_gameId->setFocus();
@@ -120,7 +129,10 @@ void frmMain::buildCaption()
     m_settingsButton = addButton("btn_Tools(1)", u"Settings"_s);
     m_settingsButton->setGeometry(mainplaces::btn_Tools1);
     connect(m_settingsButton, &ButtonEx::Click, this, &frmMain::settingsRequested);
+}
 
+void frmMain::buildWindowButtons()
+{
     m_winState[0] = addButton("btn_WinState(0)", u"Minimize"_s);
     connect(m_winState[0], &ButtonEx::Click, this, [this] {
         m_services.sounds.play(Sound::Menu);
@@ -154,14 +166,11 @@ void frmMain::buildLeftColumn()
     m_games->setAccessibleName(tr("Games"));
     m_games->setBorderWidth(0); // the window draws the well
     m_games->setSorted(false);  // List1 runs beside it, row by row
-    m_picPreview = new QLabel(m_picLeft);
+    m_picPreview = new CoverBox(m_picLeft);
     m_picPreview->setObjectName("PicPreview"_L1);
     m_picPreview->setAccessibleName(tr("Cover"));
-    m_picPreview->setAlignment(Qt::AlignCenter);
     m_barLeft = new PictureBox(m_picLeft);
     m_barLeft->setObjectName("barLeft"_L1);
-    m_barLeft->setCursor(Qt::SplitVCursor);
-    m_barLeft->installEventFilter(this);
 }
 
 void frmMain::buildMainColumn()
@@ -178,14 +187,13 @@ void frmMain::buildMainColumn()
     m_notes->setTabChangesFocus(true);
     m_barMain = new PictureBox(m_picMain);
     m_barMain->setObjectName("barMain"_L1);
-    m_barMain->setCursor(Qt::SplitVCursor);
-    m_barMain->installEventFilter(this);
     for (QFrame* const framed : std::initializer_list<QFrame*>{m_updates, m_notes})
         framed->setFrameShape(QFrame::NoFrame); // the window's picture draws the well
-    m_imgPreview = new QLabel(m_picMain);
+    m_imgPreview = new CoverBox(m_picMain);
     m_imgPreview->setObjectName("imgPreview"_L1);
     m_imgPreview->setAccessibleName(tr("Large cover"));
-    m_imgPreview->setAlignment(Qt::AlignCenter);
+    m_imgPreview->setFocusPolicy(Qt::NoFocus);
+    m_imgPreview->unsetCursor();
     m_imgPreview->hide();
     m_browser = new QPlainTextEdit(m_picMain);
     m_browser->setObjectName("WebBrowser1"_L1);
@@ -208,6 +216,11 @@ void frmMain::buildFoot()
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setScrolling(design::frmMain_ProgressBar1_Scrolling);
     m_progress->hide();
+    m_listProgress = std::make_unique<ListProgress>(*m_progress);
+    m_cmdClear = addButton("cmdClear", u"Clear Stuff"_s);
+    connect(m_cmdClear, &ButtonEx::Click, this, &frmMain::clearRequested);
+    m_cmdRefresh = addButton("CmdRefresh", u"Reload Database"_s);
+    connect(m_cmdRefresh, &ButtonEx::Click, this, &frmMain::refreshRequested);
     m_count = new QLabel(u"0"_s, this);
     m_count->setObjectName("lblCnt"_L1);
     m_count->setAccessibleName(tr("Open downloads"));
@@ -215,10 +228,41 @@ void frmMain::buildFoot()
     m_count->setAlignment(Qt::AlignCenter);
 }
 
+void frmMain::connectColumns()
+{
+    m_leftColumn = std::make_unique<SplitColumn>(*m_games, *m_barLeft, *m_picPreview, barLeftFloor);
+    m_mainColumn = std::make_unique<SplitColumn>(*m_updates, *m_barMain, *m_notes, barMainFloor);
+    for (SplitColumn* const column : {m_leftColumn.get(), m_mainColumn.get()})
+        column->setBarTop(MainLayout::normal().columnTwips - splitBarHeight);
+    connect(m_leftColumn.get(), &SplitColumn::barMoved, this, &frmMain::Splitbar_Left);
+    connect(m_mainColumn.get(), &SplitColumn::barMoved, this, &frmMain::Splitbar_Main);
+
+    m_cover = std::make_unique<CoverPanel>(
+        CoverPanel::Parts{*m_picPreview, *m_imgPreview, {m_updates, m_barMain, m_notes}}, m_services.paths,
+        m_services.sounds);
+    connect(m_cover.get(), &CoverPanel::mnuImageWanted, this, &frmMain::mnuImageWanted);
+
+    m_gameInput = std::make_unique<GameListInput>(*m_games, m_selection, *this);
+    connect(m_gameInput.get(), &GameListInput::enterPressed, this, [this] {
+        Q_EMIT fetchRequested(); // comes back when the lookup is over
+        m_selection.loadEntry();
+    });
+    connect(m_gameInput.get(), &GameListInput::rowDoubleClicked, this, [this] {
+        m_selection.loadEntry();
+        Q_EMIT gameRowDoubleClicked();
+    });
+    connect(m_gameInput.get(), &GameListInput::menuWanted, this, &frmMain::mnuLBoxWanted);
+
+    m_updateInput = std::make_unique<UpdateListInput>(*m_updates, m_services.list, m_services.sounds);
+    connect(m_updateInput.get(), &UpdateListInput::menuWanted, this, &frmMain::mnuLViewWanted);
+    connect(m_updateInput.get(), &UpdateListInput::rowActivated, this, &frmMain::updateRowActivated);
+}
+
 void frmMain::orderTabs()
 {
     QWidget* const order[] = {m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
-                              m_gameId,  m_fetch,          m_games,       m_updates,     m_notes};
+                              m_gameId,  m_fetch,          m_games,       m_picPreview,  m_updates,
+                              m_notes,   m_cmdClear,       m_cmdRefresh};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -234,14 +278,20 @@ void frmMain::applyLayout(const MainLayout& layout, int number)
     m_blank->setGeometry(layout.lblBlank);
     m_progress->setGeometry(layout.lblBlank.adjusted(0, 4, 0, -4));
     m_count->setGeometry(layout.lblCnt);
+    for (const FootButton& place : layout.footButtons) {
+        if (auto* const button =
+                findChild<ButtonEx*>(QLatin1StringView(place.name), Qt::FindDirectChildrenOnly))
+            button->setGeometry(place.left, layout.footTop, footButtonSize.width(), footButtonSize.height());
+    }
     m_picLeft->setGeometry(layout.picLeft);
     m_picMain->setGeometry(layout.picMain);
     const QSize inner = layout.picMain.size();
     m_browser->resize(inner);
-    m_imgPreview->setGeometry(QRect({0, 0}, inner));
-    m_columnTwips = layout.columnTwips;
-    layLeftColumn();
-    layMainColumn();
+    m_leftColumn->setSize(layout.picLeft.width(), layout.columnTwips);
+    m_leftColumn->lay();
+    m_mainColumn->setSize(inner.width(), layout.columnTwips);
+    m_mainColumn->lay();
+    m_cover->refit();
     m_winState[2]->setCaption(QString::number(number));
     const QString action = number == 1 ? u"Maximize"_s : u"Restore Down"_s;
     m_winState[2]->setToolTip(action);
@@ -287,51 +337,27 @@ void frmMain::RestoreMainWindow()
 
 void frmMain::setBarLeftTop(double twips)
 {
-    m_barLeftTop = twips;
+    m_leftColumn->setBarTop(twips);
 }
 
 void frmMain::setBarMainTop(double twips)
 {
-    m_barMainTop = twips;
+    m_mainColumn->setBarTop(twips);
 }
 
 void frmMain::Splitbar_Left()
 {
-    layLeftColumn();
+    m_leftColumn->lay();
     m_games->setTopIndex(0);
     m_games->Refresh();
-    m_services.settings.writeBarLeft(m_barLeftTop);
+    m_services.settings.writeBarLeft(m_leftColumn->barTop());
 }
 
 void frmMain::Splitbar_Main()
 {
-    layMainColumn();
-    m_services.settings.writeBarMain(m_barMainTop);
-}
-
-void frmMain::layLeftColumn()
-{
-    const SplitPlaces places = splitColumn(m_barLeftTop, barLeftFloor, 0, m_columnTwips);
-    m_barLeftTop = places.barTop;
-    placeColumn(places, *m_games, *m_barLeft, *m_picPreview, m_picLeft->width());
-}
-
-void frmMain::layMainColumn()
-{
-    const SplitPlaces places = splitColumn(m_barMainTop, barMainFloor, 0, m_columnTwips);
-    m_barMainTop = places.barTop;
-    placeColumn(places, *m_updates, *m_barMain, *m_notes, m_picMain->width());
-}
-
-void frmMain::placeColumn(const SplitPlaces& places, QWidget& upper, QWidget& bar, QWidget& lower, int width)
-{
-    // Edges are rounded, not lengths, so that no gap opens between the three.
-    const int barTop = pixelsFromTwips(places.barTop);
-    const int lowerTop = pixelsFromTwips(places.lowerTop);
-    const int end = pixelsFromTwips(m_columnTwips);
-    upper.setGeometry(0, 0, width, barTop);
-    bar.setGeometry(0, barTop, width, lowerTop - barTop);
-    lower.setGeometry(0, lowerTop, width, end - lowerTop);
+    m_mainColumn->lay();
+    m_updates->scrollToTop();
+    m_services.settings.writeBarMain(m_mainColumn->barTop());
 }
 
 int frmMain::selectedUpdateRow() const
@@ -352,6 +378,16 @@ void frmMain::setCaption(const QString& text)
 void frmMain::showCount(int count)
 {
     m_count->setText(QString::number(count));
+}
+
+void frmMain::createToolTip()
+{
+    m_updateInput->createToolTip(*this);
+}
+
+void frmMain::setTipTitle(std::function<QString()> title)
+{
+    m_updateInput->setTipTitle(std::move(title));
 }
 
 void frmMain::enableExitButton()
@@ -386,23 +422,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_info && event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         m_info->setText(m_info->text().remove(u'.'));
-        return false;
     }
-    const bool left = watched == m_barLeft;
-    if (!left && watched != m_barMain)
-        return ShapedWindow::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseMove) {
-        const auto* mouse = static_cast<QMouseEvent*>(event);
-        if ((mouse->buttons() & Qt::LeftButton) != 0)
-            (left ? m_barLeftTop : m_barMainTop) += twipsFromPixels(mouse->position().y());
-    } else if (event->type() != QEvent::MouseButtonRelease) {
-        return false;
-    }
-    if (left)
-        Splitbar_Left();
-    else
-        Splitbar_Main();
-    return true;
+    return ShapedWindow::eventFilter(watched, event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

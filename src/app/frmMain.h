@@ -1,10 +1,13 @@
 #pragma once
 
 #include "app/HiddenList.h"
+#include "gamedb/EntryView.h"
+#include "gamedb/GameSelection.h"
 #include "lookup/LookupView.h"
 #include "platform/ShapedWindow.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QLabel;
@@ -14,24 +17,30 @@ class QTextEdit;
 namespace varnhold {
 
 class ButtonEx;
-class CTooltip;
 class CaptionDrag;
+class CoverBox;
+class CoverPanel;
 class ElidedLabel;
 class GameIdBox;
+class GameListInput;
+class ListProgress;
 class MessageBoxes;
 class MorphListBox;
 class Screen;
 class Settings;
 class Sounds;
+class SplitColumn;
 class UpdateList;
+class UpdateListInput;
 class UpdateListView;
 class XP_ProgressBar;
 struct ApplicationState;
 struct MainLayout;
-struct SplitPlaces;
+struct Paths;
 
-/// The main window. It shows what a lookup tells it, and hands on what the user asks for.
-class frmMain : public ShapedWindow, public LookupView
+/// The main window. It shows what the routines of lookup and game list tell it, and hands on what the user
+/// asks for.
+class frmMain : public ShapedWindow, public LookupView, public EntryView
 {
     Q_OBJECT
 
@@ -44,6 +53,7 @@ public:
         MessageBoxes& boxes;
         Sounds& sounds;
         const Screen& screen;
+        const Paths& paths;
     };
 
     explicit frmMain(const Services& services);
@@ -57,6 +67,8 @@ public:
     void setLayoutPictures(std::function<bool(int)> load) { m_layoutPictures = std::move(load); }
     /// Asked for the picture of a title without a cover.
     void setBlankPicture(std::function<QPixmap()> picture) { m_blankPicture = std::move(picture); }
+    /// Runs when a game was chosen by click, double click or Enter; tells its failures itself.
+    void setEntryLoader(std::function<void()> loader) { m_selection.setEntryLoader(std::move(loader)); }
     /// The size that was stored, before the bars are: nothing is written.
     void startLayout(int number);
     /// 1 normal, 2 enlarged.
@@ -79,7 +91,7 @@ public:
     void setPage(const std::optional<QString>& text); ///< what mnuRaw shows
     [[nodiscard]] bool showsPage() const;
     /// Asked for the heading of that balloon.
-    void setTipTitle(std::function<QString()> title) { m_tipTitle = std::move(title); }
+    void setTipTitle(std::function<QString()> title);
 
     [[nodiscard]] MorphListBox& games() { return *m_games; } ///< MorphListBox1
     [[nodiscard]] HiddenList& titles() { return m_titles; }  ///< List1
@@ -101,9 +113,29 @@ public:
     QString selectTitleRow(int row) override;
     void setTitleRow(int row, const QString& title) override;
 
+    void showBusy(bool busy) override;
+    [[nodiscard]] int gameCount() const override;
+    void showNotes(const QString& rtf) override;
+    void showStoredPicture(const QByteArray& bytes) override; ///< what is no picture shows the blank one
+    void showCoverFile(const QString& path) override;
+    void showBlankPicture() override;
+    void Make_Links() override;
+
+    void clearTitleTexts(); ///< txtGameID and lblInfo
+    void clearNotes();      ///< emptied and locked
+    /// ProgressBar1 during the load of the game list, which runs no events.
+    void showListProgress(int value);
+    void setListProgressMaximum(int maximum);
+    void setListProgress(int value); ///< out of the maximum
+    void hideListProgress();
+
 Q_SIGNALS:
     void fetchRequested();       ///< btnFetch, or Enter
-    void gameRowDoubleClicked(); ///< of MorphListBox1
+    void gameRowDoubleClicked(); ///< of MorphListBox1; its entry is loaded
+    void refreshRequested();     ///< CmdRefresh
+    void clearRequested();       ///< cmdClear
+    void mnuLBoxWanted(const QPoint& globalPosition);
+    void mnuImageWanted(const QPoint& globalPosition);
     void textDropped(const QString& text);
     void updateRowActivated(); ///< double click in ListView1
     void mnuMenuWanted(const QPoint& globalPosition);
@@ -120,36 +152,23 @@ protected:
 
 private:
     void buildCaption();
+    void buildWindowButtons();
     void buildLeftColumn();
     void buildMainColumn();
     void buildFoot();
-    void connectGames();
-    void connectUpdates();
+    void connectColumns();
+    void orderTabs();
     ButtonEx* addButton(const char* name, const QString& toolTip);
     ElidedLabel* addLabel(const char* name, const QString& accessibleName);
-    void orderTabs();
     void applyLayout(const MainLayout& layout, int number);
     [[nodiscard]] bool takesPictures(int number) const;
-    void layLeftColumn();
-    void layMainColumn();
-    void placeColumn(const SplitPlaces& places, QWidget& upper, QWidget& bar, QWidget& lower, int width);
-
-    void onGameClick();
-    void onGameKeyUp();
-    void onGameMouseDown(int y);
-    void onGameMouseMove(int y);
-    void showTitle(const QString& title);
-    void onUpdateHover(int row);
-    void showCover(const QString& gameId);
+    void showPicture(const QPixmap& picture);
 
     Services m_services;
     HiddenList m_titles;
-    std::function<QString()> m_tipTitle;
+    GameSelection m_selection;
     std::function<bool(int)> m_layoutPictures;
     std::function<QPixmap()> m_blankPicture;
-    double m_barLeftTop = 0; ///< twips
-    double m_barMainTop = 0;
-    int m_columnTwips = 0;
 
     ElidedLabel* m_caption = nullptr;
     ElidedLabel* m_info = nullptr;
@@ -160,20 +179,28 @@ private:
     ButtonEx* m_btnFile = nullptr;
     ButtonEx* m_settingsButton = nullptr;
     ButtonEx* m_fetch = nullptr;
+    ButtonEx* m_cmdClear = nullptr;
+    ButtonEx* m_cmdRefresh = nullptr;
     GameIdBox* m_gameId = nullptr;
     XP_ProgressBar* m_progress = nullptr;
     QWidget* m_picLeft = nullptr;
     MorphListBox* m_games = nullptr;
     QWidget* m_barLeft = nullptr;
-    QLabel* m_picPreview = nullptr;
+    CoverBox* m_picPreview = nullptr;
     QWidget* m_picMain = nullptr;
     UpdateListView* m_updates = nullptr;
     QWidget* m_barMain = nullptr;
     QTextEdit* m_notes = nullptr;
-    QLabel* m_imgPreview = nullptr;
+    CoverBox* m_imgPreview = nullptr;
     QPlainTextEdit* m_browser = nullptr;
-    CTooltip* m_toolTip = nullptr;
-    CaptionDrag* m_drag = nullptr;
+
+    std::unique_ptr<CaptionDrag> m_drag;
+    std::unique_ptr<SplitColumn> m_leftColumn;
+    std::unique_ptr<SplitColumn> m_mainColumn;
+    std::unique_ptr<CoverPanel> m_cover;
+    std::unique_ptr<GameListInput> m_gameInput;
+    std::unique_ptr<UpdateListInput> m_updateInput;
+    std::unique_ptr<ListProgress> m_listProgress;
 };
 
 } // namespace varnhold

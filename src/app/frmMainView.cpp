@@ -1,12 +1,16 @@
-// What a lookup shows on the main window.
+// What the routines of lookup and game list show on the main window.
 
+#include "app/CoverPanel.h"
 #include "app/GameIdBox.h"
+#include "app/ListProgress.h"
 #include "app/UpdateListView.h"
 #include "app/frmMain.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "covers/CoverPicture.h"
 #include "platform/ElidedLabel.h"
 
+#include <QPixmap>
 #include <QTextEdit>
 
 namespace varnhold {
@@ -58,10 +62,7 @@ void frmMain::setProgressValue(int percent)
 
 void frmMain::showListViews()
 {
-    m_imgPreview->hide();
-    m_updates->show();
-    m_barMain->show();
-    m_notes->show();
+    m_cover->showListViews();
 }
 
 void frmMain::autosizeColumns()
@@ -88,6 +89,81 @@ QString frmMain::selectTitleRow(int row)
 void frmMain::setTitleRow(int row, const QString& title)
 {
     m_titles.setRow(row, title);
+}
+
+void frmMain::showBusy(bool busy)
+{
+    if (busy)
+        setCursor(Qt::WaitCursor);
+    else
+        unsetCursor();
+}
+
+int frmMain::gameCount() const
+{
+    return m_games->ListCount();
+}
+
+void frmMain::showNotes(const QString& rtf)
+{
+    m_notes->setPlainText(rtf);
+}
+
+void frmMain::Make_Links() {}
+
+void frmMain::showStoredPicture(const QByteArray& bytes)
+{
+    showPicture(QPixmap::fromImage(coverPicture(bytes)));
+}
+
+void frmMain::showCoverFile(const QString& path)
+{
+    showPicture(QPixmap::fromImage(coverPictureFile(path)));
+}
+
+void frmMain::showBlankPicture()
+{
+    showPicture({});
+}
+
+void frmMain::showPicture(const QPixmap& picture)
+{
+    if (picture.isNull() && m_blankPicture)
+        m_cover->setPicture(m_blankPicture());
+    else
+        m_cover->setPicture(picture);
+}
+
+void frmMain::clearTitleTexts()
+{
+    m_gameId->clear();
+    m_info->clear();
+}
+
+void frmMain::clearNotes()
+{
+    m_notes->clear();
+    m_notes->setReadOnly(true);
+}
+
+void frmMain::showListProgress(int value)
+{
+    m_listProgress->show(value);
+}
+
+void frmMain::setListProgressMaximum(int maximum)
+{
+    m_listProgress->setMaximum(maximum);
+}
+
+void frmMain::setListProgress(int value)
+{
+    m_listProgress->setValue(value);
+}
+
+void frmMain::hideListProgress()
+{
+    m_listProgress->hide();
 }
 
 } // namespace varnhold

@@ -14,8 +14,11 @@ using namespace Qt::StringLiterals;
 frmMenu::frmMenu(Sounds& sounds)
     : m_sounds(sounds),
       m_mnuMenu(addMenu("mnuMenu")),
+      m_mnuLBox(addMenu("mnuLBox")),
       m_mnuLView(addMenu("mnuLView")),
       m_mnuSkins(addMenu("mnuSkins")),
+      m_mnuImage(addMenu("mnuImage")),
+      m_mnuLBIcons(m_mnuLBox->addAction(u"Icons"_s)),
       m_imgBlank(new QLabel(this))
 {
     setObjectName("frmMenu"_L1);
@@ -25,6 +28,12 @@ frmMenu::frmMenu(Sounds& sounds)
     addEntry(*m_mnuMenu, "mnuRaw", u"Raw"_s, &frmMenu::mnuRaw_Click);
     m_mnuMenu->addSeparator()->setObjectName("line002"_L1);
     addEntry(*m_mnuMenu, "mnuExit", u"Exit"_s, &frmMenu::mnuExit_Click);
+    m_mnuLBIcons->setObjectName("mnuLBIcons"_L1);
+    m_mnuLBIcons->setCheckable(true);
+    connect(m_mnuLBIcons, &QAction::triggered, this, [this](bool checked) {
+        m_mnuLBIcons->setChecked(!checked); // the routine that follows decides
+        Q_EMIT mnuLBIcons_Click();
+    });
     addEntry(*m_mnuLView, "mnuDLoad", u"Download"_s, &frmMenu::mnuDLoad_Click);
     addEntry(*m_mnuSkins, "mnuSkinDL", u"Download"_s, &frmMenu::mnuSkinDL_Click);
     addEntry(*m_mnuSkins, "mnuSkin_Refresh", u"Refresh"_s, &frmMenu::mnuSkin_Refresh_Click);
@@ -32,6 +41,10 @@ frmMenu::frmMenu(Sounds& sounds)
     QAction* const design = m_mnuSkins->addAction(u"-"_s); // the array's own entry, from its design
     design->setObjectName("mnuSkin(0)"_L1);
     design->setVisible(false);
+    addEntry(*m_mnuImage, "mnuImageView", u"View"_s, &frmMenu::mnuImageView_Click);
+    m_mnuImage->addSeparator()->setObjectName("space000001"_L1);
+    addEntry(*m_mnuImage, "mnuImageExplore", u"Explore"_s, &frmMenu::mnuImageExplore_Click);
+    addEntry(*m_mnuImage, "mnuImageOpen", u"Open"_s, &frmMenu::mnuImageOpen_Click);
     m_imgBlank->setObjectName("imgBlank"_L1);
 }
 
@@ -54,9 +67,29 @@ void frmMenu::popUp_mnuMenu(const QPoint& globalPosition)
     popUp(*m_mnuMenu, globalPosition);
 }
 
+void frmMenu::popUp_mnuLBox(const QPoint& globalPosition)
+{
+    popUp(*m_mnuLBox, globalPosition);
+}
+
+void frmMenu::popUp_mnuImage(const QPoint& globalPosition)
+{
+    popUp(*m_mnuImage, globalPosition);
+}
+
 void frmMenu::popUp_mnuLView(const QPoint& globalPosition)
 {
     m_mnuLView->popup(globalPosition); // the list sounds when the button is released
+}
+
+bool frmMenu::iconsEntryChecked() const
+{
+    return m_mnuLBIcons->isChecked();
+}
+
+void frmMenu::checkIconsEntry(bool checked)
+{
+    m_mnuLBIcons->setChecked(checked);
 }
 
 void frmMenu::popUp_mnuSkins(const QPoint& globalPosition)

@@ -21,13 +21,18 @@ class frmMenu : public QWidget
 public:
     explicit frmMenu(Sounds& sounds);
 
-    /// Both play the menu sound first.
+    /// These play the menu sound first.
     void popUp_mnuMenu(const QPoint& globalPosition);
+    void popUp_mnuLBox(const QPoint& globalPosition);
+    void popUp_mnuImage(const QPoint& globalPosition);
     void popUp_mnuLView(const QPoint& globalPosition); ///< without a sound
 
     void popUp_mnuSkins(const QPoint& globalPosition); ///< without a sound
     /// The entries mnuSkin(1) and on.
     void fill_mnuSkin(const SkinCatalogue& catalogue);
+    /// The check mark of mnuLBIcons; choosing the entry leaves it as it is.
+    [[nodiscard]] bool iconsEntryChecked() const;
+    void checkIconsEntry(bool checked);
     [[nodiscard]] const QLabel& imgBlank() const { return *m_imgBlank; }
 
 Q_SIGNALS:
@@ -35,7 +40,11 @@ Q_SIGNALS:
     void mnuWebOpen_Click();
     void mnuRaw_Click();
     void mnuExit_Click();
+    void mnuLBIcons_Click();
     void mnuDLoad_Click();
+    void mnuImageView_Click();
+    void mnuImageExplore_Click();
+    void mnuImageOpen_Click();
     void mnuSkinDL_Click();
     void mnuSkin_Refresh_Click();
     void mnuSkin_Path_Click();
@@ -48,8 +57,11 @@ private:
 
     Sounds& m_sounds;
     QMenu* m_mnuMenu;
+    QMenu* m_mnuLBox;
     QMenu* m_mnuLView;
     QMenu* m_mnuSkins;
+    QMenu* m_mnuImage;
+    QAction* m_mnuLBIcons;
     QLabel* m_imgBlank; ///< picture of a title without a cover
     std::vector<QAction*> m_skinEntries;
 };

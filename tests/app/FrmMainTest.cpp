@@ -1,6 +1,5 @@
-#include "AppWorld.h"
+#include "MainWindowWorld.h"
 
-#include "app/MainLayout.h"
 #include "app/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/CTooltip/CTooltip.h"
@@ -21,51 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class FrmMain : public testing::Test, protected AppWorld
+class FrmMain : public testing::Test, protected MainWindowWorld
 {
-protected:
-    FrmMain()
-    {
-        window.setBarLeftTop(3285);
-        window.setBarMainTop(3285);
-        window.Splitbar_Left();
-        window.Splitbar_Main();
-        window.show();
-    }
-
-    void fillGames()
-    {
-        for (const QString& id : {u"BLUS30443 Ashgrove"_s, u"BCES00509"_s, u"blus12345x"_s})
-            window.games().AddItem(id);
-        for (const QString& title : {u"Ashgrove: Circuit"_s, u""_s, u"Third"_s})
-            window.titles().addItem(title);
-    }
-    /// Somewhere inside a row of the game list.
-    [[nodiscard]] QPoint gameRow(int row)
-    {
-        MorphListBox& games = window.games();
-        for (int y = 0; y < games.height(); ++y) {
-            if (games.MouseOverIndex(y) == row)
-                return {10, y + 2};
-        }
-        ADD_FAILURE() << "row not shown";
-        return {};
-    }
-    [[nodiscard]] QString text(const char* name) { return child<QLabel>(window, name).text(); }
-    void addUpdate(const QString& version, const QString& url)
-    {
-        list.addRow(version);
-        list.setSubItem(list.count(), UpdateList::Version, u"03.4100"_s);
-        if (!url.isEmpty())
-            list.setSubItem(list.count(), UpdateList::Url, url);
-    }
-    [[nodiscard]] QPoint updateRow(int row)
-    {
-        auto& view = child<UpdateListView>(window, "ListView1");
-        return view.visualRect(list.index(row - 1, 0)).center();
-    }
-
-    frmMain window{{state, settings, list, boxes, sounds, screen}};
 };
 
 } // namespace
@@ -75,7 +31,7 @@ TEST_F(FrmMain, KeepsItsControlsApartInBothSizes)
     const char* names[] = {"btnFile",         "btn_Tools(1)", "btn_WinState(0)", "btn_WinState(1)",
                            "btn_WinState(2)", "txtGameID",    "btnFetch",        "lblInfo",
                            "picLeft",         "picMain",      "lblStatus",       "lblBlank",
-                           "lblCnt"};
+                           "lblCnt",          "cmdClear",     "CmdRefresh"};
     for (const QSize& size : {QSize(447, 289), QSize(595, 385)}) {
         EXPECT_EQ(window.size(), size);
         for (const char* one : names) {
@@ -103,6 +59,8 @@ TEST_F(FrmMain, SwitchesBetweenItsSizes)
     EXPECT_EQ(stored(u"Miximize"_s), u"2"_s);
     EXPECT_EQ(child(window, "lblStatus").y(), 370);
     EXPECT_EQ(button.x(), 562);
+    EXPECT_EQ(child(window, "cmdClear").pos(), QPoint(305, 370));
+    EXPECT_EQ(child(window, "CmdRefresh").pos(), QPoint(455, 370));
     QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_EQ(window.size(), QSize(447, 289));
     EXPECT_EQ(stored(u"Miximize"_s), u"1"_s);
@@ -199,67 +157,6 @@ TEST_F(FrmMain, FiltersPastedText)
         box.insert(pasted);
         EXPECT_EQ(box.text(), remains);
     }
-}
-
-TEST_F(FrmMain, ShowsTheClickedGame)
-{
-    fillGames();
-    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
-    setCheck(Check::RemoveUnw, true);
-    setCheck(Check::Colon, true);
-    QTest::mouseClick(&window.games(), Qt::LeftButton, {}, gameRow(0));
-    EXPECT_EQ(player.played, QStringList{u"0"_s});
-    EXPECT_EQ(state.LookupID, u"BLUS30443"_s);
-    EXPECT_EQ(window.gameIdText(), u"BLUS30443"_s);
-    EXPECT_EQ(window.info(), u"Ashgrove - Circuit"_s);
-    EXPECT_EQ(window.titles().listIndex(), 0);
-    EXPECT_EQ(list.count(), 0);
-
-    QTest::mouseClick(&window.games(), Qt::LeftButton, {}, gameRow(1));
-    EXPECT_EQ(window.info(), u"Ashgrove - Circuit"_s) << "an empty title leaves the one shown";
-    EXPECT_EQ(window.gameIdText(), u"BCES00509"_s);
-}
-
-TEST_F(FrmMain, LeavesTheRowsAloneWhenNoGameIsSelected)
-{
-    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
-    Q_EMIT window.games().Click();
-    EXPECT_EQ(list.count(), 1);
-    EXPECT_EQ(player.played.size(), 1);
-}
-
-TEST_F(FrmMain, ClearsTheRowsWhenAnyKeyComesUpInTheGameList)
-{
-    fillGames();
-    const QSignalSpy fetches(&window, &frmMain::fetchRequested);
-    window.games().setListIndex(2);
-    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
-    QTest::keyPress(&window.games(), Qt::Key_Return);
-    EXPECT_EQ(fetches.count(), 1);
-    EXPECT_EQ(list.count(), 1);
-    QTest::keyRelease(&window.games(), Qt::Key_Return);
-    EXPECT_EQ(list.count(), 0);
-    EXPECT_EQ(window.gameIdText(), u"blus12345"_s) << "the row's text, as the box keeps it";
-    EXPECT_EQ(window.info(), u"Third"_s);
-
-    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
-    QTest::keyClick(&window.games(), Qt::Key_Q);
-    EXPECT_EQ(list.count(), 0);
-    QTest::keyClick(&window.games(), Qt::Key_Up);
-    EXPECT_EQ(window.gameIdText(), u"BCES00509"_s);
-}
-
-TEST_F(FrmMain, TellsTheGameBelowThePointer)
-{
-    fillGames();
-    MorphListBox& games = window.games();
-    QTest::mouseMove(&games, gameRow(0));
-    EXPECT_EQ(games.toolTip(), u"BLUS30443 Ashgrove-[Ashgrove: Circuit]"_s);
-    EXPECT_EQ(window.titles().listIndex(), 0);
-    QTest::mouseMove(&games, {10, games.height() - 8});
-    EXPECT_EQ(games.toolTip(), u"-[]"_s);
-    QTest::mouseClick(&games, Qt::RightButton, {}, gameRow(1));
-    EXPECT_EQ(games.ListIndex(), 1) << "a press selects, whichever button it was";
 }
 
 TEST_F(FrmMain, HandsOnWhatIsDoneInTheUpdateList)

@@ -73,7 +73,7 @@ TEST_F(FrmWinsock, StaysAboveItsOwner)
 
 TEST_F(FrmWinsock, FollowsItsOpacityOneWindowAfterTheOther)
 {
-    frmMain main({state, settings, list, boxes, sounds, screen});
+    frmMain main({state, settings, list, boxes, sounds, screen, root.paths()});
     DownloadWindows windows({.client = {sockets, files, clock, pump, boxes},
                              .state = state,
                              .settings = settings,

@@ -48,7 +48,7 @@ protected:
     Hosts hosts;
     FakeCertificateHost certificateHost;
     CertificateWatch certificates{settings, certificateHost};
-    frmMain main{{state, settings, list, boxes, sounds, screen}};
+    frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
     SkinPage skinPage;
     frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
     bool first = true;

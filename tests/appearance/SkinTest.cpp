@@ -65,7 +65,7 @@ protected:
     FakePump pump;
     SkinPage page;
     frmMenu menu{sounds};
-    frmMain main{{state, settings, list, boxes, sounds, screen}};
+    frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
     frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), page}};
     std::unique_ptr<frmSplash> splash = std::make_unique<frmSplash>();
     SkinnedWindows windows{main, settingsWindow, menu, splash};

@@ -115,6 +115,8 @@ void MorphListBox::keyPressEvent(QKeyEvent* event)
 
 void MorphListBox::keyReleaseEvent(QKeyEvent* event)
 {
+    if (event->isAutoRepeat())
+        return; // the key is still held
     deliver(m_model->keyUp(keyCodeOf(event->key()), shiftOf(event->modifiers())));
 }
 

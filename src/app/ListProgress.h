@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QElapsedTimer>
+
+namespace varnhold {
+
+class XP_ProgressBar;
+
+/// ProgressBar1 while the game list loads. The load runs no events, so the bar is painted from here, seldom
+/// enough to cost nothing.
+class ListProgress
+{
+public:
+    explicit ListProgress(XP_ProgressBar& bar) : m_bar(bar) {}
+
+    void show(int value);
+    void setMaximum(int maximum);
+    /// `value` out of the maximum.
+    void setValue(int value);
+    void hide();
+
+private:
+    XP_ProgressBar& m_bar;
+    QElapsedTimer m_painted;
+};
+
+} // namespace varnhold

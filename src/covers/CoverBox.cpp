@@ -1,0 +1,73 @@
+#include "covers/CoverBox.h"
+
+#include "covers/FitPreviewImage.h"
+#include "platform/HandCursors.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace varnhold {
+
+CoverBox::CoverBox(QWidget* parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(imgCurser(0));
+}
+
+void CoverBox::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    m_shown = {};
+    update();
+}
+
+void CoverBox::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRect place = fitPreviewImage(m_picture.size(), size());
+    if (!place.isEmpty()) {
+        const QSize pixels = place.size() * devicePixelRatio();
+        if (m_shown.size() != pixels) {
+            m_shown = m_picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            m_shown.setDevicePixelRatio(devicePixelRatio());
+        }
+        painter.drawPixmap(place.topLeft(), m_shown);
+    }
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Link));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void CoverBox::mousePressEvent(QMouseEvent*)
+{
+    setCursor(imgCurser(2));
+}
+
+void CoverBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    setCursor(imgCurser(0));
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT activated();
+    else if (event->button() == Qt::RightButton)
+        Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+void CoverBox::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const bool activates = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    event->setAccepted(activates);
+    if (activates && !event->isAutoRepeat())
+        Q_EMIT activated();
+}
+
+void CoverBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuWanted(mapToGlobal(rect().center()));
+}
+
+} // namespace varnhold

@@ -1,0 +1,128 @@
+// The cover below the game list and its large view.
+
+#include "MainWindowWorld.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QPainter>
+#include <QSignalSpy>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray pictureBytes(const QSize& size, const char* format)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(qRgb(10, 120, 200));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+class CoverPanelTest : public testing::Test, protected MainWindowWorld
+{
+protected:
+    CoverPanelTest()
+    {
+        window.setBlankPicture([] { return QPixmap(7, 7); });
+    }
+    void click(Qt::MouseButton button = Qt::LeftButton) { QTest::mouseClick(&preview, button); }
+    [[nodiscard]] QSize shownSize() const { return preview.property("Picture").value<QPixmap>().size(); }
+
+    QWidget& preview = child(window, "PicPreview");
+    QWidget& large = child(window, "imgPreview");
+};
+
+} // namespace
+
+TEST_F(CoverPanelTest, ShowsWhateverPictureItIsGiven)
+{
+    const QByteArray jpeg = pictureBytes({60, 90}, "jpg");
+    const std::pair<QByteArray, QSize> cases[] = {
+        {jpeg, {60, 90}},
+        {jpeg + '\0', {60, 90}}, // as an edited entry stores it
+        {pictureBytes({30, 20}, "bmp"), {30, 20}},
+        {"no picture at all", {7, 7}},
+        {pictureBytes({33, 44}, "png"), {33, 44}},
+        {{}, {7, 7}},
+    };
+    for (const auto& [bytes, size] : cases) {
+        window.showStoredPicture(bytes);
+        EXPECT_EQ(shownSize(), size);
+    }
+}
+
+TEST_F(CoverPanelTest, ShowsTheCoverLargeInsteadOfTheViews)
+{
+    window.showStoredPicture(pictureBytes({300, 400}, "jpg"));
+    click();
+    EXPECT_EQ(player.played, QStringList{u"0"_s});
+    EXPECT_TRUE(large.isVisible());
+    EXPECT_EQ(viewsShown(), 0);
+    EXPECT_EQ(large.geometry(), QRect(84, 0, 168, 224)) << "as high as the column, in its middle";
+    EXPECT_FALSE(QFile::exists(root.path(u"temp.bmp"_s)));
+    click();
+    EXPECT_FALSE(large.isVisible());
+    EXPECT_EQ(viewsShown(), 3);
+    EXPECT_EQ(player.played.size(), 2);
+}
+
+TEST_F(CoverPanelTest, FitsTheLargeCoverToTheOtherWindowSize)
+{
+    window.showStoredPicture(pictureBytes({400, 100}, "jpg"));
+    click();
+    EXPECT_EQ(large.geometry(), QRect(0, 70, 337, 84));
+    window.EnlargeMainWindow();
+    EXPECT_EQ(large.geometry(), QRect(0, 99, 485, 121));
+    window.RestoreMainWindow();
+    EXPECT_EQ(large.geometry(), QRect(0, 70, 337, 84));
+    window.showListViews();
+    window.EnlargeMainWindow();
+    EXPECT_FALSE(large.isVisible());
+    EXPECT_EQ(viewsShown(), 3);
+}
+
+TEST_F(CoverPanelTest, EnlargesInAFolderThatCannotBeWrittenTo)
+{
+    ASSERT_TRUE(QDir(root.paths().root).removeRecursively());
+    window.showStoredPicture(pictureBytes({300, 400}, "jpg"));
+    click();
+    EXPECT_TRUE(large.isVisible());
+}
+
+TEST_F(CoverPanelTest, KeepsTheViewsWhereNoPictureIs)
+{
+    window.setBlankPicture({});
+    window.showBlankPicture();
+    click();
+    EXPECT_FALSE(large.isVisible());
+    EXPECT_EQ(viewsShown(), 3);
+}
+
+TEST_F(CoverPanelTest, ShowsHandsAndItsMenu)
+{
+    const QSignalSpy menus(&window, &frmMain::mnuImageWanted);
+    QTest::mousePress(&preview, Qt::RightButton);
+    EXPECT_EQ(preview.cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(menus.count(), 0);
+    QTest::mouseRelease(&preview, Qt::RightButton);
+    EXPECT_EQ(preview.cursor().shape(), Qt::OpenHandCursor);
+    EXPECT_EQ(menus.count(), 1);
+    EXPECT_FALSE(large.isVisible());
+}
+
+TEST_F(CoverPanelTest, AnswersToTheKeyboard)
+{
+    window.showStoredPicture(pictureBytes({30, 40}, "jpg"));
+    QTest::keyClick(&preview, Qt::Key_Space);
+    EXPECT_TRUE(large.isVisible());
+    QTest::keyClick(&preview, Qt::Key_Return);
+    EXPECT_FALSE(large.isVisible());
+}
+
+} // namespace varnhold::test
