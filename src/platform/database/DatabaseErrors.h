@@ -1,11 +1,16 @@
 #pragma once
 
-namespace varnhold::errors {
+#include "platform/RunTimeError.h"
+
+#include <QString>
+
+namespace varnhold {
+
+namespace errors::database {
 
 /// Codes of the database layer, carried by RunTimeError. The values are those of the provider that the
 /// program's handlers were written against.
-namespace database {
-inline constexpr int locked = static_cast<int>(0x80004005);        ///< also: a file that is read-only
+inline constexpr int locked = static_cast<int>(0x80004005);        ///< also: read-only, damaged, disk full
 inline constexpr int unknownColumn = static_cast<int>(0x80040E10); ///< a name that is no column
 inline constexpr int badSyntax = static_cast<int>(0x80040E14);
 inline constexpr int duplicate =
@@ -17,6 +22,10 @@ inline constexpr int noCurrentRecord = 3021;
 inline constexpr int notAllowed = 3219; ///< the operation does not fit the recordset's state
 inline constexpr int objectClosed = 3704;
 inline constexpr int objectOpen = 3705;
-} // namespace database
 
-} // namespace varnhold::errors
+} // namespace errors::database
+
+/// One of the codes above with its text, which ends in the name of what it is about, if there is one.
+RunTimeError databaseError(int number, const QString& name = {});
+
+} // namespace varnhold

@@ -9,9 +9,10 @@ namespace varnhold {
 
 class DatabaseConnection;
 
-/// A static cursor over one table with optimistic locks: the rows that answered the statement when it was
-/// opened, however the table changes afterwards. Lazy: rows are looked up when something is asked of them,
-/// so opening a table for one insert does not read it. Column names without regard to case.
+/// A static cursor over one table with optimistic locks: the rows that answered the statement, however the
+/// table changes afterwards, with those stored through it behind them. Lazy: the table is read when something
+/// is first asked of the rows, so opening it for one insert does not read it. Column names without regard to
+/// case.
 ///
 /// Statements are the program's own shapes and nothing else; values stand between apostrophes and are bound,
 /// and an apostrophe inside a value is bad syntax, never a further condition:
@@ -33,7 +34,7 @@ public:
 
     [[nodiscard]] int RecordCount() const;
     [[nodiscard]] bool atEnd() const;           ///< EOF
-    [[nodiscard]] int AbsolutePosition() const; ///< from 1
+    [[nodiscard]] int AbsolutePosition() const; ///< from 1; RunTimeError 3021 past the end
     void MoveNext();                            ///< RunTimeError 3021 past the end
 
     /// Of the current record: a NULL and a value that is no text both come as text, NULL as the null string.
@@ -44,7 +45,8 @@ public:
     /// Up to `length` bytes from where the last GetChunk of this column on this record ended.
     [[nodiscard]] QByteArray GetChunk(const QString& column, qint64 length);
 
-    /// A new record is under way until Update; another AddNew stores it first.
+    /// A new record is under way until Update; another AddNew or MoveNext stores it first. Stored, it is the
+    /// current record.
     void AddNew();
     void setValue(const QString& column, const QString& value);
     /// Sets the column at its first call on a record under way and appends at the next ones.
@@ -57,6 +59,8 @@ public:
 
 private:
     class State;
+    [[nodiscard]] State& state() const; ///< RunTimeError 3704 when not open
+
     std::unique_ptr<State> m_state;
 };
 

@@ -1,0 +1,272 @@
+#include "platform/database/DatabaseFile.h"
+
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/TextFolding.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <utility>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How long another program's lock is waited for: the windows stand still meanwhile.
+constexpr int patienceMilliseconds = 250;
+
+/// Bytes 18 and 19 of a file that wants a write-ahead log both to be written and to be read.
+bool wantsWriteAheadLog(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray header = file.read(20);
+    return header.size() == 20 && header[18] == 2 && header[19] == 2;
+}
+
+int runOnce(sqlite3* engine, const char* sql)
+{
+    return sqlite3_exec(engine, sql, nullptr, nullptr, nullptr);
+}
+
+} // namespace
+
+void DatabaseFile::EngineCloser::operator()(sqlite3* engine) const
+{
+    sqlite3_close(engine);
+}
+
+DatabaseFile::DatabaseFile(const QString& path)
+{
+    // A folder, a pipe or an empty file are no databases, though the engine would take the last for one.
+    const QFileInfo info(path);
+    if (path.isEmpty() || path.contains(QChar(u'\0')) || !info.isFile() || info.size() == 0)
+        throw databaseError(errors::database::cannotOpen, path);
+    const QString fullPath = info.absoluteFilePath();
+    m_engine = open(fullPath);
+    int result = probe(m_engine.get());
+    if (result != SQLITE_OK && result != SQLITE_BUSY && wantsWriteAheadLog(fullPath) &&
+        QFileInfo(fullPath + u"-wal"_s).size() == 0) {
+        // A folder that takes no log: nothing waits in one, so the file can be read as it stands.
+        m_engine = openUnchanging(fullPath);
+        result = probe(m_engine.get());
+    }
+    switch (result & 0xff) {
+    case SQLITE_OK:
+        break;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_READONLY:
+    case SQLITE_NOMEM:
+        throwEngineError(result, sqlite3_errmsg(m_engine.get()));
+    default:
+        throw databaseError(errors::database::cannotOpen, path);
+    }
+    m_readOnly = sqlite3_db_readonly(m_engine.get(), "main") != 0;
+}
+
+DatabaseFile::~DatabaseFile()
+{
+    close();
+}
+
+DatabaseFile::Engine DatabaseFile::open(const QString& path)
+{
+    sqlite3* engine = nullptr;
+    sqlite3_open_v2(QFile::encodeName(path).constData(), &engine, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
+                    nullptr);
+    configure(engine);
+    return Engine(engine);
+}
+
+DatabaseFile::Engine DatabaseFile::openUnchanging(const QString& path)
+{
+    sqlite3* engine = nullptr;
+    const QByteArray uri = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
+    sqlite3_open_v2(uri.constData(), &engine, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX,
+                    nullptr);
+    configure(engine);
+    return Engine(engine);
+}
+
+void DatabaseFile::configure(sqlite3* engine)
+{
+    if (engine == nullptr)
+        throw RunTimeError(errors::outOfMemory);
+    sqlite3_extended_result_codes(engine, 1);
+    sqlite3_busy_timeout(engine, patienceMilliseconds);
+    // The file comes from anywhere.
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(engine, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+}
+
+int DatabaseFile::probe(sqlite3* engine)
+{
+    if (const int result = sqlite3_extended_errcode(engine); result != SQLITE_OK)
+        return result;
+    const int result = runOnce(engine, "SELECT count(*) FROM sqlite_schema");
+    return result == SQLITE_OK ? runOnce(engine, "PRAGMA cell_size_check = ON") : result;
+}
+
+void DatabaseFile::close() noexcept
+{
+    if (!m_engine)
+        return;
+    m_value.reset();
+    m_statements.clear();
+    m_tables.clear();
+    // Back to a single file that says so of itself: a copy on a medium that cannot be written can be read.
+    // While another program reads, its own close folds the log in.
+    if (m_writeAhead && runOnce(m_engine.get(), "PRAGMA journal_mode = DELETE") != SQLITE_OK)
+        sqlite3_wal_checkpoint_v2(m_engine.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    m_engine.reset();
+}
+
+EngineStatement DatabaseFile::statement(const QByteArray& sql)
+{
+    const auto found = m_statements.find(sql.toStdString());
+    if (found != m_statements.end())
+        return EngineStatement(found->second.get());
+    sqlite3_stmt* prepared = nullptr;
+    const int result = sqlite3_prepare_v3(m_engine.get(), sql.constData(), static_cast<int>(sql.size()),
+                                          SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
+    if (result != SQLITE_OK)
+        fail(result);
+    m_statements.emplace(sql.toStdString(), PreparedStatement(prepared, &sqlite3_finalize));
+    return EngineStatement(prepared);
+}
+
+void DatabaseFile::fail(int result) const
+{
+    throwEngineError(result, sqlite3_errmsg(m_engine.get()));
+}
+
+void DatabaseFile::prepareWrite()
+{
+    if (m_readOnly)
+        fail(SQLITE_READONLY);
+    m_value.reset();
+    if (!std::exchange(m_journalChosen, true))
+        useWriteAheadLog();
+}
+
+void DatabaseFile::useWriteAheadLog()
+{
+    // No waiting: who reads the file at this moment, or a file system without shared memory, leaves us with
+    // the file's own journal, which loses nothing either.
+    sqlite3_busy_timeout(m_engine.get(), 0);
+    try {
+        EngineStatement mode = statement("PRAGMA journal_mode = WAL");
+        m_writeAhead = mode.step() && mode.text(0) == QByteArrayView("wal");
+    } catch (const RunTimeError&) {
+        m_writeAhead = false;
+    }
+    sqlite3_busy_timeout(m_engine.get(), patienceMilliseconds);
+    if (m_writeAhead)
+        execute("PRAGMA synchronous = NORMAL");
+}
+
+qint64 DatabaseFile::lastInsertRowId() const
+{
+    return sqlite3_last_insert_rowid(m_engine.get());
+}
+
+int DatabaseFile::changes() const
+{
+    return sqlite3_changes(m_engine.get());
+}
+
+std::vector<QString> DatabaseFile::tableNames()
+{
+    std::vector<QString> names;
+    EngineStatement row = statement("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE "
+                                    "'sqlite!_%' ESCAPE '!' ORDER BY rowid");
+    while (row.step())
+        names.push_back(QString::fromUtf8(row.text(0)));
+    return names;
+}
+
+std::shared_ptr<const TableSchema> DatabaseFile::table(const QString& name)
+{
+    const std::string key = folded(name.toUtf8());
+    if (const auto found = m_tables.find(key); found != m_tables.end())
+        return found->second;
+    for (const QString& candidate : tableNames()) {
+        if (sameFolded(candidate, name)) {
+            auto schema = std::make_shared<const TableSchema>(readTableSchema(*this, candidate));
+            m_tables.emplace(key, schema);
+            return schema;
+        }
+    }
+    throw databaseError(errors::database::missingTable, name);
+}
+
+sqlite3_blob* DatabaseFile::openValue(const TableSchema& table, int column, qint64 rowId)
+{
+    const QByteArray name = table.columns[static_cast<std::size_t>(column)].name.toUtf8();
+    if (m_value && m_value->rowId == rowId && m_value->column == name && m_value->table == table.unquotedName)
+        return m_value->handle.get();
+    m_value.reset();
+    sqlite3_blob* handle = nullptr;
+    const int result = sqlite3_blob_open(m_engine.get(), "main", table.unquotedName.constData(),
+                                         name.constData(), rowId, 0, &handle);
+    if (result == SQLITE_ERROR)
+        return nullptr; // NULL, a number, or no such row
+    if (result != SQLITE_OK)
+        fail(result);
+    m_value.reset(new OpenValue{{handle, &sqlite3_blob_close}, name, table.unquotedName, rowId});
+    return handle;
+}
+
+qint64 DatabaseFile::valueSize(const TableSchema& table, int column, qint64 rowId)
+{
+    sqlite3_blob* const handle = openValue(table, column, rowId);
+    const qint64 size = handle ? sqlite3_blob_bytes(handle) : 0;
+    m_value.reset();
+    return size;
+}
+
+QByteArray DatabaseFile::readValue(const TableSchema& table, int column, qint64 rowId, qint64 offset,
+                                   qint64 length)
+{
+    sqlite3_blob* const handle = openValue(table, column, rowId);
+    if (!handle)
+        return {};
+    const qint64 size = sqlite3_blob_bytes(handle);
+    QByteArray bytes(qBound<qint64>(0, length, qMax<qint64>(0, size - offset)), Qt::Uninitialized);
+    const int result =
+        sqlite3_blob_read(handle, bytes.data(), static_cast<int>(bytes.size()), static_cast<int>(offset));
+    if (offset + bytes.size() >= size || result != SQLITE_OK)
+        m_value.reset();
+    if (result != SQLITE_OK)
+        fail(result);
+    return bytes;
+}
+
+Transaction::Transaction(DatabaseFile& file) : m_file(file)
+{
+    m_file.execute("BEGIN IMMEDIATE");
+}
+
+Transaction::~Transaction()
+{
+    if (m_done)
+        return;
+    try {
+        m_file.execute("ROLLBACK");
+    } catch (const RunTimeError&) {
+        // The engine took it back by itself already.
+    }
+}
+
+void Transaction::commit()
+{
+    m_file.execute("COMMIT");
+    m_done = true;
+}
+
+} // namespace varnhold

@@ -1,0 +1,100 @@
+#include "platform/database/EngineStatement.h"
+
+#include "platform/RunTimeError.h"
+#include "platform/database/DatabaseErrors.h"
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+EngineStatement::~EngineStatement()
+{
+    sqlite3_reset(m_statement);
+    sqlite3_clear_bindings(m_statement);
+}
+
+void EngineStatement::bindInteger(int index, qint64 value)
+{
+    require(sqlite3_bind_int64(m_statement, index, value));
+}
+
+void EngineStatement::bindText(int index, QByteArrayView utf8)
+{
+    // An empty view may have no address, which would bind NULL.
+    require(sqlite3_bind_text64(m_statement, index, utf8.isEmpty() ? "" : utf8.data(),
+                                static_cast<sqlite3_uint64>(utf8.size()), SQLITE_STATIC, SQLITE_UTF8));
+}
+
+void EngineStatement::bindBinary(int index, QByteArrayView bytes)
+{
+    require(sqlite3_bind_blob64(m_statement, index, bytes.isEmpty() ? "" : bytes.data(),
+                                static_cast<sqlite3_uint64>(bytes.size()), SQLITE_STATIC));
+}
+
+bool EngineStatement::step()
+{
+    const int result = sqlite3_step(m_statement);
+    if (result == SQLITE_ROW)
+        return true;
+    if (result == SQLITE_DONE)
+        return false;
+    sqlite3* const engine = sqlite3_db_handle(m_statement);
+    throwEngineError(sqlite3_extended_errcode(engine), sqlite3_errmsg(engine));
+}
+
+bool EngineStatement::isNull(int column) const
+{
+    return sqlite3_column_type(m_statement, column) == SQLITE_NULL;
+}
+
+qint64 EngineStatement::integer(int column) const
+{
+    return sqlite3_column_int64(m_statement, column);
+}
+
+QByteArrayView EngineStatement::text(int column) const
+{
+    const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, column));
+    if (text == nullptr && sqlite3_errcode(sqlite3_db_handle(m_statement)) == SQLITE_NOMEM)
+        throw RunTimeError(errors::outOfMemory);
+    return {text, sqlite3_column_bytes(m_statement, column)};
+}
+
+void EngineStatement::require(int result) const
+{
+    if (result != SQLITE_OK)
+        throwEngineError(result, sqlite3_errmsg(sqlite3_db_handle(m_statement)));
+}
+
+void throwEngineError(int result, const char* message)
+{
+    namespace db = errors::database;
+    switch (result) {
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+        throw databaseError(db::duplicate);
+    default:
+        break;
+    }
+    switch (result & 0xff) {
+    case SQLITE_NOMEM:
+        throw RunTimeError(errors::outOfMemory);
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw databaseError(db::locked);
+    case SQLITE_READONLY:
+        throw RunTimeError(db::locked, u"The database is read-only."_s);
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        throw RunTimeError(db::locked, u"The database is damaged."_s);
+    case SQLITE_FULL:
+        throw RunTimeError(db::locked, u"The disk is full."_s);
+    case SQLITE_CANTOPEN:
+        throw RunTimeError(db::locked, u"The database's folder cannot be written."_s);
+    default:
+        throw RunTimeError(db::locked, u"The database engine failed: "_s + QString::fromUtf8(message) + u'.');
+    }
+}
+
+} // namespace varnhold

@@ -1,0 +1,197 @@
+#include "platform/database/RowSnapshot.h"
+
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/TextFolding.h"
+#include "platform/database/TextOrder.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Single look-ups of a column before it is read as a whole.
+constexpr int patience = 64;
+/// A column is read as a whole only when at least one in so many row ids of its range belongs to the
+/// snapshot.
+constexpr qint64 sparsest = 32;
+
+QString toText(bool null, QByteArrayView text)
+{
+    if (null)
+        return {};
+    return text.isEmpty() ? u""_s : QString::fromUtf8(text);
+}
+
+const QByteArray& quoted(const TableSchema& table, int column)
+{
+    return table.columns[static_cast<std::size_t>(column)].quoted;
+}
+
+} // namespace
+
+quint64 TextColumn::cellOf(bool isNull, QByteArrayView text)
+{
+    if (isNull)
+        return null;
+    if (text.size() > longest)
+        return lookUp;
+    const quint64 start = m_texts.size();
+    m_texts.append(text.data(), static_cast<std::size_t>(text.size()));
+    return start << startShift | static_cast<quint64>(text.size()) << lengthShift;
+}
+
+std::optional<QString> TextColumn::text(std::size_t row) const
+{
+    const quint64 cell = m_cells[row];
+    if (cell & lookUp)
+        return {};
+    const quint64 length = (cell >> lengthShift) & longest;
+    return toText(cell & null, {m_texts.data() + (cell >> startShift), static_cast<qsizetype>(length)});
+}
+
+RowSnapshot::RowSnapshot(DatabaseFile& file, std::shared_ptr<const TableSchema> table,
+                         const DatabaseStatement& statement, const std::vector<qint64>& left)
+    : m_file(file),
+      m_table(std::move(table)),
+      m_columns(m_table->columns.size()),
+      m_lookUps(m_table->columns.size())
+{
+    scan(statement, left);
+}
+
+void RowSnapshot::scan(const DatabaseStatement& statement, const std::vector<qint64>& left)
+{
+    const int compared = statement.condition ? m_table->column(statement.condition->column) : -1;
+    const int sorted = statement.order ? m_table->column(statement.order->column) : -1;
+    const QByteArray wantedText = statement.condition ? statement.condition->value.toUtf8() : QByteArray();
+    const FoldedText wanted(wantedText);
+
+    std::vector<std::pair<int, TextColumn*>> kept;
+    QByteArray sql = "SELECT " + m_table->rowId;
+    for (int column = 0; column < static_cast<int>(m_table->columns.size()); ++column) {
+        const ColumnSchema& schema = m_table->columns[static_cast<std::size_t>(column)];
+        if (column != compared && column != sorted && (compared >= 0 || !schema.unique))
+            continue;
+        kept.emplace_back(column, &m_columns[static_cast<std::size_t>(column)].emplace());
+        sql += ", " + schema.quoted;
+    }
+    sql += " FROM " + m_table->quoted;
+    // The file's own index finds ASCII text in any case. Beyond ASCII it knows no case: all rows are looked
+    // at.
+    const bool byIndex = compared >= 0 && wanted.isAscii();
+    if (byIndex)
+        sql += " WHERE " + quoted(*m_table, compared) + " = ?1 COLLATE NOCASE";
+    if (sorted < 0)
+        sql += " ORDER BY 1";
+
+    EngineStatement row = m_file.statement(sql);
+    if (byIndex)
+        row.bindText(1, wantedText);
+    TextOrder order;
+    std::vector<QByteArrayView> texts(kept.size());
+    std::vector<bool> nulls(kept.size());
+    while (row.step()) {
+        const qint64 rowId = row.integer(0);
+        if (!left.empty() && std::binary_search(left.begin(), left.end(), rowId))
+            continue;
+        bool answers = true;
+        for (std::size_t i = 0; i < kept.size() && answers; ++i) {
+            const int column = static_cast<int>(i) + 1;
+            texts[i] = row.text(column);
+            nulls[i] = texts[i].isEmpty() && row.isNull(column);
+            answers = kept[i].first != compared || (!nulls[i] && wanted.matches(texts[i]));
+        }
+        if (!answers)
+            continue;
+        m_rowIds.push_back(rowId);
+        for (std::size_t i = 0; i < kept.size(); ++i) {
+            kept[i].second->append(nulls[i], texts[i]);
+            if (kept[i].first != sorted)
+                continue;
+            appendFolded(order.keys(), texts[i]);
+            if (nulls[i])
+                order.finishNullRow();
+            else
+                order.finishRow();
+        }
+    }
+    if (sorted >= 0)
+        m_order = order.sorted(statement.order->descending);
+}
+
+QString RowSnapshot::text(std::size_t position, int column)
+{
+    auto& loaded = m_columns[static_cast<std::size_t>(column)];
+    if (!loaded)
+        loadWhenWorthIt(column);
+    if (loaded) {
+        if (std::optional<QString> text = loaded->text(scanned(position)))
+            return *std::move(text);
+    }
+    std::optional<QString> text = lookUpText(m_file, *m_table, rowId(position), column);
+    if (!text)
+        throw databaseError(errors::database::noCurrentRecord);
+    return *std::move(text);
+}
+
+void RowSnapshot::forget(std::size_t position, int column)
+{
+    if (auto& loaded = m_columns[static_cast<std::size_t>(column)])
+        loaded->forget(scanned(position));
+}
+
+void RowSnapshot::loadWhenWorthIt(int column)
+{
+    if (++m_lookUps[static_cast<std::size_t>(column)] != patience)
+        return;
+    const auto [first, last] = std::minmax_element(m_rowIds.begin(), m_rowIds.end());
+    if (m_rowIds.size() > patience && (*last - *first) / sparsest < static_cast<qint64>(m_rowIds.size()))
+        load(column);
+}
+
+void RowSnapshot::load(int column)
+{
+    // Both go by row id: a merge. Rows were scanned in another order when an index served.
+    std::vector<quint32> byRowId(m_rowIds.size());
+    std::iota(byRowId.begin(), byRowId.end(), 0);
+    if (!std::is_sorted(m_rowIds.begin(), m_rowIds.end()))
+        std::sort(byRowId.begin(), byRowId.end(),
+                  [&](quint32 a, quint32 b) { return m_rowIds[a] < m_rowIds[b]; });
+
+    TextColumn texts(m_rowIds.size());
+    EngineStatement row =
+        m_file.statement("SELECT " + m_table->rowId + ", " + quoted(*m_table, column) + " FROM " +
+                         m_table->quoted + " WHERE " + m_table->rowId + " BETWEEN ?1 AND ?2 ORDER BY 1");
+    row.bindInteger(1, m_rowIds[byRowId.front()]);
+    row.bindInteger(2, m_rowIds[byRowId.back()]);
+    auto next = byRowId.begin();
+    while (next != byRowId.end() && row.step()) {
+        const qint64 rowId = row.integer(0);
+        while (next != byRowId.end() && m_rowIds[*next] < rowId)
+            ++next;
+        if (next == byRowId.end() || m_rowIds[*next] != rowId)
+            continue;
+        const QByteArrayView text = row.text(1);
+        texts.set(*next, text.isEmpty() && row.isNull(1), text);
+    }
+    m_columns[static_cast<std::size_t>(column)] = std::move(texts);
+}
+
+std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 rowId, int column)
+{
+    EngineStatement row = file.statement("SELECT " + quoted(table, column) + " FROM " + table.quoted +
+                                         " WHERE " + table.rowId + " = ?1");
+    row.bindInteger(1, rowId);
+    if (!row.step())
+        return {};
+    const QByteArrayView text = row.text(0);
+    return toText(text.isEmpty() && row.isNull(0), text);
+}
+
+} // namespace varnhold

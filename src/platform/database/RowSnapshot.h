@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/database/DatabaseStatement.h"
+#include "platform/database/TableSchema.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace varnhold {
+
+class DatabaseFile;
+
+/// The short texts of one column, row by row, in one piece of memory.
+class TextColumn
+{
+public:
+    /// A longer text is not kept: who asks for it looks it up in the file.
+    static constexpr qsizetype longest = 255;
+
+    explicit TextColumn(std::size_t rows = 0) : m_cells(rows, lookUp) {}
+
+    void append(bool isNull, QByteArrayView text) { m_cells.push_back(cellOf(isNull, text)); }
+    void set(std::size_t row, bool isNull, QByteArrayView text) { m_cells[row] = cellOf(isNull, text); }
+    void forget(std::size_t row) { m_cells[row] = lookUp; }
+    /// Nothing when the value must be looked up.
+    [[nodiscard]] std::optional<QString> text(std::size_t row) const;
+
+private:
+    // A cell is where the text starts, its length in eight bits, and two bits for what is no text.
+    static constexpr quint64 null = 1;
+    static constexpr quint64 lookUp = 2;
+    static constexpr int lengthShift = 2;
+    static constexpr int startShift = 10;
+
+    quint64 cellOf(bool isNull, QByteArrayView text);
+
+    std::vector<quint64> m_cells;
+    std::string m_texts;
+};
+
+/// The rows that answer a statement, as they were when it was made: row ids in their order, and the columns
+/// that such a list is read for (those compared, sorted by or unique), read in one pass. Other columns come
+/// from the file row by row, and as a whole once many rows were asked.
+class RowSnapshot
+{
+public:
+    /// Rows whose id is in `left`, which is sorted, stay out.
+    RowSnapshot(DatabaseFile& file, std::shared_ptr<const TableSchema> table,
+                const DatabaseStatement& statement, const std::vector<qint64>& left = {});
+
+    [[nodiscard]] std::size_t count() const { return m_rowIds.size(); }
+    [[nodiscard]] qint64 rowId(std::size_t position) const { return m_rowIds[scanned(position)]; }
+    /// NULL as the null string. RunTimeError 3021 when the row was deleted meanwhile.
+    QString text(std::size_t position, int column);
+    /// The value was changed.
+    void forget(std::size_t position, int column);
+
+private:
+    using Columns = std::vector<std::optional<TextColumn>>;
+
+    [[nodiscard]] std::size_t scanned(std::size_t position) const
+    {
+        return m_order.empty() ? position : m_order[position];
+    }
+    void scan(const DatabaseStatement& statement, const std::vector<qint64>& left);
+    void loadWhenWorthIt(int column);
+    void load(int column);
+
+    DatabaseFile& m_file;
+    std::shared_ptr<const TableSchema> m_table;
+    std::vector<qint64> m_rowIds; ///< as they were scanned
+    std::vector<quint32> m_order; ///< position to scanned row; empty: the same
+    Columns m_columns;            ///< by scanned row
+    std::vector<int> m_lookUps;   ///< by column
+};
+
+/// One value from the file; nothing when the row is gone. NULL as the null string.
+std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 rowId, int column);
+
+} // namespace varnhold
