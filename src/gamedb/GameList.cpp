@@ -52,8 +52,7 @@ void GameList::reloadGameList()
 {
     m_services.database.reporting([this] {
         const auto busy = busyPointer(m_services.view);
-        m_services.view.showListProgress(0);
-        reload();
+        reload(false);
     });
 }
 
@@ -66,9 +65,7 @@ void GameList::loadChosenDatabase()
     view.clearUpdates();
     m_services.database.reporting([&] {
         const auto busy = busyPointer(view);
-        view.showListProgress(0);
-        renameOldTables();
-        reload();
+        reload(true);
         thank();
     });
 }
@@ -83,10 +80,13 @@ void GameList::renameOldTables()
     }
 }
 
-void GameList::reload()
+void GameList::reload(bool renaming)
 {
     {
+        m_services.view.showListProgress(0);
         const auto hideBar = qScopeGuard([this] { m_services.view.hideListProgress(); });
+        if (renaming)
+            renameOldTables();
         walk(true);
     }
     showIcons(true);

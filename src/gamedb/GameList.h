@@ -44,7 +44,7 @@ public:
 
 private:
     void renameOldTables();
-    void reload();
+    void reload(bool renaming);
     void walk(bool withProgress);
     void showIcons(bool selectFirst);
     void showCount();
