@@ -20,11 +20,6 @@ CoverPanel::CoverPanel(Parts parts, const Paths& paths, Sounds& sounds)
     connect(&m_parts.PicPreview, &CoverBox::menuWanted, this, &CoverPanel::mnuImageWanted);
 }
 
-void CoverPanel::setPicture(const QPixmap& picture)
-{
-    m_parts.PicPreview.setPicture(picture);
-}
-
 void CoverPanel::showListViews()
 {
     m_parts.imgPreview.hide();
@@ -49,7 +44,7 @@ void CoverPanel::onClick()
 
 void CoverPanel::enlarge()
 {
-    const QPixmap& picture = m_parts.PicPreview.picture();
+    const QPixmap picture = m_parts.PicPreview.wholePicture();
     if (picture.isNull())
         return;
     m_parts.imgPreview.setPicture(throughFile(picture));

@@ -29,8 +29,6 @@ public:
 
     CoverPanel(Parts parts, const Paths& paths, Sounds& sounds);
 
-    /// A null picture shows nothing.
-    void setPicture(const QPixmap& picture);
     void showListViews();
     /// For a right column that has another size now.
     void refit();

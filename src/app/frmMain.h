@@ -162,7 +162,6 @@ private:
     ElidedLabel* addLabel(const char* name, const QString& accessibleName);
     void applyLayout(const MainLayout& layout, int number);
     [[nodiscard]] bool takesPictures(int number) const;
-    void showPicture(const QPixmap& picture);
 
     Services m_services;
     HiddenList m_titles;

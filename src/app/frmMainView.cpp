@@ -7,6 +7,7 @@
 #include "app/frmMain.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "covers/CoverBox.h"
 #include "covers/CoverPicture.h"
 #include "platform/ElidedLabel.h"
 
@@ -113,25 +114,19 @@ void frmMain::Make_Links() {}
 
 void frmMain::showStoredPicture(const QByteArray& bytes)
 {
-    showPicture(QPixmap::fromImage(coverPicture(bytes)));
+    if (!m_picPreview->setPictureFrom([bytes](const QSize& most) { return coverPicture(bytes, most); }))
+        showBlankPicture();
 }
 
 void frmMain::showCoverFile(const QString& path)
 {
-    showPicture(QPixmap::fromImage(coverPictureFile(path)));
+    if (!m_picPreview->setPictureFrom([path](const QSize& most) { return coverPictureFile(path, most); }))
+        showBlankPicture();
 }
 
 void frmMain::showBlankPicture()
 {
-    showPicture({});
-}
-
-void frmMain::showPicture(const QPixmap& picture)
-{
-    if (picture.isNull() && m_blankPicture)
-        m_cover->setPicture(m_blankPicture());
-    else
-        m_cover->setPicture(picture);
+    m_picPreview->setPicture(m_blankPicture ? m_blankPicture() : QPixmap());
 }
 
 void frmMain::clearTitleTexts()

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int signSide = 12;
 
-enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear };
+enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear, Reload, Clear };
 
 Sign signOf(const ButtonEx& button)
 {
@@ -30,6 +30,10 @@ Sign signOf(const ButtonEx& button)
         return Sign::Gear;
     if (name == "btnFile"_L1)
         return Sign::Menu;
+    if (name == "CmdRefresh"_L1)
+        return Sign::Reload;
+    if (name == "cmdClear"_L1)
+        return Sign::Clear;
     return Sign::None;
 }
 
@@ -49,6 +53,19 @@ QPainterPath gear(const QPointF& centre)
     QPainterPath hole;
     hole.addEllipse(centre, 1.4, 1.4);
     return teeth.united(body).subtracted(hole);
+}
+
+void drawReload(QPainter& painter, const QPointF& centre, const QColor& color)
+{
+    // An open circle; the arrow at its upper end points to the right.
+    constexpr int degree = 16;
+    const QRectF circle(centre - QPointF(3.5, 3), QSizeF(7, 7));
+    painter.setPen(QPen(color, 1.3));
+    painter.drawArc(circle, 90 * degree, 270 * degree);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    const QPointF tip = centre + QPointF(3.5, -3);
+    painter.drawPolygon(QPolygonF({tip, tip + QPointF(-3.5, -3), tip + QPointF(-3.5, 3)}));
 }
 
 void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& color)
@@ -92,6 +109,17 @@ void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& col
         return;
     case Sign::Gear:
         painter.fillPath(gear(centre), color);
+        return;
+    case Sign::Reload:
+        drawReload(painter, centre, color);
+        return;
+    case Sign::Clear:
+        line(-5, -4, 7, 1);
+        line(-5, -1, 4, 1);
+        line(-5, 2, 4, 1);
+        painter.setPen(QPen(color, 1.3));
+        painter.drawLine(centre + QPointF(1, 0), centre + QPointF(4.5, 3.5));
+        painter.drawLine(centre + QPointF(1, 3.5), centre + QPointF(4.5, 0));
         return;
     }
 }

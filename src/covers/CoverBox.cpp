@@ -8,7 +8,16 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+#include <utility>
+
 namespace varnhold {
+
+namespace {
+
+constexpr int longestSide = 16384;
+
+} // namespace
 
 CoverBox::CoverBox(QWidget* parent) : QWidget(parent)
 {
@@ -19,8 +28,26 @@ CoverBox::CoverBox(QWidget* parent) : QWidget(parent)
 void CoverBox::setPicture(const QPixmap& picture)
 {
     m_picture = picture;
+    m_read = {};
     m_shown = {};
     update();
+}
+
+bool CoverBox::setPictureFrom(Reader read)
+{
+    const int pixelWidth = static_cast<int>(std::ceil(width() * devicePixelRatio()));
+    const QImage picture = read({pixelWidth, longestSide});
+    if (picture.isNull())
+        return false;
+    setPicture(QPixmap::fromImage(picture));
+    m_read = std::move(read);
+    return true;
+}
+
+QPixmap CoverBox::wholePicture() const
+{
+    const QImage whole = m_read ? m_read({}) : QImage();
+    return whole.isNull() ? m_picture : QPixmap::fromImage(whole);
 }
 
 void CoverBox::paintEvent(QPaintEvent*)

@@ -3,6 +3,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <functional>
+
 namespace varnhold {
 
 /// A cover, as large as the control lets it be with its proportions kept. It answers to the mouse as a button
@@ -15,8 +17,16 @@ class CoverBox : public QWidget
 public:
     explicit CoverBox(QWidget* parent = nullptr);
 
-    [[nodiscard]] const QPixmap& picture() const { return m_picture; } ///< in its own size
+    /// Reads a picture, scaled down to fit in `most` unless that is empty; null when there is none.
+    using Reader = std::function<QImage(const QSize& most)>;
+
+    [[nodiscard]] const QPixmap& picture() const { return m_picture; } ///< as it is held to be shown
     void setPicture(const QPixmap& picture);
+    /// Reads no more of the picture than the control's width shows, which is several times as fast. False,
+    /// and nothing is changed, when it is no picture.
+    bool setPictureFrom(Reader read);
+    /// In its own size, read again if need be.
+    [[nodiscard]] QPixmap wholePicture() const;
 
 Q_SIGNALS:
     void activated(); ///< left button up, Space or Enter
@@ -31,6 +41,7 @@ protected:
 
 private:
     QPixmap m_picture;
+    Reader m_read;   ///< of the whole picture, unless m_picture is that
     QPixmap m_shown; ///< scaled for the size that was painted last
 };
 

@@ -2,6 +2,8 @@
 
 #include "MainWindowWorld.h"
 
+#include "covers/CoverBox.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QPainter>
@@ -32,9 +34,9 @@ protected:
         window.setBlankPicture([] { return QPixmap(7, 7); });
     }
     void click(Qt::MouseButton button = Qt::LeftButton) { QTest::mouseClick(&preview, button); }
-    [[nodiscard]] QSize shownSize() const { return preview.property("Picture").value<QPixmap>().size(); }
+    [[nodiscard]] QSize shownSize() const { return preview.wholePicture().size(); }
 
-    QWidget& preview = child(window, "PicPreview");
+    CoverBox& preview = child<CoverBox>(window, "PicPreview");
     QWidget& large = child(window, "imgPreview");
 };
 
@@ -60,7 +62,9 @@ TEST_F(CoverPanelTest, ShowsWhateverPictureItIsGiven)
 TEST_F(CoverPanelTest, ShowsTheCoverLargeInsteadOfTheViews)
 {
     window.showStoredPicture(pictureBytes({300, 400}, "jpg"));
+    EXPECT_EQ(preview.picture().size(), QSize(90, 120)) << "no more is read than shows";
     click();
+    EXPECT_EQ(child<CoverBox>(window, "imgPreview").picture().size(), QSize(300, 400));
     EXPECT_EQ(player.played, QStringList{u"0"_s});
     EXPECT_TRUE(large.isVisible());
     EXPECT_EQ(viewsShown(), 0);
@@ -123,6 +127,14 @@ TEST_F(CoverPanelTest, AnswersToTheKeyboard)
     EXPECT_TRUE(large.isVisible());
     QTest::keyClick(&preview, Qt::Key_Return);
     EXPECT_FALSE(large.isVisible());
+}
+
+TEST_F(CoverPanelTest, ForgetsTheCoverWhenASkinBringsItsBlankPicture)
+{
+    window.showStoredPicture(pictureBytes({300, 400}, "jpg"));
+    preview.setProperty("Picture", QPixmap(5, 5));
+    click();
+    EXPECT_EQ(child<CoverBox>(window, "imgPreview").picture().size(), QSize(5, 5));
 }
 
 } // namespace varnhold::test
