@@ -111,17 +111,17 @@ void peaks(CoverCanvas& canvas)
 {
     const CoverInks& inks = canvas.inks;
     canvas.sky();
-    sun(canvas, 60 + canvas.random(140), 138, 20);
+    sun(canvas, 60 + canvas.random(140), 142, 18);
     struct Range
     {
         int base;
         int swing;
         Color rock;
     };
-    const std::array ranges{Range{176, 60, inks.far}, Range{210, 74, inks.middle}};
+    const std::array ranges{Range{188, 48, inks.far}, Range{216, 64, inks.middle}};
     for (const Range& range : ranges) {
         const Height top = canvas.ridge(range.base, range.swing);
-        const Height tongue = canvas.ridge(range.base - 8, 34);
+        const Height tongue = canvas.ridge(range.base - 8, 30);
         const Color snow = mix(inks.light, range.rock, range.rock == inks.far ? 2 : 1, 6);
         canvas.below(top, snow, mix(snow, range.rock, 1, 2));
         canvas.below([=](int x) { return std::max(top(x) + 3, tongue(x)); }, range.rock,

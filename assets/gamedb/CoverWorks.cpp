@@ -1,5 +1,6 @@
 #include "CoverScenes.h"
 
+#include <algorithm>
 #include <array>
 
 namespace varnhold::assets {
@@ -62,26 +63,27 @@ void circuit(CoverCanvas& canvas)
     canvas.disc(150, 160, 26, inks.light);
     canvas.below(canvas.ridge(168, 22), inks.far, inks.far);
     canvas.below([](int) { return 178; }, inks.middle, mix(inks.middle, inks.near, 1, 3));
-    // Rows of road from the horizon on, each nearer by the same share.
-    const auto centre = [](double near) {
-        return 150 - 64 * near + 40.0 * sineOf(static_cast<int>(near * 200)) / 1024;
-    };
+    // Rows of road from the horizon on, each longer than the one before.
     constexpr int rows = 50;
-    for (int row = 0; row < rows; ++row) {
-        const double from = static_cast<double>(row * row) / (rows * rows);
-        const double to = static_cast<double>((row + 1) * (row + 1)) / (rows * rows);
-        const auto quad = [&](double left, double right, Color color) {
-            canvas.shape({{centre(from) + (2 + 96 * from) * left, 178 + 100 * from},
-                          {centre(from) + (2 + 96 * from) * right, 178 + 100 * from},
-                          {centre(to) + (2 + 96 * to) * right, 178.25 + 100 * to},
-                          {centre(to) + (2 + 96 * to) * left, 178.25 + 100 * to}},
-                         color);
-        };
-        quad(-1.125, 1.125, row / 3 % 2 == 0 ? inks.letter : inks.skyTop);
-        quad(-1, 1, inks.near);
-        if (row / 3 % 2 == 0)
-            quad(-0.03125, 0.03125, inks.letter);
-    }
+    const auto nearness = [](int row) { return static_cast<double>(row * row) / (rows * rows); };
+    const auto on = [&](int row, double aside) {
+        const double near = nearness(row);
+        const double bend = 40.0 * sineOf(static_cast<int>(near * 200)) / 1024;
+        return Point(150 - 64 * near + bend + (2 + 96 * near) * aside, 178 + 100 * near);
+    };
+    const auto strip = [&](int from, int to, double left, double right, Color color) {
+        Stroke stroke{Stroke::Kind::Polygon, color, {}};
+        for (int row = from; row <= to; ++row)
+            stroke.points.push_back(on(row, left));
+        for (int row = to; row >= from; --row)
+            stroke.points.push_back(on(row, right));
+        canvas.lay(stroke);
+    };
+    for (int row = 0; row < rows; row += 3)
+        strip(row, std::min(row + 3, rows), -1.125, 1.125, row % 2 == 0 ? inks.letter : inks.skyTop);
+    strip(0, rows, -1, 1, inks.near);
+    for (int row = 6; row < rows; row += 6)
+        strip(row, std::min(row + 3, rows), -0.03125, 0.03125, inks.letter);
     // The car, from behind.
     const auto car = [](double x, double y) { return Point(96 + x, 246 + y); };
     canvas.shape({car(-36, 16), car(36, 16), car(32, 22), car(-32, 22)}, faint(rgb(0), 50));

@@ -125,10 +125,10 @@ RichText::Paragraph paragraphOf(const QString& line)
 } // namespace
 
 const std::array<NotesInk, 4> notesInks{{
-    {u"sea", 0xB47A1E},
-    {u"moss", 0x3A8A2E},
-    {u"rust", 0x2A5FD0},
-    {u"plum", 0xC85AA8},
+    {u"sea", 0xBF821F},
+    {u"moss", 0x3B8D2F},
+    {u"rust", 0x285BC9},
+    {u"plum", 0xCA5AA9},
 }};
 
 RichText richNotes(const QStringList& lines)

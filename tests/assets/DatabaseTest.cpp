@@ -1,6 +1,9 @@
 // The delivered game database as a stranger reads it: as an SQLite file.
 
 #include "DatabaseFile.h"
+#include "NotesMarkup.h"
+#include "SkinDesign.h"
+#include "SkinFiles.h"
 #include "host/Titles.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
@@ -30,20 +33,21 @@ struct Row
 };
 using Table = std::map<QString, Row>;
 
-std::vector<assets::Title> listedTitles()
+QByteArray contents(const QString& path)
 {
-    QFile file(QStringLiteral(VARNHOLD_TITLES));
-    return file.open(QIODevice::ReadOnly) ? assets::readTitles(QString::fromUtf8(file.readAll()))
-                                          : std::vector<assets::Title>();
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
 }
 
 class DatabaseTest : public testing::Test
 {
 protected:
+    /// The file that the build made.
     static const QByteArray& bytes()
     {
-        static const QByteArray made = QByteArray::fromStdString(assets::databaseFile(listedTitles()));
-        return made;
+        static const QByteArray delivered = contents(QStringLiteral(VARNHOLD_DELIVERED_DATABASE));
+        return delivered;
     }
 
     DatabaseTest()
@@ -115,7 +119,8 @@ TEST_F(DatabaseTest, KeysAreUniqueWithoutCase)
 
 TEST_F(DatabaseTest, TheSameTitlesGiveTheSameBytes)
 {
-    EXPECT_TRUE(QByteArray::fromStdString(assets::databaseFile(listedTitles())) == bytes());
+    const QString titles = QString::fromUtf8(contents(QStringLiteral(VARNHOLD_TITLES)));
+    EXPECT_TRUE(QByteArray::fromStdString(assets::databaseFile(assets::readTitles(titles))) == bytes());
 }
 
 TEST_F(DatabaseTest, HoldsTitlesOfAllRegionsAndOfTheSampleService)
@@ -166,6 +171,16 @@ TEST_F(DatabaseTest, EveryPictureIsACoverOfTheSeries)
         EXPECT_LT(row.image.size(), 70000) << qPrintable(id);
     }
     EXPECT_GE(pictures.size(), 40);
+}
+
+TEST(Notes, InksCanBeReadOnEverySkin)
+{
+    for (const assets::NotesInk& ink : assets::notesInks) {
+        const QColor letters(static_cast<int>(ink.color & 0xFF), static_cast<int>(ink.color >> 8 & 0xFF),
+                             static_cast<int>(ink.color >> 16));
+        for (const assets::SkinDesign& design : assets::skinDesigns())
+            EXPECT_GE(contrast(letters, QColor(design.panel)), 4) << qPrintable(ink.name.toString());
+    }
 }
 
 TEST(TitleList, SaysWhichLineIsWrong)
