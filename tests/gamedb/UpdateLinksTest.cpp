@@ -2,6 +2,7 @@
 #include "GameWorld.h"
 #include "lookup/UpdateList.h"
 #include "support/FakeLookupView.h"
+#include "support/OtherProgram.h"
 
 namespace varnhold::test {
 
@@ -107,6 +108,19 @@ TEST_F(UpdateLinksTest, ReportsAFailureAndClosesTheConnection)
     choose(root.path(u"gone.mdb"_s));
     save();
     EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::cannotOpen)});
+}
+
+TEST_F(UpdateLinksTest, WorksAgainOnceTheFileIsFree)
+{
+    addRows({u"a"_s, u"b"_s});
+    {
+        const OtherProgram other(database.path(), "BEGIN IMMEDIATE");
+        save();
+    }
+    EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::locked)});
+    EXPECT_EQ(stored(), QStringList());
+    save();
+    EXPECT_EQ(stored().size(), 2);
 }
 
 } // namespace varnhold::test
