@@ -29,6 +29,7 @@ namespace {
 
 constexpr QSize windowSize{400, 248};
 constexpr QRect listPlace{8, 28, 92, 212};
+constexpr int listRow = 20;
 constexpr QRect pagePlace{108, 28, 284, 212};
 
 } // namespace
@@ -100,7 +101,8 @@ QFrame* frmSettings::addPage(const QString& row, const char* name, const QString
     frame->setGeometry(pagePlace);
     frame->hide();
     m_pages.push_back({caption, frame});
-    m_list->addItem(row);
+    auto* item = new QListWidgetItem(row, m_list);
+    item->setSizeHint({0, listRow});
     return frame;
 }
 

@@ -7,17 +7,18 @@
 #include "state/Settings.h"
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
 using settingspage::column;
-using settingspage::rowHeight;
 
 namespace {
 
-constexpr int firstRow = 8;
+constexpr int rowHeight = 24; // of the knob that the control draws itself, and a bit
+constexpr int firstRow = 4;
 constexpr int rowPitch = 32;
 constexpr int headingWidth = 60;
 constexpr int sliderLeft = 72;
@@ -39,15 +40,20 @@ void frmSettings::addOpacity(QFrame& page, OpacityOf which, const QString& headi
     const int index = static_cast<int>(which);
     auto* name = new QLabel(heading, &page);
     name->setGeometry(column, top, headingWidth, rowHeight);
-    auto* slider = new ucSlider(&page);
+    auto* slider = new ucSlider;
     slider->setObjectName(indexed("ucSlider1", index));
     slider->setAccessibleName(tr("Opacity: %1").arg(heading));
     slider->setOrientation(design::ucSlider1_Orientation);
     slider->setMin(design::ucSlider1_Range.min);
     slider->setMax(design::ucSlider1_Range.max);
     slider->setShowValueTip(false); // the number stands beside it
-    slider->resize(sliderWidth, rowHeight);
-    slider->move(sliderLeft, top + (rowHeight - slider->height()) / 2);
+    // A layout of its own keeps it in the middle of its row: it is as high as the knob that the skin gives
+    // it.
+    auto* row = new QWidget(&page);
+    row->setGeometry(sliderLeft, top, sliderWidth, rowHeight);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(slider, 0, Qt::AlignVCenter);
     auto* number = new QLabel(&page);
     number->setObjectName(indexed("lbl_Opacity", index));
     number->setGeometry(numberLeft, top, 32, rowHeight);

@@ -67,9 +67,9 @@ void frmSettings::buildDownload()
     const auto addHeaded = [this, &page](Scroll scroll, int top) {
         auto* heading = new QLabel(scroll.accessibleName, &page);
         heading->setProperty("quiet", true);
-        heading->setGeometry(column + 20, top + 6, 84, 18);
+        heading->setGeometry(column + 20, top + 6, 92, 18);
         scroll.place = {column, top};
-        scroll.labelPlace = {column + 104, top + 6, 150, 18};
+        scroll.labelPlace = {column + 116, top + 6, 150, 18};
         addScroll(page, scroll);
     };
     addHeaded({.name = u"Vs_Server"_s,

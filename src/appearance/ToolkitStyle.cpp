@@ -63,4 +63,35 @@ void ToolkitStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     painter->restore();
 }
 
+void ToolkitStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || bar == nullptr || bar->orientation != Qt::Vertical ||
+        bar->rect.height() > 3 * bar->rect.width()) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    // A bar without room for a handle picks a value by its arrows.
+    const QPalette& colors = bar->palette;
+    const bool lit = (bar->state & State_HasFocus) != 0;
+    const int half = bar->rect.height() / 2;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    for (const bool up : {true, false}) {
+        const SubControl part = up ? SC_ScrollBarSubLine : SC_ScrollBarAddLine;
+        const bool active = (bar->activeSubControls & part) != 0;
+        const bool pressed = active && (bar->state & State_Sunken) != 0;
+        const QRect plate(bar->rect.left(), up ? bar->rect.top() : bar->rect.bottom() + 1 - half,
+                          bar->rect.width(), half);
+        painter->setPen(active || lit ? colors.color(QPalette::Link) : colors.color(QPalette::Dark));
+        painter->setBrush(pressed ? colors.highlight() : colors.button());
+        painter->drawRect(plate.adjusted(0, 0, -1, -1));
+        const QPoint tip(plate.center().x(), plate.center().y() + (up ? -1 : 2));
+        for (int row = 0; row < 4; ++row)
+            painter->fillRect(tip.x() - row + 1, tip.y() + (up ? row : -row), 2 * row, 1, colors.text());
+    }
+    painter->restore();
+}
+
 } // namespace varnhold

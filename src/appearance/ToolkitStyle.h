@@ -4,7 +4,7 @@
 
 namespace varnhold {
 
-/// Check boxes and option buttons that can be told apart on a dark ground.
+/// Check boxes, option buttons and short scroll bars that can be told apart on any skin's ground.
 class ToolkitStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -14,6 +14,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
 };
 
 } // namespace varnhold
