@@ -139,6 +139,7 @@ bool Skin::ApplySkin()
         return true;
     } catch (const RunTimeError& error) {
         report(error);
+        Q_EMIT m_services.page.changed(); // what was applied stays, and shows
     } catch (const Ending&) {
     }
     return false;
@@ -278,7 +279,9 @@ void Skin::attachMenuGlyphs()
     if (menus == nullptr)
         return;
     for (QAction* const entry : menus->findChildren<QAction*>()) {
-        if (const char* const file = glyphOf(entry->objectName())) {
+        const QObject* const submenu = entry->menu<QObject*>();
+        if (const char* const file =
+                glyphOf(submenu != nullptr ? submenu->objectName() : entry->objectName())) {
             entry->setIcon(QIcon(m_glyphs.value(QString::fromLatin1(file))));
             entry->setIconVisibleInMenu(true);
         }
@@ -363,7 +366,6 @@ void Skin::report(const RunTimeError& error)
         m_services.host.showMessage(selectSkinFolderMessage());
         page.skinLoaded = false;
         page.availableSkinsColor = {yellow, red};
-        Q_EMIT page.changed();
         m_services.host.askForSkinFolder();
         return;
     }

@@ -32,7 +32,7 @@ bool SkinCatalogue::build()
 
 QString skinNameOf(const QString& path)
 {
-    const QString last = path.mid(path.lastIndexOf(u'/') + 1);
+    const QString last = path.section(u'/', -1, -1, QString::SectionSkipEmpty);
     const qsizetype dot = last.lastIndexOf(u'.');
     return dot < 0 ? last : last.first(dot);
 }

@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int customTheme = 10;
+constexpr int grayed = 2; // a box takes it, and is not checked
 constexpr int mostModes = 2;
 constexpr int mostAlignments = 5;
 constexpr int defaultTheme = 2;
@@ -59,7 +60,7 @@ void SkinLists::readGameList(SkinPictures& pictures)
         assign(m_games, "PictureMode", mode);
         m_ini.write(u"LBxMode"_s, QString::number(mode));
     }
-    if (const std::optional<int> check = m_ini.number(u"LBxPicture"_s, 1)) {
+    if (const std::optional<int> check = m_ini.number(u"LBxPicture"_s, grayed)) {
         m_page.gameList.checked = *check == 1;
         if (m_page.gameList.checked)
             showGamePicture(pictures);
@@ -96,7 +97,7 @@ void SkinLists::changeTheme(int theme, SkinPictures& pictures)
 void SkinLists::readUpdateList(SkinPictures& pictures)
 {
     readPicture(m_page.updateList, m_ini, u"Lv"_s, u"back.bmp"_s, pictures.folder());
-    if (const std::optional<int> check = m_ini.number(u"LvPicture"_s, 1)) {
+    if (const std::optional<int> check = m_ini.number(u"LvPicture"_s, grayed)) {
         m_page.updateList.checked = *check == 1;
         const QString& path = m_page.updateList.file.tag;
         assign(m_updates, "Picture",

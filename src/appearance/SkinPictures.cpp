@@ -8,6 +8,7 @@
 #include <QtEndian>
 
 #include <cstdlib>
+#include <optional>
 
 namespace varnhold {
 
@@ -16,15 +17,53 @@ namespace {
 constexpr qint64 mostPixels = qint64(128) << 18; // 128 MB at four bytes each
 constexpr int iconSide = 16;
 
-/// Size as the file tells it; the toolkit's reader keeps silent about a bitmap that it finds too large.
-QSize toldSize(const QByteArray& bytes, const QImageReader& reader)
+/// What a bitmap's header tells. The toolkit's reader keeps silent about one that it finds too large, and
+/// takes one that ends too early for whole.
+struct BitmapHeader
 {
-    constexpr qsizetype widthAt = 18;
-    constexpr qsizetype heightAt = 22;
-    if (!bytes.startsWith("BM") || bytes.size() < heightAt + 4)
-        return reader.size();
-    return {qFromLittleEndian<qint32>(bytes.constData() + widthAt),
-            qAbs(qFromLittleEndian<qint32>(bytes.constData() + heightAt))};
+    qint64 pixelsAt;
+    qint64 width;
+    qint64 height;
+    int bits;
+    bool packed; ///< how many bytes its pixels take cannot be told
+};
+
+template <typename Number> Number numberAt(const QByteArray& bytes, qsizetype at)
+{
+    return qFromLittleEndian<Number>(bytes.constData() + at);
+}
+
+std::optional<BitmapHeader> bitmapHeader(const QByteArray& bytes)
+{
+    constexpr qsizetype least = 34; // up to the kind of packing
+    constexpr quint32 oldHeader = 12;
+    if (!bytes.startsWith("BM") || bytes.size() < least)
+        return std::nullopt;
+    const auto pixelsAt = numberAt<quint32>(bytes, 10);
+    if (numberAt<quint32>(bytes, 14) == oldHeader)
+        return BitmapHeader{pixelsAt, numberAt<quint16>(bytes, 18), numberAt<quint16>(bytes, 20),
+                            numberAt<quint16>(bytes, 24), false};
+    constexpr quint32 bitFields = 3;
+    const auto packing = numberAt<quint32>(bytes, 30);
+    return BitmapHeader{pixelsAt, numberAt<qint32>(bytes, 18), std::abs(qint64{numberAt<qint32>(bytes, 22)}),
+                        numberAt<quint16>(bytes, 28), packing != 0 && packing != bitFields};
+}
+
+/// Throws for a picture whose header asks for too much, or for more than there is.
+void checkHeader(const QByteArray& bytes, const QImageReader& reader)
+{
+    const std::optional<BitmapHeader> bitmap = bitmapHeader(bytes);
+    const QSize told = reader.size();
+    const qint64 pixels =
+        bitmap ? bitmap->width * bitmap->height : qint64{told.width()} * qint64{told.height()};
+    if (pixels > mostPixels)
+        throw RunTimeError(errors::outOfMemory);
+    if (!bitmap || bitmap->packed)
+        return;
+    const qint64 row = (bitmap->width * bitmap->bits + 31) / 32 * 4;
+    const qint64 lastRow = (bitmap->width * bitmap->bits + 7) / 8; // some writers leave its padding out
+    if (bitmap->pixelsAt + row * (bitmap->height - 1) + lastRow > bytes.size())
+        throw RunTimeError(errors::invalidPicture);
 }
 
 QPixmap decode(QByteArray bytes)
@@ -35,9 +74,7 @@ QPixmap decode(QByteArray bytes)
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead())
         throw RunTimeError(errors::invalidPicture);
-    const QSize told = toldSize(bytes, reader);
-    if (told.isValid() && qint64(told.width()) * told.height() > mostPixels)
-        throw RunTimeError(errors::outOfMemory);
+    checkHeader(bytes, reader);
     QImage best;
     // An icon file holds several sizes.
     const int count = reader.imageCount();

@@ -34,6 +34,20 @@ bool FileExists(const QString& path)
     return true;
 }
 
+QString foldedFile(const QString& folder, const QString& name)
+{
+    const QString exact = folder + u'/' + name;
+    if (FileExists(exact))
+        return exact;
+    QDirIterator walk(folder, QDir::Files | QDir::Hidden | QDir::System);
+    while (walk.hasNext()) {
+        walk.next();
+        if (walk.fileName().compare(name, Qt::CaseInsensitive) == 0)
+            return walk.filePath();
+    }
+    return exact;
+}
+
 bool FolderExists(const QString& path)
 {
     const std::optional<mode_t> mode = modeOf(path);

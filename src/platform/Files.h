@@ -8,6 +8,10 @@ namespace varnhold {
 /// holds a file. A folder, an empty path and any error are false.
 bool FileExists(const QString& path);
 
+/// Path of a file in the folder whose name is the given one, its case apart; the name as given where there is
+/// none. One that matches exactly goes first.
+QString foldedFile(const QString& folder, const QString& name);
+
 /// True for a folder, with or without a "/" at its end; any error is false.
 bool FolderExists(const QString& path);
 

@@ -1,5 +1,6 @@
 #include "state/SettingsFile.h"
 
+#include "platform/Files.h"
 #include "platform/IniFile.h"
 #include "platform/Trim.h"
 #include "state/ApplicationState.h"
@@ -58,7 +59,8 @@ void SettingsFile::Skin_Delete_Section(const QString& section)
 
 QString SettingsFile::skinIni() const
 {
-    return m_state.SkinPath + u"/Skin.ini"_s;
+    // Skins come from systems that take no notice of case.
+    return foldedFile(m_state.SkinPath, u"Skin.ini"_s);
 }
 
 } // namespace varnhold

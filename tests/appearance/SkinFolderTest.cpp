@@ -81,7 +81,7 @@ TEST(SkinCatalogue, ListsTheRootOnceUntilItIsCleared)
     EXPECT_TRUE(catalogue.build());
     EXPECT_EQ(catalogue.entries().size(), 5U);
     EXPECT_EQ(skinNameOf(u"/skins/my.skin"_s), u"my"_s);
-    EXPECT_EQ(skinNameOf(u"/skins/plain"_s), u"plain"_s);
+    EXPECT_EQ(skinNameOf(u"/skins/plain/"_s), u"plain"_s);
 }
 
 TEST(SkinIni, TakesWhatItsControlTakes)

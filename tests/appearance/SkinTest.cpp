@@ -21,6 +21,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QLabel>
+#include <QMenu>
 
 namespace varnhold::test {
 
@@ -104,7 +105,11 @@ TEST(SkinTargets, GiveThreeButtonsTheHoverFaceWithTheFocus)
 
 TEST_F(SkinTest, PutsItsFileOnEachControl)
 {
+    QMenu covers;
+    covers.setObjectName("mnuCovers"_L1);
+    covers.menuAction()->setParent(&menu);
     ASSERT_TRUE(skin.ApplySkin());
+    EXPECT_FALSE(covers.icon().isNull()) << "a submenu goes by its own name";
     SkinPictures pictures(root.path(u"skin/default"_s));
     int dressed = 0;
     for (const auto& targets : {normalTargets(), mainTargets(), settingsTargets()}) {
@@ -210,9 +215,8 @@ TEST_F(SkinTest, AsksForAFolderWhenTheSkinIsGone)
 TEST_F(SkinTest, TellsEveryOtherFailureInALine)
 {
     // A bitmap that says it is 20,000 pixels wide and high.
-    QFile small(inSkin(u"list.bmp"_s));
-    ASSERT_TRUE(small.open(QIODevice::ReadOnly));
-    QByteArray huge = small.readAll();
+    const QByteArray whole = root.read(u"skin/default/list.bmp"_s);
+    QByteArray huge = whole;
     for (const int field : {18, 22})
         huge.replace(field, 4, QByteArray::fromHex("204e0000"));
     const struct
@@ -222,6 +226,7 @@ TEST_F(SkinTest, TellsEveryOtherFailureInALine)
     } cases[] = {{"not a picture", u"481 Invalid picture"_s},
                  {"", u"481 Invalid picture"_s},
                  {"BM", u"481 Invalid picture"_s},
+                 {whole.first(whole.size() / 2), u"481 Invalid picture"_s},
                  {huge, u"7 Out of memory"_s}};
     for (const auto& each : cases) {
         replace(u"barLeft.bmp"_s, each.bytes);
@@ -231,10 +236,71 @@ TEST_F(SkinTest, TellsEveryOtherFailureInALine)
     replace(u"barLeft.bmp"_s, "");
     QFile::remove(inSkin(u"barLeft.bmp"_s));
     QFile::copy(inSkin(u"mainBar.bmp"_s), inSkin(u"BARLEFT.BMP"_s));
-    root.write(u"skin/default/Skin.ini"_s, "[Settings]\r\nSkin ForeColor=red\r\n");
-    boxes.expect(u"13 Type mismatch"_s);
-    EXPECT_FALSE(skin.ApplySkin());
+    const QPair<QByteArray, QString> lines[] = {
+        {"Skin ForeColor=red", u"13 Type mismatch"_s},
+        {"Skin BackColor=-5", u"380 Invalid property value"_s},
+        {"Skin HightlightColor=3000000000", u"6 Overflow"_s},
+        {"LBxMode=3", u"380 Invalid property value"_s},
+        {"LvPicture=1\r\nLvPicture Path=/", u"75 Path/File access error"_s},
+    };
+    for (const auto& [line, text] : lines) {
+        root.write(u"skin/default/Skin.ini"_s, "[Settings]\r\n" + line + "\r\n");
+        boxes.expect(text);
+        EXPECT_FALSE(skin.ApplySkin()) << line.constData();
+    }
     EXPECT_EQ(storedSkin(u"Skin Path"_s), u"(missing)"_s) << "nothing is written back";
+}
+
+TEST_F(SkinTest, DressesInASkinFromElsewhere)
+{
+    // 8-bit bitmaps, names in capitals, and the list's picture where it was on another machine.
+    const QString folder = u"skin/Ünder Sea v1.2"_s;
+    QDirIterator walk(inSkin({}), QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString source = walk.next();
+        const QString name = QDir(inSkin({})).relativeFilePath(source).toUpper();
+        const QString target = root.path(folder + u'/' + name);
+        QDir().mkpath(QFileInfo(target).path());
+        if (name.endsWith(u".BMP"_s))
+            ASSERT_TRUE(QImage(source).convertToFormat(QImage::Format_Indexed8).save(target, "BMP"));
+        else
+            QFile::copy(source, target);
+    }
+    root.write(folder + u"/SKIN.INI"_s, "[Settings]\r\nSkin ForeColor=255\r\nLBxPicture=1\r\n"
+                                        "LBxPicture Path=C:\\Skins\\Under Sea\\List.bmp\r\n");
+    ASSERT_TRUE(skin.ApplySkin());
+    const QRegion shape = main.mask();
+    settings.writeSkinPath(root.path(folder));
+    ASSERT_TRUE(skin.ApplySkin());
+    EXPECT_EQ(state.SkinName, u"Ünder Sea v1"_s);
+    EXPECT_EQ(page.Shape_Color[SkinPage::Fore], 255U);
+    EXPECT_EQ(main.mask(), shape);
+    EXPECT_EQ(imageOf(child(main, "MorphListBox1"), "Picture").convertToFormat(QImage::Format_RGB32),
+              QImage(root.path(folder + u"/LIST.BMP"_s)).convertToFormat(QImage::Format_RGB32));
+
+    QFile::remove(root.path(folder + u"/LIST.BMP"_s));
+    boxes.expect(u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not exist!\r\n"
+                 "File not found\r\nSolution:        Please check the skin folder in question."_s);
+    EXPECT_FALSE(skin.ApplySkin());
+}
+
+TEST_F(SkinTest, KeepsItsLookWhenTheFolderVanishes)
+{
+    ASSERT_TRUE(skin.ApplySkin());
+    const QImage before = main.picture().toImage();
+    QDir(inSkin({})).removeRecursively();
+    boxes.expect(u"Err Number: 76\r\nErr Description: Path not found\r\nSolution: Please update the skin "
+                 "folder in question."_s);
+    splash.reset();
+    main.EnlargeMainWindow();
+    EXPECT_EQ(main.size(), QSize(447, 289));
+    ShapedWindow download(nullptr);
+    skin.Load_DL(download); // without a word
+    EXPECT_FALSE(skin.ApplySkin());
+    EXPECT_FALSE(page.skinLoaded);
+    EXPECT_EQ(main.picture().toImage(), before);
+    skin.mnuSkin_Click(2);
+    EXPECT_TRUE(page.skinLoaded);
 }
 
 TEST_F(SkinTest, LeavesAnOpenDownloadAsItIs)

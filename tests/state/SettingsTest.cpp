@@ -166,6 +166,13 @@ TEST_F(SettingsTest, TheSkinsFileStandsInItsFolder)
     file.Skin_Delete_Section(u"A"_s);
     EXPECT_EQ(file.Skin_Read(u"A"_s, u"k"_s, u"none"_s), u"none"_s);
 
+    state.SkinPath = root.path(u"skin/loud"_s);
+    root.write(u"skin/loud/SKIN.INI"_s, "[A]\r\nk=3\r\n");
+    EXPECT_EQ(file.Skin_Read(u"A"_s, u"k"_s, {}), u"3"_s);
+    file.Skin_Write(u"A"_s, u"k"_s, u"4"_s);
+    EXPECT_EQ(root.read(u"skin/loud/SKIN.INI"_s), "[A]\r\nk=4\r\n");
+    state.SkinPath = root.path(u"skin/dark"_s);
+
     settings.writeSkinPath(state.SkinPath);
     settings.writeSkinName(u"dark"_s);
     EXPECT_EQ(root.read(u"Settings.ini"_s),
