@@ -2,6 +2,9 @@
 
 #include "appearance/ButtonSigns.h"
 #include "download/SkinDownloads.h"
+#include "gamedb/ChooseDatabase.h"
+#include "gamedb/EntryDetails.h"
+#include "gamedb/UpdateLinks.h"
 #include "lookup/UpdateServers.h"
 #include "platform/Shell.h"
 
@@ -65,6 +68,9 @@ Program::Program(const Paths& paths, World world)
                   m_main),
       m_planner({m_state, m_settings, m_list, m_downloads, m_files, m_world.dialogs, m_world.boxes, m_sounds,
                  QCoreApplication::applicationName()}),
+      m_database(m_settings, m_world.boxes),
+      m_gameListView({m_main, m_menu, m_settingsWindow, m_list, m_splash}),
+      m_gameList({m_database, m_state, m_settings, m_gameListView, m_sounds, m_world.boxes}),
       m_startUp(
           {.state = m_state,
            .settings = m_settings,
@@ -82,6 +88,7 @@ Program::Program(const Paths& paths, World world)
            .splash = m_splash,
            .dressSplash = [this](QWidget& splash) { dressSplash(splash, m_file, m_paths, m_state); },
            .applySkin = [this] { m_skin.ApplySkin(); },
+           .loadGameList = [this] { m_gameList.loadGameListAtStartup(); },
            .shape = [this](QWidget& window) { m_skin.shape(window); },
            .setOpacity = [this](OpacityOf which, int value) { m_skinnedWindows.setOpacity(which, value); },
            .isFirst = m_world.isFirst,
@@ -91,6 +98,7 @@ Program::Program(const Paths& paths, World world)
 {
     connectMainWindow();
     connectMenus();
+    connectDatabase();
     connectSkin();
     m_downloads.onUnload([this](const DownloadClient& client) { m_planner.windowUnloaded(client); });
     m_startUp.onAbandoned([this] { endProgram(); });
@@ -100,15 +108,7 @@ Program::~Program() = default;
 
 bool Program::start()
 {
-    if (m_startUp.run() != StartUp::Outcome::Running)
-        return false;
-    // Without a skin the load has opened the settings, which ask for one: the main window must not cover
-    // them.
-    if (m_settingsWindow.isVisible()) {
-        m_settingsWindow.raise();
-        m_settingsWindow.activateWindow();
-    }
-    return true;
+    return m_startUp.run() == StartUp::Outcome::Running;
 }
 
 void Program::comeToFront()
@@ -160,6 +160,19 @@ void Program::connectMenus()
             [this] { m_covers.mnuImageView_Click(m_main.gameIdText()); });
     connect(&m_menu, &frmMenu::mnuImageExplore_Click, this, [this] { m_covers.mnuImageExplore_Click(); });
     connect(&m_menu, &frmMenu::mnuImageOpen_Click, this, [this] { m_covers.mnuImageOpen_Click(); });
+}
+
+void Program::connectDatabase()
+{
+    const auto loadEntry = [this] { loadGameDetails(m_database, m_settings, m_main); };
+    m_main.setEntryLoader(loadEntry);
+    m_lookup.setEntryLoader(loadEntry);
+    m_lookup.setLinkSaver([this] { saveUpdateLinks(m_database, m_list, m_main); });
+    connect(&m_main, &frmMain::refreshRequested, this, [this] { m_gameList.CmdRefresh_Click(); });
+    connect(&m_main, &frmMain::clearRequested, this, [this] { m_gameList.cmdClear_Click(); });
+    connect(&m_menu, &frmMenu::mnuLBIcons_Click, this, [this] { m_gameList.mnuLBIcons_Click(); });
+    connect(&m_settingsWindow, &frmSettings::btnOpen_Click, this,
+            [this] { btnOpen_Click(m_settings, m_world.dialogs, m_sounds, m_world.boxes, m_gameList); });
 }
 
 void Program::connectSkin()

@@ -3,6 +3,7 @@
 #include "app/AutoAlert.h"
 #include "app/DownloadWindows.h"
 #include "app/ExitPath.h"
+#include "app/GameListOnWindows.h"
 #include "app/SkinnedWindows.h"
 #include "app/StartUp.h"
 #include "app/frmMain.h"
@@ -14,6 +15,8 @@
 #include "covers/CoverCommands.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadPlanner.h"
+#include "gamedb/GameList.h"
+#include "gamedb/SharedDatabase.h"
 #include "lookup/Lookup.h"
 #include "lookup/UpdateList.h"
 #include "platform/Clock.h"
@@ -74,6 +77,7 @@ public:
 private:
     void connectMainWindow();
     void connectMenus();
+    void connectDatabase();
     void connectSkin();
     [[nodiscard]] HostTls tlsOf(const QString& authority) const;
     void openSettings();
@@ -112,6 +116,9 @@ private:
     Lookup m_lookup;
     DownloadWindows m_downloads;
     DownloadPlanner m_planner;
+    SharedDatabase m_database;
+    GameListOnWindows m_gameListView;
+    GameList m_gameList;
     StartUp m_startUp;
     ExitPath m_exitPath;
 };

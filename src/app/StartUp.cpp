@@ -50,7 +50,9 @@ StartUp::Outcome StartUp::run()
         return Outcome::Ended;
     }
     m_services.main.show();
-    m_services.main.activateWindow();
+    // Without a skin or a database the settings ask for one.
+    if (!m_services.settingsWindow.followOwner())
+        m_services.main.activateWindow();
     return Outcome::Running;
 }
 
@@ -85,6 +87,8 @@ void StartUp::load()
     m_services.settingsWindow.refresh();
     m_services.main.createToolTip();
     m_services.main.games().setRedrawFlag(true);
+    showStatus(u"Loading: List"_s);
+    m_services.loadGameList();
     showStatus(u"Loading: Form Transparency"_s);
     m_services.shape(m_services.main);
     m_services.sounds.play(Sound::Open);

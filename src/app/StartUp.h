@@ -46,7 +46,8 @@ public:
         /// Made in the load unless there is one: it may be on the screen before the other windows are built.
         std::unique_ptr<frmSplash>& splash;
         std::function<void(QWidget&)> dressSplash;
-        std::function<void()> applySkin; ///< to all windows; tells its failures itself
+        std::function<void()> applySkin;    ///< to all windows; tells its failures itself
+        std::function<void()> loadGameList; ///< tells its failures itself
         std::function<void(QWidget&)> shape;
         std::function<void(OpacityOf, int)> setOpacity; ///< of a window that stays
 

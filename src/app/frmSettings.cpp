@@ -2,6 +2,7 @@
 
 #include "controls/ButtonEx/ButtonEx.h"
 #include "platform/CaptionDrag.h"
+#include "platform/ElidedLabel.h"
 #include "platform/MessagePump.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
@@ -9,6 +10,7 @@
 #include "state/WaitLoop.h"
 
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QFrame>
 #include <QGuiApplication>
 #include <QHelpEvent>
@@ -71,9 +73,9 @@ void frmSettings::buildFrame()
     icon->setObjectName("img_Icon"_L1);
     icon->setAlignment(Qt::AlignCenter);
     icon->setGeometry(6, 3, 16, 16);
-    m_caption = new QLabel(this);
+    m_caption = new ElidedLabel(this);
     m_caption->setObjectName("lbl_Caption"_L1);
-    m_caption->setGeometry(24, 3, 340, 16);
+    m_caption->setGeometry(24, 3, windowSize.width() - 48, 16);
     auto* drag =
         new CaptionDrag(*this, m_services.screen,
                         {.store = {},
@@ -117,11 +119,22 @@ ButtonEx* frmSettings::addButton(QWidget& page, const char* name, const QString&
     return button;
 }
 
+void frmSettings::showCaption(const QString& text)
+{
+    m_caption->setFont(font());
+    m_caption->setText(text);
+    // What asks the user to do something is to be read whole.
+    QFont smaller = font();
+    smaller.setPixelSize(QFontInfo(smaller).pixelSize() - 1);
+    if (m_caption->fontMetrics().horizontalAdvance(text) > m_caption->width())
+        m_caption->setFont(smaller);
+}
+
 void frmSettings::showPage(int row)
 {
     if (row < 0 || row >= static_cast<int>(m_pages.size()))
         return;
-    m_caption->setText(m_pages.at(static_cast<std::size_t>(row)).caption);
+    showCaption(m_pages.at(static_cast<std::size_t>(row)).caption);
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i].frame->setVisible(static_cast<int>(i) == row);
 }
@@ -151,8 +164,6 @@ void frmSettings::showPageOver(QWidget& owner, const char* name)
     if (CaptionDrag::placesWindows())
         move(owner.pos());
     refresh();
-    show();
-    raise();
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
         if (m_pages[i].frame->objectName() == QLatin1StringView(name)) {
             const QSignalBlocker silence(*m_list);
@@ -160,6 +171,20 @@ void frmSettings::showPageOver(QWidget& owner, const char* name)
             showPage(static_cast<int>(i));
         }
     }
+    m_awaitsOwner = true;
+    if (owner.isVisible())
+        followOwner();
+}
+
+bool frmSettings::followOwner()
+{
+    if (!m_awaitsOwner)
+        return false;
+    m_awaitsOwner = false;
+    show();
+    raise();
+    activateWindow();
+    return true;
 }
 
 void frmSettings::refresh()

@@ -18,6 +18,7 @@ namespace varnhold {
 
 class ButtonEx;
 class CaptionDrag;
+class ElidedLabel;
 class FileDialogs;
 class MessagePump;
 class Screen;
@@ -50,13 +51,16 @@ public:
 
     /// Shows it at this place in pixels; a window that is open only comes to the front.
     void open(const QPoint& place);
-    /// At the owner's corner and above it from now on; one that is open moves there too. On the skin page,
-    /// with the focus on btn_Skin_Path.
+    /// At the owner's corner and above it from now on; one that is open moves there too. An owner that is not
+    /// shown yet comes first: window managers look for a window's owner when the window comes up. On the
+    /// skin page, with the focus on btn_Skin_Path.
     void askForSkin(QWidget& owner);
     /// The same on the Database page: `text` in Label9(1), the focus on txt_IDList.
     void askForDatabase(QWidget& owner, const QString& text);
     /// The same with `caption` in lbl_Caption, until another page is opened.
     void askForTables(QWidget& owner, const QString& caption);
+    /// Comes up if it was asked to before its owner was on the screen; false when it was not.
+    bool followOwner();
     /// `text` in Label9(1), in the highlight colour.
     void thankForDatabase(const QString& text);
     /// Fills all controls from the settings; nothing is written.
@@ -112,6 +116,7 @@ private:
     void addOpacity(QFrame& page, OpacityOf which, const QString& heading, int top);
     void addOrder(QFrame& page, Order which, const QString& heading, int left);
     ButtonEx* addButton(QWidget& page, const char* name, const QString& toolTip, const QRect& place);
+    void showCaption(const QString& text);
     void showPage(int row);
     void showPageOver(QWidget& owner, const char* name);
     void chooseSaveDir();
@@ -123,8 +128,9 @@ private:
     std::vector<Page> m_pages;
     std::vector<std::function<void()>> m_refreshers; ///< one for each control
     bool m_refreshing = false;
+    bool m_awaitsOwner = false;
     QTimer m_warnLater; ///< the key goes its way first
-    QLabel* m_caption = nullptr;
+    ElidedLabel* m_caption = nullptr;
     QListWidget* m_list = nullptr;
     QPlainTextEdit* m_unwanted = nullptr;
     QLabel* m_count = nullptr;

@@ -18,7 +18,7 @@ using namespace settingspage;
 
 namespace {
 
-constexpr int orderTop = 64;
+constexpr int orderTop = 68;
 constexpr int orderPitch = 92;
 
 QLabel* addLine(QFrame& page, const char* name, int top)
@@ -48,9 +48,9 @@ void frmSettings::buildDatabase()
     addOrder(page, Order::DBTable, tr("Table"), column);
     addOrder(page, Order::SearchTable, tr("Sorted by"), column + orderPitch);
     addOrder(page, Order::AscDesc, tr("Order"), column + 2 * orderPitch);
-    addCheck(page, "chk_Icons", u"Show Region Icons"_s, {}, Check::Icons, {column, 100});
+    addCheck(page, "chk_Icons", u"Show Region Icons"_s, {}, Check::Icons, {column, 104});
     addCheck(page, "chk_DBLinks", u"Save Links to DB?"_s, u"Save Links to DB?"_s, Check::DBLinks,
-             {column + 140, 100});
+             {column + 140, 104});
 }
 
 void frmSettings::addOrder(QFrame& page, Order which, const QString& heading, int left)
@@ -80,7 +80,7 @@ void frmSettings::askForDatabase(QWidget& owner, const QString& text)
 void frmSettings::askForTables(QWidget& owner, const QString& caption)
 {
     showPageOver(owner, "frm_Database");
-    m_caption->setText(caption);
+    showCaption(caption);
 }
 
 void frmSettings::thankForDatabase(const QString& text)

@@ -53,11 +53,13 @@ QLabel* frmSplash::addLabel(const char* name, const QRect& place, const QString&
 void frmSplash::setStatus(const QString& text)
 {
     m_loading->setText(text);
+    m_loading->repaint(); // what follows may take long, and handles no events
 }
 
 void frmSplash::setMessage(const QString& text)
 {
-    m_message->setText(text);
+    m_message->setText(QString(text).replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n'));
+    m_message->repaint();
 }
 
 bool frmSplash::eventFilter(QObject* watched, QEvent* event)

@@ -1,15 +1,7 @@
-#include "AppWorld.h"
+#include "StartUpWorld.h"
 
-#include "app/StartUp.h"
-#include "app/frmSettings.h"
-#include "appearance/SkinPage.h"
 #include "controls/CTooltip/CTooltip.h"
-#include "lookup/CertificateWatch.h"
 #include "platform/RunTimeError.h"
-#include "state/Hosts.h"
-#include "support/FakeBrowser.h"
-#include "support/FakeFileDialogs.h"
-#include "support/FakePump.h"
 
 #include <QLabel>
 
@@ -19,67 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class FakeCertificateHost : public CertificateWatchHost
-{
-public:
-    bool pressYes() override { return false; }
-    [[nodiscard]] QString caption() const override { return {}; }
-    void setCaption(const QString&) override {}
-    void setTimer1(bool on) override { timer1 = on; }
-    void setTimer2(bool) override {}
-
-    bool timer1 = false;
-};
-
-class StartUpTest : public testing::Test, protected AppWorld
+class StartUpTest : public testing::Test, protected StartUpWorld
 {
 protected:
-    StartUpTest()
-    {
-        startUp.onAbandoned([this] { pump.ending = true; });
-    }
-
-    void writeSettings(const QByteArray& lines) { root.write(u"Settings.ini"_s, "[Settings]\r\n" + lines); }
     [[nodiscard]] bool topMost() const { return (main.windowFlags() & Qt::WindowStaysOnTopHint) != 0; }
-
-    FakeBrowser browser;
-    FakePump pump;
-    FakeFileDialogs dialogs;
-    Hosts hosts;
-    FakeCertificateHost certificateHost;
-    CertificateWatch certificates{settings, certificateHost};
-    frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
-    SkinPage skinPage;
-    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
-    bool first = true;
-    bool previousAnswers = true;
-    std::unique_ptr<frmSplash> splash;
-    std::function<Hosts()> findHosts = [] { return Hosts(); };
-    StartUp startUp{{.state = state,
-                     .settings = settings,
-                     .file = file,
-                     .paths = root.paths(),
-                     .hosts = hosts,
-                     .boxes = boxes,
-                     .sounds = sounds,
-                     .pump = pump,
-                     .screen = screen,
-                     .browser = browser,
-                     .certificates = certificates,
-                     .main = main,
-                     .settingsWindow = settingsWindow,
-                     .splash = splash,
-                     .dressSplash = [](QWidget&) {},
-                     .applySkin = [this] { main.startLayout(readLayout(file, state)); },
-                     .shape = [](QWidget&) {},
-                     .setOpacity =
-                         [this](OpacityOf which, int value) {
-                             if (which == OpacityOf::Main)
-                                 SetOpacity(value, main);
-                         },
-                     .isFirst = [this] { return first; },
-                     .activatePrevious = [this] { return previousAnswers; },
-                     .findHosts = [this] { return findHosts(); }}};
 };
 
 } // namespace
@@ -92,8 +27,17 @@ TEST_F(StartUpTest, ReachesTheIdleWindow)
         splashSeen = startUp.splash() != nullptr && startUp.splash()->isVisible() && topMost();
         EXPECT_FALSE(main.isVisible());
     });
+    int loads = 0;
+    loadGameList = [&] {
+        ++loads;
+        EXPECT_EQ(child<QLabel>(*splash, "lblLoading").text(), u"Loading: List"_s);
+        EXPECT_EQ(settings.opacity(OpacityOf::Main), 220) << "after the settings";
+        EXPECT_TRUE(topMost());
+        EXPECT_TRUE(player.played.isEmpty());
+    };
     EXPECT_EQ(startUp.run(), StartUp::Outcome::Running);
     EXPECT_TRUE(splashSeen);
+    EXPECT_EQ(loads, 1);
     EXPECT_EQ(startUp.splash(), nullptr);
     EXPECT_TRUE(main.isVisible());
     EXPECT_FALSE(topMost());

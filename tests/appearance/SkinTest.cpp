@@ -194,8 +194,11 @@ TEST_F(SkinTest, AsksForAFolderWhenTheSkinIsGone)
     main.move(200, 150);
     EXPECT_FALSE(skin.ApplySkin());
     EXPECT_EQ(child<QLabel>(*splash, "lblLoading").text(), u"Loading: Skin not found"_s);
-    EXPECT_EQ(child<QLabel>(*splash, "lblMessage").text(), u"Please select Skin Folder.\rThank You! *¿*"_s);
+    EXPECT_EQ(child<QLabel>(*splash, "lblMessage").text(), u"Please select Skin Folder.\nThank You! *¿*"_s);
     EXPECT_FALSE(page.skinLoaded);
+    EXPECT_FALSE(settingsWindow.isVisible()) << "not before its owner";
+    main.show();
+    EXPECT_TRUE(settingsWindow.followOwner());
     EXPECT_TRUE(settingsWindow.isVisible());
     EXPECT_EQ(settingsWindow.pos(), main.pos());
     EXPECT_TRUE(child(settingsWindow, "frm_Skin(0)").isVisible());

@@ -1,6 +1,7 @@
 #include "app/Program.h"
 #include "app/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
+#include "controls/MorphListBox/MorphListBox.h"
 #include "platform/TcpSocket.h"
 #include "support/FakeFileDialogs.h"
 #include "support/FakeMessageBoxes.h"
@@ -11,10 +12,12 @@
 #include "support/PumpUntil.h"
 #include "support/RunningService.h"
 #include "support/TempRoot.h"
+#include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -95,6 +98,7 @@ protected:
 
     RunningService service;
     TempRoot root;
+    TestDatabase database{root.path(u"GameDB.mdb"_s)};
     FakeMessageBoxes boxes;
     FakeFileDialogs dialogs;
     FakeShell shell;
@@ -196,6 +200,59 @@ TEST_F(Journey, ShowsTheRawDocumentAndOpensItInTheBrowser)
     EXPECT_EQ(shell.opened, QStringList{u"https://"_s + service.httpsAuthority() +
                                         u"/tpl/np/BLUS30443/BLUS30443-ver.xml"_s});
     EXPECT_FALSE(ended);
+}
+
+TEST_F(Journey, RemembersTheLinksOfALookupOnce)
+{
+    database.addGames(u"PS3Games"_s, {{u"BLUS30443"_s, u"My Ashgrove"_s}, {u"BLES00256"_s, u"Another"_s}});
+    start("Exit=0\r\n");
+    EXPECT_EQ(control<QLabel>("lblBlank").text(), u"List Count: 2"_s);
+    lookUp(u"BLUS30443"_s);
+    ASSERT_EQ(rows(), 4);
+    const auto count = [this] { return database.column(u"SELECT count(*) FROM PS3Links"_s); };
+    EXPECT_EQ(count(), QStringList{u"4"_s});
+    EXPECT_EQ(database.column(u"SELECT GameID || GameName || PKG || FW || (SHA1 <> '') || (SIZE <> '') FROM "
+                              "PS3Links WHERE Link LIKE '%A0102%'"_s),
+              QStringList{u"BLUS30443Ashgrove Circuit01.0202.700011"_s});
+
+    database.execute(u"UPDATE PS3Links SET GameName = 'old', SIZE = 'old'"_s);
+    QTest::mouseClick(&control<ButtonEx>("btnFetch"), Qt::LeftButton);
+    EXPECT_EQ(count(), QStringList{u"4"_s});
+    EXPECT_EQ(database.column(u"SELECT count(*) FROM PS3Links WHERE GameName = 'old' OR SIZE = 'old'"_s),
+              QStringList{u"0"_s})
+        << "with the newest values";
+
+    database.execute(u"DELETE FROM PS3Links"_s);
+    program->settingsWindow().findChild<QCheckBox*>(u"chk_DBLinks"_s)->setChecked(false);
+    QTest::mouseClick(&control<ButtonEx>("btnFetch"), Qt::LeftButton);
+    EXPECT_EQ(rows(), 4);
+    EXPECT_EQ(count(), QStringList{u"0"_s});
+    EXPECT_TRUE(database.isSound());
+}
+
+TEST_F(Journey, ReloadsAndClearsFromTheFootAndTheMenu)
+{
+    database.addGames(u"PS3Games"_s, {{u"BLUS30443"_s, u"My Ashgrove"_s}});
+    start("Exit=0\r\nDB Links=0\r\n");
+    lookUp(u"BLUS30443"_s);
+    database.addGames(u"PS3Games"_s, {{u"BLES00256"_s, u"Another"_s}});
+    QTest::mouseClick(&control<ButtonEx>("CmdRefresh"), Qt::LeftButton);
+    EXPECT_EQ(window().games().ListCount(), 2);
+    EXPECT_EQ(window().titles().row(0), u"Another"_s);
+    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(window().gameIdText(), QString());
+
+    lookUp(u"BLUS30443"_s);
+    QTest::mouseClick(&control<ButtonEx>("cmdClear"), Qt::LeftButton);
+    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(window().info(), QString());
+    EXPECT_EQ(window().games().ListCount(), 2);
+
+    EXPECT_TRUE(window().games().ShowItemImages());
+    program->menus().mnuLBIcons_Click();
+    EXPECT_FALSE(window().games().ShowItemImages());
+    EXPECT_FALSE(program->menus().iconsEntryChecked());
+    EXPECT_TRUE(program->settingsWindow().findChild<QCheckBox*>(u"chk_Icons"_s)->isChecked());
 }
 
 } // namespace varnhold::test

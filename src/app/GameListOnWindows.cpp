@@ -1,0 +1,189 @@
+#include "app/GameListOnWindows.h"
+
+#include "app/frmMain.h"
+#include "app/frmMenu.h"
+#include "app/frmSettings.h"
+#include "app/frmSplash.h"
+#include "appearance/SkinPictures.h"
+#include "controls/MorphListBox/MorphListBox.h"
+#include "lookup/UpdateList.h"
+#include "state/ErrorReport.h"
+
+namespace varnhold {
+
+void GameListOnWindows::showBusy(bool busy)
+{
+    m_windows.main.showBusy(busy);
+    // The choice of another database starts from there.
+    if (busy)
+        m_windows.settings.setCursor(Qt::WaitCursor);
+    else
+        m_windows.settings.unsetCursor();
+}
+
+void GameListOnWindows::clearGames()
+{
+    m_windows.main.games().Clear();
+}
+
+void GameListOnWindows::clearTitles()
+{
+    m_windows.main.titles().clear();
+}
+
+void GameListOnWindows::clearUpdates()
+{
+    m_windows.updates.clear();
+}
+
+void GameListOnWindows::addGame(const QString& gameId)
+{
+    m_windows.main.games().AddItem(gameId);
+}
+
+void GameListOnWindows::addTitle(const QString& title)
+{
+    m_windows.main.titles().addItem(title);
+}
+
+void GameListOnWindows::refreshGames()
+{
+    m_windows.main.games().Refresh();
+}
+
+int GameListOnWindows::gameCount() const
+{
+    return m_windows.main.games().ListCount();
+}
+
+QString GameListOnWindows::game(int row) const
+{
+    return m_windows.main.games().List(row);
+}
+
+void GameListOnWindows::selectGame(int row)
+{
+    m_windows.main.games().setListIndex(row);
+}
+
+void GameListOnWindows::checkIconsEntry(bool checked)
+{
+    m_windows.menu.checkIconsEntry(checked);
+}
+
+bool GameListOnWindows::iconsEntryChecked() const
+{
+    return m_windows.menu.iconsEntryChecked();
+}
+
+void GameListOnWindows::setShowItemImages(bool show)
+{
+    m_windows.main.games().setShowItemImages(show);
+}
+
+void GameListOnWindows::setItemImageSize(int size)
+{
+    m_windows.main.games().setItemImageSize(size);
+}
+
+void GameListOnWindows::addImage(const QString& file)
+{
+    const qsizetype cut = file.lastIndexOf(u'/');
+    QPixmap picture;
+    silently([&] { picture = SkinPictures(file.left(cut)).load(file.mid(cut + 1)); });
+    m_windows.main.games().AddImage(picture);
+}
+
+void GameListOnWindows::setImageIndex(int row, int image)
+{
+    m_windows.main.games().setImageIndex(row, image);
+}
+
+void GameListOnWindows::setRedrawFlag(bool redraw)
+{
+    m_windows.main.games().setRedrawFlag(redraw);
+}
+
+void GameListOnWindows::setBlank(const QString& text)
+{
+    m_windows.main.setBlank(text);
+}
+
+void GameListOnWindows::setStatus(const QString& text)
+{
+    m_windows.main.setStatus(text);
+}
+
+void GameListOnWindows::showListProgress(int value)
+{
+    m_windows.main.showListProgress(value);
+}
+
+void GameListOnWindows::setListProgressMaximum(int maximum)
+{
+    m_windows.main.setListProgressMaximum(maximum);
+}
+
+void GameListOnWindows::setListProgress(int value)
+{
+    m_windows.main.setListProgress(value);
+}
+
+void GameListOnWindows::hideListProgress()
+{
+    m_windows.main.hideListProgress();
+}
+
+void GameListOnWindows::showBlankPicture()
+{
+    m_windows.main.showBlankPicture();
+}
+
+void GameListOnWindows::clearTitleTexts()
+{
+    m_windows.main.clearTitleTexts();
+}
+
+void GameListOnWindows::clearNotes()
+{
+    m_windows.main.clearNotes();
+}
+
+void GameListOnWindows::showListViews()
+{
+    m_windows.main.showListViews();
+}
+
+void GameListOnWindows::thankOnDatabasePage(const QString& text)
+{
+    m_windows.settings.thankForDatabase(text);
+}
+
+bool GameListOnWindows::startupInProgress() const
+{
+    return m_windows.splash != nullptr;
+}
+
+void GameListOnWindows::showStatusOnSplash(const QString& text)
+{
+    if (m_windows.splash)
+        m_windows.splash->setStatus(text);
+}
+
+void GameListOnWindows::showMessageOnSplash(const QString& text)
+{
+    if (m_windows.splash)
+        m_windows.splash->setMessage(text);
+}
+
+void GameListOnWindows::askForDatabase(const QString& label9)
+{
+    m_windows.settings.askForDatabase(m_windows.main, label9);
+}
+
+void GameListOnWindows::askForTables(const QString& caption)
+{
+    m_windows.settings.askForTables(m_windows.main, caption);
+}
+
+} // namespace varnhold
