@@ -72,9 +72,6 @@ void paintFoot(Picture& picture, const SkinDesign& design, const WindowPlan& pla
         }
     }
     picture.fill({0, foot.y, foot.width, 1}, design.grooveDark);
-    for (const int mark : plan.footMarks)
-        picture.fill({mark, foot.y + 4, 1, foot.height - 7},
-                     design.texture == Texture::Paper ? design.grooveDark : design.panelEdge);
 }
 
 /// The back of the sheet, seen where its corner is folded over.
@@ -123,8 +120,7 @@ WindowPlan mainWindow(std::string_view file, Size size)
             .size = size,
             .wells = {{8, 23, 82, 18}, {8, 46, 90, columns}, {102, 46, size.width - 110, columns}},
             .strips = {{138, 24, size.width - 147, 16}},
-            .footTop = footTop,
-            .footMarks = {size.width - 31}};
+            .footTop = footTop};
 }
 
 } // namespace

@@ -12,11 +12,10 @@ struct WindowPlan
 {
     std::string_view file;
     Size size;
-    std::vector<Area> wells = {};    ///< insides; the edge lies round them
-    std::vector<Area> strips = {};   ///< rows of text with a ground of their own
-    std::vector<int> rules = {};     ///< rows of lines across, between the margins
-    int footTop = 0;                 ///< 0 without a foot
-    std::vector<int> footMarks = {}; ///< left ends of the foot's fields
+    std::vector<Area> wells = {};  ///< insides; the edge lies round them
+    std::vector<Area> strips = {}; ///< rows of text with a ground of their own
+    std::vector<int> rules = {};   ///< rows of lines across, between the margins
+    int footTop = 0;               ///< 0 without a foot
 };
 
 /// Height of the line with a window's name and its small buttons.

@@ -159,7 +159,7 @@ private:
     void connectColumns();
     void orderTabs();
     ButtonEx* addButton(const char* name, const QString& toolTip);
-    ElidedLabel* addLabel(const char* name, const QString& accessibleName);
+    ElidedLabel* addLabel(const char* name, const QString& description);
     void applyLayout(const MainLayout& layout, int number);
     [[nodiscard]] bool takesPictures(int number) const;
 
