@@ -85,6 +85,11 @@ void frame(CoverCanvas& canvas)
 
 } // namespace
 
+std::span<const CoverInks> coverInks()
+{
+    return inkSets;
+}
+
 Picture drawCover(const CoverOrder& order)
 {
     const CoverInks* inks = called<CoverInks>(order.inks, inkSets);

@@ -59,9 +59,11 @@ void CoverCanvas::blend(int x, int y, Color color, int part, int whole)
 
 void CoverCanvas::sky()
 {
+    // Dark for long, so that the lettering stands out, then quickly lighter towards the horizon.
+    constexpr int whole = coverSize.height * coverSize.height;
     for (int y = 0; y < coverSize.height; ++y) {
         for (int x = 0; x < coverSize.width; ++x)
-            m_picture.set(x, y, ditheredMix(inks.skyTop, inks.skyLow, y, coverSize.height, x, y));
+            m_picture.set(x, y, ditheredMix(inks.skyTop, inks.skyLow, y * y, whole, x, y));
     }
 }
 

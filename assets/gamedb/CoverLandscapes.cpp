@@ -43,8 +43,8 @@ void coast(CoverCanvas& canvas)
     canvas.below(canvas.ridge(low - 8, 16), inks.far, inks.far);
     canvas.below([low](int) { return low; }, inks.middle, inks.near);
     glitter(canvas, 178, low + 5, 9);
-    canvas.glow(88, 146, 120, inks.light, 60);
-    canvas.shape({{88, 143}, {270, 96}, {270, 138}, {88, 149}}, faint(inks.light, 42));
+    canvas.glow(88, 146, 84, inks.light, 60);
+    canvas.shape({{88, 143}, {270, 112}, {270, 150}, {88, 149}}, faint(inks.light, 42));
     canvas.shape({{88, 143}, {-10, 122}, {-10, 150}, {88, 149}}, faint(inks.light, 26));
     canvas.below([base = canvas.ridge(0, 7)](
                      int x) { return base(x) + 226 + (x < 120 ? 0 : (x - 120) * (x - 120) / 90.0); },
@@ -259,7 +259,7 @@ void orbit(CoverCanvas& canvas)
         for (const double reach : {86.0, 96.0, 106.0}) {
             for (int turn = first; turn < first + 128; turn += 2)
                 canvas.line(around(turn, reach), around(turn + 2, reach), reach == 96.0 ? 5 : 2.4,
-                            reach == 96.0 ? inks.light : faint(inks.letter, 80));
+                            reach == 96.0 ? inks.light : mix(inks.middle, inks.letter, 4, 5));
         }
     };
     halfRing(128); // behind the planet

@@ -174,7 +174,8 @@ void kites(CoverCanvas& canvas)
         const int x = canvas.random(250);
         const int y = 128 + canvas.random(90);
         for (int puff = 0; puff < 4; ++puff)
-            canvas.disc(x + puff * 11, y - (puff % 2) * 5, 9 + canvas.random(4), faint(inks.letter, 40));
+            canvas.disc(x + puff * 11, y - (puff % 2) * 5, 9 + canvas.random(4),
+                        mix(inks.skyLow, inks.letter, 2, 5));
     }
     canvas.below(canvas.ridge(246, 14), inks.far, inks.far);
     canvas.below(CoverCanvas::swell(258, 5, 190, canvas.random(190)), inks.middle, inks.near);
@@ -273,8 +274,8 @@ void airship(CoverCanvas& canvas)
                         size * (0.75 + canvas.random(40) / 100.0), color);
         canvas.box(x - size * 0.75, y, size * 6, size * 0.75, color);
     };
-    cloud(-20, 176, 13, faint(inks.letter, 45));
-    cloud(176, 216, 13, faint(inks.letter, 45));
+    cloud(-20, 176, 13, mix(inks.skyLow, inks.letter, 1, 3));
+    cloud(176, 216, 13, mix(inks.skyLow, inks.letter, 1, 3));
     const auto hull = [](int turn, double across, double down) {
         return Point(138 + across * cosineOf(turn) / 1024, 182 + down * sineOf(turn) / 1024);
     };
@@ -297,14 +298,14 @@ void airship(CoverCanvas& canvas)
             canvas.line(
                 {138 + across + across / 6 * cosineOf(turn) / 1024, 182 + 33.0 * sineOf(turn) / 1024},
                 {138 + across + across / 6 * cosineOf(turn + 6) / 1024, 182 + 33.0 * sineOf(turn + 6) / 1024},
-                1.1, faint(inks.near, 70));
+                1.1, mix(inks.middle, inks.near, 2, 3));
     }
     canvas.shape({{104, 216}, {172, 216}, {164, 234}, {112, 234}}, mix(inks.near, rgb(0), 1, 4));
     for (int x = 114; x < 160; x += 12)
         canvas.box(x, 221, 7, 6, inks.light);
     canvas.line({98, 226}, {112, 226}, 2, inks.near);
     canvas.line({98, 216}, {98, 236}, 2.5, inks.near);
-    cloud(10, 262, 19, faint(inks.letter, 80));
+    cloud(10, 262, 19, mix(inks.skyLow, inks.letter, 3, 4));
     cloud(120, 276, 24, inks.skyLow);
     canvas.below(canvas.ridge(272, 8), inks.far, inks.middle);
 }

@@ -3,6 +3,7 @@
 #include "CoverArt.h"
 #include "GifFile.h"
 #include "NotesMarkup.h"
+#include "platform/richtext/RtfWriter.h"
 
 #include <sqlite3.h>
 
@@ -95,15 +96,8 @@ private:
 
 std::string stored(const NotesSource& notes)
 {
-    if (notes.rich) {
-        QStringList lines;
-        for (const RichText::Paragraph& paragraph : richNotes(notes.lines).paragraphs) {
-            lines << QString();
-            for (const RichText::Run& run : paragraph.runs)
-                lines.back() += run.text;
-        }
-        return lines.join(QStringLiteral("\r\n")).toStdString();
-    }
+    if (notes.rich)
+        return writeRtf(richNotes(notes.lines)).toStdString();
     return notes.lines.join(QStringLiteral("\r\n")).toStdString();
 }
 

@@ -84,7 +84,7 @@ struct Cluster
                 sum += shade.second * channelOf(shade.first, channel);
                 pixels += shade.second;
             }
-            color |= static_cast<Color>((sum + pixels / 2) / pixels) << channel * 8;
+            color |= static_cast<Color>((sum + pixels / 2) / std::max(pixels, Count(1))) << channel * 8;
         }
         return rgb(color);
     }

@@ -44,11 +44,13 @@ void loadGameDetails(SharedDatabase& database, const Settings& settings, EntryVi
         database.DBKey = view.gameIdText();
         database.connect();
         database.select(statements::entry(settings.orderText(Order::DBTable), database.DBKey));
-        // A game that the table does not know shows no notes of another one.
+        // All is read before any of it shows. A game that the table does not know has no notes.
         Recordset& records = *database.DBRecords;
         const bool found = !records.atEnd();
-        view.showNotes(found ? records.value(u"GameNotes"_s) : QString());
-        if (const QByteArray picture = found ? storedPicture(records) : QByteArray(); !picture.isEmpty())
+        const QString notes = found ? records.value(u"GameNotes"_s) : QString();
+        const QByteArray picture = found ? storedPicture(records) : QByteArray();
+        view.showNotes(notes);
+        if (!picture.isEmpty())
             view.showStoredPicture(picture);
         else
             showCover(settings, database.DBKey, view);

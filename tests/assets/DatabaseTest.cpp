@@ -5,6 +5,7 @@
 #include "SkinDesign.h"
 #include "SkinFiles.h"
 #include "host/Titles.h"
+#include "platform/richtext/RtfReader.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 
@@ -16,6 +17,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -38,6 +40,42 @@ QByteArray contents(const QString& path)
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
     return file.readAll();
+}
+
+std::vector<assets::Title> listedTitles()
+{
+    return assets::readTitles(QString::fromUtf8(contents(QStringLiteral(VARNHOLD_TITLES))));
+}
+
+/// What notes can show, each by a letter: whatever occurs in these.
+QSet<QChar> featuresOf(const RichText& text)
+{
+    using Alignment = RichText::Alignment;
+    QSet<QChar> found;
+    const auto note = [&](bool occurs, char16_t sign) {
+        if (occurs)
+            found << sign;
+    };
+    for (const RichText::Paragraph& paragraph : text.paragraphs) {
+        note(paragraph.format.bullet, u'*');
+        note(paragraph.format.firstIndent < 0 && !paragraph.format.tabs.empty(), u':');
+        note(paragraph.format.rightIndent > 0, u'"');
+        note(paragraph.format.alignment == Alignment::Center, u'^');
+        note(paragraph.format.alignment == Alignment::Right, u'>');
+        for (const RichText::Run& run : paragraph.runs) {
+            note(run.format.bold, u'b');
+            note(run.format.italic, u'i');
+            note(run.format.strikethrough, u's');
+            note(run.format.color.has_value(), u'c');
+            note(run.format.halfPoints > 0, u'h');
+            note(run.text.contains(u"http://"_s), u'l');
+            note(run.text.contains(u'海'), u'J');
+            note(run.text.contains(u'호'), u'K');
+            note(run.text.contains(u'θ'), u'G');
+            note(run.text.contains(u'ж'), u'C');
+        }
+    }
+    return found;
 }
 
 class DatabaseTest : public testing::Test
@@ -119,8 +157,7 @@ TEST_F(DatabaseTest, KeysAreUniqueWithoutCase)
 
 TEST_F(DatabaseTest, TheSameTitlesGiveTheSameBytes)
 {
-    const QString titles = QString::fromUtf8(contents(QStringLiteral(VARNHOLD_TITLES)));
-    EXPECT_TRUE(QByteArray::fromStdString(assets::databaseFile(assets::readTitles(titles))) == bytes());
+    EXPECT_TRUE(QByteArray::fromStdString(assets::databaseFile(listedTitles())) == bytes());
 }
 
 TEST_F(DatabaseTest, HoldsTitlesOfAllRegionsAndOfTheSampleService)
@@ -171,6 +208,37 @@ TEST_F(DatabaseTest, EveryPictureIsACoverOfTheSeries)
         EXPECT_LT(row.image.size(), 70000) << qPrintable(id);
     }
     EXPECT_GE(pictures.size(), 40);
+}
+
+TEST_F(DatabaseTest, NotesReadAsTheyWereWritten)
+{
+    const Table all = games();
+    const Table own = personal();
+    int rich = 0;
+    int plain = 0;
+    QSet<QChar> features;
+    const auto check = [&](const assets::NotesSource& source, const QByteArray& stored) {
+        const RichText read = readRtf(stored);
+        if (!source.rich) {
+            EXPECT_EQ(read.plainText(), source.lines.join(u'\n'));
+            plain += source.lines.isEmpty() ? 0 : 1;
+            return;
+        }
+        ++rich;
+        EXPECT_TRUE(stored.startsWith("{\\rtf1"));
+        EXPECT_TRUE(std::all_of(stored.begin(), stored.end(), [](char byte) { return byte > 0; }));
+        EXPECT_EQ(read.paragraphs, assets::richNotes(source.lines).paragraphs);
+        features += featuresOf(read);
+    };
+    for (const assets::Title& title : listedTitles()) {
+        SCOPED_TRACE(qPrintable(title.id));
+        check(title.notes, all.at(title.id).notes);
+        if (!title.ownNotes.lines.isEmpty())
+            check(title.ownNotes, own.at(title.id).notes);
+    }
+    EXPECT_GE(rich, 30);
+    EXPECT_GE(plain, 10);
+    EXPECT_EQ(features.size(), 15);
 }
 
 TEST(Notes, InksCanBeReadOnEverySkin)

@@ -75,6 +75,13 @@ TEST_F(EntryDetailsTest, DoesNothingWithAnEmptyList)
     EXPECT_EQ(load(u"STORED"_s), QStringList());
 }
 
+TEST_F(EntryDetailsTest, ShowsNothingOfAnEntryThatCannotBeReadWhole)
+{
+    database.execute(u"ALTER TABLE PS3Games DROP COLUMN GameImage"_s);
+    EXPECT_EQ(load(u"STORED"_s), QStringList({u"busy"_s, u"idle"_s}));
+    EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::unknownColumn)});
+}
+
 TEST_F(EntryDetailsTest, ReportsAnIdThatBreaksTheStatement)
 {
     EXPECT_EQ(load(u"x' or GameID='STORED"_s), QStringList({u"busy"_s, u"idle"_s}));
