@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <utility>
+#include <bit>
 
 namespace varnhold {
 
@@ -49,7 +49,7 @@ DatabaseFile::DatabaseFile(const QString& path)
     const QString fullPath = info.absoluteFilePath();
     m_engine = open(fullPath);
     int result = probe(m_engine.get());
-    if (result != SQLITE_OK && result != SQLITE_BUSY && wantsWriteAheadLog(fullPath) &&
+    if (result != SQLITE_OK && (result & 0xff) != SQLITE_BUSY && wantsWriteAheadLog(fullPath) &&
         QFileInfo(fullPath + u"-wal"_s).size() == 0) {
         // A folder that takes no log: nothing waits in one, so the file can be read as it stands.
         m_engine = openUnchanging(fullPath);
@@ -150,7 +150,10 @@ void DatabaseFile::prepareWrite()
     if (m_readOnly)
         fail(SQLITE_READONLY);
     m_value.reset();
-    if (!std::exchange(m_journalChosen, true))
+    // To take up a log and to fold it in again costs as much as three writes without: it pays for many. A
+    // refusal may be of the moment, so it is tried again, ever more seldom.
+    ++m_writes;
+    if (!m_writeAhead && m_writes > 1 && std::has_single_bit(m_writes))
         useWriteAheadLog();
 }
 

@@ -34,7 +34,8 @@ public:
     EngineStatement statement(const QByteArray& sql);
     void execute(const QByteArray& sql) { statement(sql).step(); }
 
-    /// To be called before every write. RunTimeError 0x80004005 when the file is read-only.
+    /// To be called before every write, each of which then is on its own and outlives a kill. RunTimeError
+    /// 0x80004005 when the file is read-only.
     void prepareWrite();
     [[nodiscard]] qint64 lastInsertRowId() const;
     /// Rows that the last statement changed.
@@ -78,7 +79,7 @@ private:
     std::unordered_map<std::string, std::shared_ptr<const TableSchema>> m_tables; ///< by folded name
     std::unique_ptr<OpenValue> m_value;
     bool m_readOnly = false;
-    bool m_journalChosen = false;
+    quint64 m_writes = 0;
     bool m_writeAhead = false; ///< this connection switched the file to a write-ahead log
 };
 

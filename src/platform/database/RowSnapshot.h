@@ -27,6 +27,8 @@ public:
     void append(bool isNull, QByteArrayView text) { m_cells.push_back(cellOf(isNull, text)); }
     void set(std::size_t row, bool isNull, QByteArrayView text) { m_cells[row] = cellOf(isNull, text); }
     void forget(std::size_t row) { m_cells[row] = lookUp; }
+    /// Row `order[i]` becomes row i, and its text stands where a walk comes along.
+    void arrange(const std::vector<quint32>& order);
     /// Nothing when the value must be looked up.
     [[nodiscard]] std::optional<QString> text(std::size_t row) const;
 
@@ -54,7 +56,7 @@ public:
                 const DatabaseStatement& statement, const std::vector<qint64>& left = {});
 
     [[nodiscard]] std::size_t count() const { return m_rowIds.size(); }
-    [[nodiscard]] qint64 rowId(std::size_t position) const { return m_rowIds[scanned(position)]; }
+    [[nodiscard]] qint64 rowId(std::size_t position) const { return m_rowIds[position]; }
     /// NULL as the null string. RunTimeError 3021 when the row was deleted meanwhile.
     QString text(std::size_t position, int column);
     /// The value was changed.
@@ -63,20 +65,15 @@ public:
 private:
     using Columns = std::vector<std::optional<TextColumn>>;
 
-    [[nodiscard]] std::size_t scanned(std::size_t position) const
-    {
-        return m_order.empty() ? position : m_order[position];
-    }
     void scan(const DatabaseStatement& statement, const std::vector<qint64>& left);
     void loadWhenWorthIt(int column);
     void load(int column);
 
     DatabaseFile& m_file;
     std::shared_ptr<const TableSchema> m_table;
-    std::vector<qint64> m_rowIds; ///< as they were scanned
-    std::vector<quint32> m_order; ///< position to scanned row; empty: the same
-    Columns m_columns;            ///< by scanned row
-    std::vector<int> m_lookUps;   ///< by column
+    std::vector<qint64> m_rowIds;
+    Columns m_columns;
+    std::vector<int> m_lookUps; ///< by column
 };
 
 /// One value from the file; nothing when the row is gone. NULL as the null string.

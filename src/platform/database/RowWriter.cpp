@@ -22,7 +22,7 @@ const ColumnSchema& columnOf(const TableSchema& table, const PendingValue& value
 bool needsLook(const TableSchema& table, const PendingValue& value)
 {
     const ColumnSchema& column = columnOf(table, value);
-    return column.unique && !value.binary && !(column.uniqueIndexFolds && isAscii(value.bytes));
+    return column.unique && !value.binary && !(column.uniqueIndexFolds && hasAsciiCaseOnly(value.bytes));
 }
 
 void requireFree(DatabaseFile& file, const TableSchema& table, const PendingValue& value,

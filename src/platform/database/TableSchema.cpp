@@ -62,8 +62,13 @@ QByteArray rowIdName(const std::vector<ColumnSchema>& columns)
 
 int TableSchema::column(const QString& columnName) const
 {
+    // Nearly always as written, and asked for every value of a walk.
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].name == columnName || sameFolded(columns[i].name, columnName))
+        if (columns[i].name == columnName)
+            return static_cast<int>(i);
+    }
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (sameFolded(columns[i].name, columnName))
             return static_cast<int>(i);
     }
     throw databaseError(errors::database::unknownColumn, columnName);

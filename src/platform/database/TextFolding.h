@@ -12,7 +12,9 @@ namespace varnhold {
 /// becomes an ASCII one (the Kelvin sign is no k): what a file's own ASCII index says about ASCII text then
 /// holds here too.
 
-bool isAscii(QByteArrayView utf8);
+/// Whether case plays no part in the text beyond its ASCII letters, as in ids and in most scripts of Asia. A
+/// file's own index, which knows the case of ASCII alone, then finds all that is the same text.
+bool hasAsciiCaseOnly(QByteArrayView utf8);
 /// Appends the folded text, as UTF-8. Bytes that are no UTF-8 become the replacement character.
 void appendFolded(std::string& target, QByteArrayView utf8);
 std::string folded(QByteArrayView utf8);
@@ -24,11 +26,11 @@ class FoldedText
 public:
     explicit FoldedText(QByteArrayView utf8);
     [[nodiscard]] bool matches(QByteArrayView utf8) const;
-    [[nodiscard]] bool isAscii() const { return m_ascii; }
+    [[nodiscard]] bool hasAsciiCaseOnly() const { return m_asciiCaseOnly; }
 
 private:
     std::string m_folded;
-    bool m_ascii;
+    bool m_asciiCaseOnly;
     mutable std::string m_other;
 };
 

@@ -11,7 +11,6 @@ namespace varnhold {
 class TextOrder
 {
 public:
-    void reserve(std::size_t rows);
     /// The next row's key goes to the end of this text; then finishRow() or finishNullRow().
     std::string& keys() { return m_keys; }
     void finishRow() { m_ends.push_back(m_keys.size()); }

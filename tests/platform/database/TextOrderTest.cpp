@@ -38,6 +38,23 @@ TEST(TextFoldingTest, FoldsCharacterByCharacter)
     }
 }
 
+TEST(TextFoldingTest, KnowsWhereAnAsciiIndexIsEnough)
+{
+    for (const auto& text : {u"BLUS30443"_s, u"ゼルダ 中文 한글™"_s, u""_s})
+        EXPECT_TRUE(hasAsciiCaseOnly(text.toUtf8())) << qPrintable(text);
+    for (const auto& text : {u"Ä"_s, u"ß"_s, u"Ⓐ"_s, u"ⅷ"_s, u"я"_s, u"\U00010428"_s, u"ǅ"_s})
+        EXPECT_FALSE(hasAsciiCaseOnly(text.toUtf8())) << qPrintable(text);
+    // A caseless character neither folds nor is what another one folds to.
+    for (char32_t c = 0x80; c < 0x20000; ++c) {
+        const QByteArray one = QString::fromUcs4(&c, 1).toUtf8();
+        const QByteArray other = QByteArray::fromStdString(folded(one));
+        if (!QChar::isSurrogate(c) && one != other) {
+            ASSERT_FALSE(hasAsciiCaseOnly(one)) << std::hex << static_cast<uint>(c);
+            ASSERT_FALSE(hasAsciiCaseOnly(other)) << std::hex << static_cast<uint>(c);
+        }
+    }
+}
+
 /// Few letters, so that many keys are equal or one another's beginning, zero bytes included.
 class TextOrderTest : public testing::TestWithParam<bool>
 {
