@@ -14,15 +14,42 @@ public:
     explicit RichTextBox(QWidget* parent = nullptr);
 
     [[nodiscard]] QString TextRTF() const;
-    /// Replaces the contents; a text that is no RTF shows as it stands. Not undoable.
+    /// Replaces the contents and shows their start; a text that is no RTF shows as it stands. Not undoable.
     void setTextRTF(const QString& rtf);
 
     [[nodiscard]] bool Locked() const { return isReadOnly(); }
+    /// While locked the text can be read, selected and copied; the keys scroll.
     void setLocked(bool locked);
 
-    /// Position of the character at that point of the viewport, in pixels; at the nearest one where there is
-    /// none.
+    /// Position of the character at that point of the viewport, in pixels; that of the line's end behind a
+    /// line, and of the text's end below the text.
     [[nodiscard]] int characterAt(const QPoint& viewportPoint) const;
+
+protected:
+    /// The colour in which a stored one shows; what is stored stays. Call refreshColors when other answers
+    /// are to be given for the same palette.
+    [[nodiscard]] virtual QColor shownColor(const QColor& stored) const { return stored; }
+    void refreshColors();
+
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    struct Range
+    {
+        int first;
+        int last;
+    };
+    /// Positions between which all that can be seen lies.
+    [[nodiscard]] Range visibleText() const;
+    [[nodiscard]] QPoint scrolled() const; ///< from the viewport to the document
+    void drawBullet(QPainter& painter, const QTextBlock& block) const;
+    bool endBullet();
 };
 
 } // namespace varnhold
