@@ -127,6 +127,9 @@ void frmMain::buildLeftColumn()
     m_games->setAccessibleName(tr("Games"));
     m_games->setBorderWidth(0); // the window draws the well
     m_games->setSorted(false);  // List1 runs beside it, row by row
+    QFont narrow = m_games->font();
+    narrow.setStretch(QFont::SemiCondensed); // an id is to be read whole beside its icon and the bar
+    m_games->setFont(narrow);
     m_picPreview = new CoverBox(m_picLeft);
     m_picPreview->setObjectName("PicPreview"_L1);
     m_picPreview->setAccessibleName(tr("Cover"));

@@ -1,5 +1,7 @@
 #include "platform/QtFileDialogs.h"
 
+#include "platform/FrontWindow.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -28,7 +30,7 @@ QStringList nameFilters(const QString& filter)
 std::optional<ChosenFile> choose(const FileDialogRequest& request, QFileDialog::AcceptMode mode,
                                  QFileDialog::FileMode files)
 {
-    QFileDialog dialog(QApplication::activeWindow(), request.title, request.startFolder);
+    QFileDialog dialog(frontWindow(), request.title, request.startFolder);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(files);
     // The caller asks before it overwrites, in its own words.
@@ -57,7 +59,7 @@ std::optional<ChosenFile> QtFileDialogs::chooseFile(const FileDialogRequest& req
 
 QString QtFileDialogs::chooseFolder(const QString& prompt, const QString& startFolder)
 {
-    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), prompt, startFolder);
+    return QFileDialog::getExistingDirectory(frontWindow(), prompt, startFolder);
 }
 
 } // namespace varnhold

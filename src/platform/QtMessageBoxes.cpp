@@ -1,5 +1,7 @@
 #include "platform/QtMessageBoxes.h"
 
+#include "platform/FrontWindow.h"
+
 #include <QApplication>
 #include <QMessageBox>
 
@@ -39,7 +41,7 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box)
     QMessageBox dialog(
         iconOf(box.icon), box.title.isEmpty() ? QApplication::applicationDisplayName() : box.title,
         withLineFeeds(box.text), question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-        QApplication::activeWindow());
+        frontWindow());
     dialog.setTextFormat(Qt::PlainText);
     dialog.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
     dialog.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
