@@ -32,7 +32,7 @@ struct RichText
         int rightIndent = 0;
         int firstIndent = 0; ///< of the first line, counted from leftIndent; negative hangs
         bool bullet = false;
-        int bulletIndent = 0; ///< from the bullet to its text
+        int bulletIndent = 0; ///< from the bullet to its text; 0: as far as the first line hangs
         std::vector<int> tabs;
         bool operator==(const ParagraphFormat&) const = default;
     };

@@ -141,9 +141,19 @@ bool RtfCodePage::endsInside(QByteArrayView bytes) const
 
 QString RtfCodePage::text(QByteArrayView bytes)
 {
-    if (!m_decoder.isValid())
-        return m_multiByte ? QString((bytes.size() + 1) / 2, QChar::ReplacementCharacter)
-                           : fromCodePage(bytes);
+    if (!m_decoder.isValid()) {
+        if (!m_multiByte)
+            return fromCodePage(bytes);
+        QString replaced;
+        bool inside = false;
+        for (const char byte : bytes) {
+            const bool plain = !inside && static_cast<unsigned char>(byte) < 0x80;
+            inside = !inside && isLead(static_cast<unsigned char>(byte));
+            if (!inside)
+                replaced += plain ? QChar::fromLatin1(byte) : QChar(QChar::ReplacementCharacter);
+        }
+        return replaced;
+    }
     QString decoded = m_decoder.decode(bytes);
     if (m_number == 65001 || endsInside(bytes)) // not always: a new converter is made for it
         m_decoder.resetState();

@@ -21,7 +21,7 @@ using Kind = RtfToken::Kind;
 using Run = RichText::Run;
 
 constexpr std::size_t deepest = 16384; // groups; deeper ones are counted, their formats leak out
-constexpr qsizetype mostTabs = 64;     // a paragraph's; they are copied to each that follows
+constexpr qsizetype mostTabs = 32;     // a paragraph's; they are copied to each that follows
 constexpr int longest = 31680;         // twips, 22 inches
 constexpr int biggest = 3276;          // half-points
 constexpr int longestFallback = 100;   // characters behind \u

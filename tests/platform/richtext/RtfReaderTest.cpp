@@ -75,4 +75,104 @@ TEST(RtfReader, ReadsCharactersOfAnyCodePage)
         u"<Four>a<F\u00E9\u0416>b"_s);
 }
 
+TEST(RtfReader, ReadsListsOfBothKinds)
+{
+    const QByteArray tables =
+        "{\\*\\listtable{\\list{\\listlevel\\levelnfc23{\\leveltext\\'01\\u-3913 ?;}}{\\listlevel\\levelnfc0}"
+        "\\listid7}}{\\*\\listoverridetable{\\listoverride\\listid7\\listoverridecount0\\ls1}}";
+    expectCases({
+        {"an old bullet lasts to the paragraph's defaults",
+         "\\pard{\\pntext\\f3\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf3\\pnindent200{\\pntxtb\\'B7}}\\fi-200\\li200 "
+         "a\\par"
+         "{\\pntext\\f3\\'B7\\tab}b\\par\\pard c",
+         u"(li200 fi-200 bullet200)a\n(li200 fi-200 bullet200)b\nc"_s},
+        {"an old number is text",
+         "\\pard{\\pntext\\f0 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec\\pnindent200{\\pntxta .}}\\f0 a",
+         u"<Zero>1.~a"_s},
+        {"a level of the tables",
+         tables + "{\\listtext\\f3\\'b7\\tab}\\ls1\\ilvl0 a\\par{\\listtext 1.\\tab}\\ilvl1 b\\par"
+                  "\\pard c",
+         u"(bullet0)a\n1.~b\nc"_s},
+        {"a bullet that no table tells of", "{\\listtext\\u8226?\\tab}a\\par{\\listtext i.\\tab}b",
+         u"(bullet0)a\ni.~b"_s},
+    });
+}
+
+TEST(RtfReader, KeepsWhatItDoesNotUnderstand)
+{
+    expectCases({
+        {"at its place", "\\pard a{\\*\\unheard b{c}}d{\\pict 00ff}{\\footnote \\pard n\\par}",
+         u"a[{\\*\\unheard b{c}}]d[{\\pict 00ff}][{\\footnote \\pard n\\par}]"_s},
+        {"from the word on, behind text of the group", "\\pard{\\b a\\*\\unheard b}c",
+         u"<b>a<>[{\\*\\unheard b}]c"_s},
+        {"the rest of the document is no such group", "\\pard a\\pict b\\*\\unheard c", u"abc"_s},
+        {"binary data in hexadecimal, whatever it holds", "\\pard{\\pict\\bin4 }{\\\xff}a",
+         u"[{\\pict 7d7b5cff}]a"_s},
+        {"bytes and control characters", "\\pard{\\*\\x \xe9" + QByteArray(1, '\0') + "\\\xff}",
+         u"[{\\*\\x \\'e9\n\\'ff}]"_s},
+        {"with the fallback's length that it stood in", "\\pard\\uc0{\\*\\x \\u65 b}",
+         u"[{\\*\\x \\uc0 \\u65 b}]"_s},
+        {"a field's code before its result",
+         "\\pard a{\\field\\flddirty{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt\\b b\\par c}}d",
+         u"a[{\\field\\flddirty{\\*\\fldinst HYPERLINK \"x\"}}]<b>b\n<b>c[{\\fldrslt}]<>d"_s},
+        {"hidden and deleted text", "\\pard a\\v b\\u1055?\\v0 c{\\deleted d}",
+         u"a[{\\v b\\u1055?}]c[{\\deleted d}]"_s},
+        {"behind the last paragraph", "a\\par{\\*\\unheard b}", u"a[{\\*\\unheard b}]"_s},
+    });
+    const RichText text = readRtf(
+        "{\\rtf1\\ansicpg1251{\\fonttbl{\\f4\\fcharset204 A Cyr;}{\\f5 B;}}{\\colortbl;\\red1;\\blue2;}"
+        "{\\stylesheet{\\s1\\f4\\cf2 H\\'e9;}}{\\info{\\title t}}{\\footer\\pard f\\par}\\pard "
+        "a{\\*\\themedata 0}}");
+    const std::vector<QByteArray> header = {"{\\ansicpg1251}",
+                                            "{\\fonttbl{\\f4\\fnil\\fcharset204 A;}}",
+                                            "{\\colortbl;;\\red0\\green0\\blue2;}",
+                                            "{\\stylesheet{\\s1\\f4\\cf2 H\\'e9;}}",
+                                            "{\\info{\\title t}}",
+                                            "{\\footer\\pard f\\par}",
+                                            "{\\*\\themedata 0}"};
+    EXPECT_EQ(text.header, header);
+}
+
+TEST(RtfReader, ShowsWhatDamageLeaves)
+{
+    expectCases({
+        {"half escapes", "a\\'zb\\'8!", u"azb8!"_s},
+        {"numbers of any size", "\\fs99999999999\\li-99999999999999999999 a\\u99999999 ?b",
+         u"(li-31680)<3276>ab"_s},
+        {"braces too many", "{\\b a}} b} c", u"<b>a<> b c"_s},
+        {"data that ends early", "a{\\pict\\bin99 xy", u"a[{\\pict 78797d}]"_s},
+        {"nothing behind it", "a", u"a"_s},
+    });
+    EXPECT_EQ(readRtf("{\\rtf1 a}\r\n\0{\\rtf1 b}").plainText(), u"a"_s);
+    EXPECT_EQ(readRtf("{\\rtf1 {\\b{\\i a").plainText(), u"a"_s);
+    EXPECT_EQ(readRtf("{\\rtf1").plainText(), u""_s);
+
+    constexpr qsizetype deep = 200000;
+    const QByteArray nested = "{\\rtf1\\pard " + QByteArray("{\\b0").repeated(deep) + " a" +
+                              QByteArray(deep, '}') + "b{\\*\\x " + QByteArray(deep, '{');
+    const RichText text = readRtf(nested);
+    EXPECT_EQ(text.plainText(), u"ab"_s);
+    EXPECT_EQ(text.paragraphs.at(0).runs.back().verbatim.size(), 6 + 2 * deep + 1);
+}
+
+TEST(RtfReader, ReadsOtherNotesAsPlainText)
+{
+    const struct
+    {
+        QByteArray note;
+        QString shown;
+    } cases[] = {
+        {"", u""_s},
+        {"a {b}\\par\r\n\tc\rd\n", u"a {b}\\par\n~c\nd\n"_s},
+        {" {\\rtf1 a}", u" {\\rtf1 a}"_s},
+        {"\xEF\xBB\xBF\xC3\xA9", u"\u00E9"_s},
+        {"\xEF\xBB\xBF{\\rtf1 a}", u"a"_s},
+        {"caf\xE9", u"caf\u00E9"_s},
+        {QByteArray("a\0b\0", 4), u"ab"_s},
+        {QByteArray("\xFF\xFE\x16\x04", 4), u"\u0416"_s},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(shown(readRtf(one.note)), one.shown) << one.note.toPercentEncoding().constData();
+}
+
 } // namespace varnhold::test
