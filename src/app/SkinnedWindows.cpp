@@ -5,7 +5,6 @@
 #include "app/frmSettings.h"
 #include "app/frmSplash.h"
 #include "appearance/ButtonSigns.h"
-#include "appearance/ToolkitLook.h"
 #include "controls/CTooltip/CTooltip.h"
 
 #include <array>
@@ -58,7 +57,6 @@ void SkinnedWindows::enlargeMainWindow()
 
 void SkinnedWindows::takeColors(const SkinPage& page)
 {
-    colorToolkit(page.Shape_Color, page.menuGround);
     drawButtonSigns(m_main);
     drawButtonSigns(m_settings);
     for (CTooltip* const tip : m_main.findChildren<CTooltip*>()) {

@@ -1,5 +1,6 @@
 #include "appearance/ButtonSigns.h"
 
+#include "appearance/WindowControls.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/SystemColorsUi.h"
 
@@ -149,7 +150,7 @@ void drawButtonSign(ButtonEx& button)
 
 void drawButtonSigns(const QWidget& window)
 {
-    for (ButtonEx* const button : window.findChildren<ButtonEx*>())
+    for (ButtonEx* const button : controlsOf<ButtonEx>(window))
         drawButtonSign(*button);
 }
 

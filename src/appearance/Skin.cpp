@@ -5,7 +5,9 @@
 #include "appearance/SkinLists.h"
 #include "appearance/SkinPictures.h"
 #include "appearance/SkinTexts.h"
+#include "appearance/ToolkitLook.h"
 #include "appearance/TransForm.h"
+#include "appearance/WindowControls.h"
 #include "controls/Contrast.h"
 #include "controls/DesignValues.h"
 #include "controls/SystemColorsUi.h"
@@ -91,7 +93,7 @@ QWidget* Skin::control(const char* window, const char* name) const
     QWidget* found = m_services.host.window(window);
     if (found == nullptr || *name == '\0')
         return found;
-    return found->findChild<QWidget*>(QLatin1StringView(name));
+    return controlOf(*found, name);
 }
 
 void Skin::applyTargets(std::span<const SkinTarget> targets, SkinPictures& pictures)
@@ -241,13 +243,14 @@ void Skin::ApplySkinColors()
         if (auto* notes = qobject_cast<QAbstractScrollArea*>(control(window, "txtGameNotes")))
             notes->viewport()->setAutoFillBackground(false);
     }
+    colorToolkit(page.Shape_Color, page.menuGround);
     for (const char* const name : coloredWindows) {
         if (const QWidget* const window = host.window(name))
             assignSkinColorsInside(*window, page.Shape_Color);
     }
     for (const char* const name : {"frmMain", "frmSearch"}) {
         if (const QWidget* const window = host.window(name)) {
-            for (XP_ProgressBar* const bar : window->findChildren<XP_ProgressBar*>())
+            for (XP_ProgressBar* const bar : controlsOf<XP_ProgressBar>(*window))
                 colorBar(*bar, page.Shape_Color[SkinPage::Back]);
         }
     }
@@ -307,12 +310,11 @@ void Skin::Load_DL(QWidget& window)
     const SkinColors& colors = m_services.page.Shape_Color;
     SkinPictures pictures(m_services.state.SkinPath);
     for (const SkinTarget& target : downloadTargets()) {
-        QWidget* const found =
-            *target.control == '\0' ? &window : window.findChild<QWidget*>(QLatin1StringView(target.control));
+        QWidget* const found = *target.control == '\0' ? &window : controlOf(window, target.control);
         if (found != nullptr)
             silently([&] { applyTarget(target, *found, pictures); });
     }
-    for (XP_ProgressBar* const bar : window.findChildren<XP_ProgressBar*>())
+    for (XP_ProgressBar* const bar : controlsOf<XP_ProgressBar>(window))
         colorBar(*bar, colors[SkinPage::Back]);
     assignSkinColorsInside(window, colors);
     shape(window);

@@ -37,7 +37,7 @@ public:
     virtual QWidget* window(const char* name) = 0;
     /// EnlargeMainWindow, which comes back for its pictures.
     virtual void enlargeMainWindow() = 0;
-    /// Takes the skin's colours for what belongs to no window: menus, tool tips, dialogs.
+    /// Takes the skin's colours for what is no control of a window: the signs on buttons, tool tips.
     virtual void takeColors(const SkinPage& page) = 0;
     /// Fills the menu mnuSkins from the catalogue; its entries are actions of the window frmMenu.
     virtual void showCatalogue(const SkinCatalogue& catalogue) = 0;

@@ -1,5 +1,6 @@
 #include "appearance/SkinColors.h"
 
+#include "appearance/WindowControls.h"
 #include "controls/SystemColorsUi.h"
 
 #include <QAbstractButton>
@@ -35,6 +36,9 @@ void setPaletteColors(QWidget& part, const QColor& fore, const QColor& back)
     if (hasOwnGround(part))
         palette.setColor(QPalette::Base, back);
     part.setPalette(palette);
+    // A style sheet gives the inner part a palette of its own, which then follows no more.
+    if (const auto* const area = qobject_cast<QAbstractScrollArea*>(&part))
+        area->viewport()->setPalette(palette);
 }
 
 } // namespace
@@ -57,9 +61,10 @@ void assignSkinColors(QWidget& control, const SkinColors& colors)
 
 void assignSkinColorsInside(const QWidget& window, const SkinColors& colors)
 {
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        // A control's inner parts are its own affair.
-        if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
+    for (QWidget* control : controlsOf<QWidget>(window)) {
+        // A control's inner parts are its own affair; headings have no name and are no such part.
+        const bool isNamed = !control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_");
+        if (isNamed || qobject_cast<QLabel*>(control) != nullptr)
             assignSkinColors(*control, colors);
     }
 }

@@ -5,7 +5,11 @@
 #include "controls/SystemColorsUi.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QToolTip>
+
+#include <utility>
+#include <vector>
 
 namespace varnhold {
 
@@ -76,7 +80,8 @@ QPalette paletteOf(const Tones& tones)
 QString styleSheetOf(const Tones& tones)
 {
     QString sheet = uR"(
-QMenu { color: @text; background: @ground; border: 1px solid @edge; padding: 4px 0; }
+QMenu { color: @text; background: @ground; border: 1px solid @edge; padding: 4px 0; menu-scrollable: 1; }
+QMenu::scroller { height: 16px; }
 QMenu::item { padding: 4px 28px 4px 8px; }
 QMenu::icon { padding-left: 6px; }
 QMenu::item:selected { background: @chosen; color: @chosenText; }
@@ -108,6 +113,22 @@ QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-pa
     return sheet;
 }
 
+/// A new style sheet gives every widget back the palette that it had when it met the one before. Colours that
+/// were set since must stay, also those of windows that keep their old look.
+void changeStyleSheet(const QString& sheet)
+{
+    std::vector<std::pair<QPointer<QWidget>, QPalette>> owned;
+    for (QWidget* const widget : QApplication::allWidgets()) {
+        if (widget->palette().resolveMask() != 0)
+            owned.emplace_back(widget, widget->palette());
+    }
+    qApp->setStyleSheet(sheet);
+    for (const auto& [widget, palette] : owned) {
+        if (widget)
+            widget->setPalette(palette);
+    }
+}
+
 } // namespace
 
 void setUpToolkitLook(QApplication& application)
@@ -128,7 +149,7 @@ void colorToolkit(const SkinColors& colors, ColorValue ground)
     QToolTip::setPalette(palette);
     const QString sheet = styleSheetOf(tones);
     if (sheet != qApp->styleSheet())
-        qApp->setStyleSheet(sheet);
+        changeStyleSheet(sheet);
 }
 
 } // namespace varnhold

@@ -7,6 +7,7 @@
 #include "appearance/TransForm.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "download/frm_Winsock.h"
 #include "support/FakeClock.h"
@@ -21,6 +22,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 
 namespace varnhold::test {
@@ -73,6 +75,11 @@ protected:
     clsTransForm transForm{boxes};
     Skin skin{{state, settings, file, root.paths(), page, boxes, dialogs, sounds, pump, transForm, windows}};
 };
+
+QColor textColor(const QWidget& label)
+{
+    return label.palette().color(QPalette::WindowText);
+}
 
 QImage imageOf(const QObject& control, const char* property)
 {
@@ -317,8 +324,11 @@ TEST_F(SkinTest, LeavesAnOpenDownloadAsItIs)
                                          .sounds = sounds,
                                          .screen = screen,
                                          .skin = [this](QWidget& window) { skin.Load_DL(window); }};
+    main.show();
+    settingsWindow.open({});
     ASSERT_TRUE(skin.ApplySkin());
-    frm_Winsock before(services, nullptr);
+    frm_Winsock before(services, &main);
+    QCoreApplication::processEvents(); // a dialog may come between
     before.loadSkin();
     before.show();
     const auto& cancel = child<ButtonEx>(before, "cmdCancel");
@@ -327,11 +337,20 @@ TEST_F(SkinTest, LeavesAnOpenDownloadAsItIs)
     EXPECT_FALSE(before.mask().isEmpty());
 
     skin.mnuSkin_Click(2);
+    QCoreApplication::processEvents();
     EXPECT_EQ(storedSkin(u"Skin Path"_s), root.path(u"skin/paper"_s));
     EXPECT_EQ(storedSkin(u"Skin Name"_s), u"(missing)"_s) << "the menu leaves it unwritten";
     EXPECT_EQ(state.SkinName, u"paper"_s);
     EXPECT_EQ(cancel.SkinUp().toImage(), face);
     EXPECT_EQ(cancel.ForeColor(), fore);
+    for (const auto* label : before.findChildren<QLabel*>())
+        EXPECT_EQ(textColor(*label), toQColor(fore)) << qPrintable(label->text());
+    for (const char* const name : {"lblCaption", "lblStatus"})
+        EXPECT_EQ(textColor(child(main, name)), toQColor(page.Shape_Color[SkinPage::Fore])) << name;
+    EXPECT_EQ(textColor(child(settingsWindow, "lbl_Caption")), toQColor(page.Shape_Color[SkinPage::Fore]));
+    EXPECT_EQ(child<QListWidget>(settingsWindow, "List1").viewport()->palette().color(QPalette::Base),
+              toQColor(page.Shape_Color[SkinPage::Back]));
+    EXPECT_NE(child<XP_ProgressBar>(before, "PB").color(), page.Shape_Color[SkinPage::Back]);
     frm_Winsock after(services, nullptr);
     after.loadSkin();
     EXPECT_NE(child<ButtonEx>(after, "cmdCancel").SkinUp().toImage(), face);
