@@ -38,10 +38,10 @@ QString withLineFeeds(QString text)
 BoxAnswer QtMessageBoxes::show(const MessageBox& box)
 {
     const bool question = box.buttons == BoxButtons::YesNo;
-    QMessageBox dialog(
-        iconOf(box.icon), box.title.isEmpty() ? QApplication::applicationDisplayName() : box.title,
-        withLineFeeds(box.text), question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-        frontWindow());
+    QMessageBox dialog(iconOf(box.icon),
+                       box.title.isEmpty() ? QApplication::applicationDisplayName() : box.title,
+                       withLineFeeds(box.text),
+                       question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, frontWindow());
     dialog.setTextFormat(Qt::PlainText);
     dialog.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
     dialog.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
