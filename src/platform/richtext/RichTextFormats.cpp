@@ -64,14 +64,15 @@ RichText::Alignment fromQt(Qt::Alignment alignment)
     return RichText::Alignment::Left;
 }
 
-void setTabs(QTextBlockFormat& block, const std::vector<int>& tabs, int textLeft)
+/// `lineLeft` is the left edge of the first line.
+void setTabs(QTextBlockFormat& block, const std::vector<int>& tabs, int lineLeft)
 {
     block.setProperty(Tabs, QVariant::fromValue(QList<int>(tabs.begin(), tabs.end())));
     QList<QTextOption::Tab> positions;
     for (const int tab : tabs) {
-        // Kept from the margin, laid out from the text's left edge.
-        if (tab > textLeft)
-            positions.append(QTextOption::Tab(toPixels(tab - textLeft), QTextOption::LeftTab));
+        // Kept from the margin; the toolkit counts from where a line begins.
+        if (tab > lineLeft)
+            positions.append(QTextOption::Tab(toPixels(tab - lineLeft), QTextOption::LeftTab));
     }
     block.setTabPositions(positions);
 }
@@ -101,7 +102,7 @@ QTextBlockFormat toBlockFormat(const RichText::ParagraphFormat& format)
     if (format.rightIndent != 0)
         block.setRightMargin(toPixels(format.rightIndent));
     if (!format.tabs.empty())
-        setTabs(block, format.tabs, textLeft);
+        setTabs(block, format.tabs, format.bullet ? textLeft : textLeft + format.firstIndent);
     return block;
 }
 

@@ -17,8 +17,7 @@ TEST(RichTextBox, TakesRichTextAndPlainText)
 {
     RichTextBox box;
     box.setTextRTF(u"{\\rtf1 one {\\b two}\\par \u2122 \u4e00\\par}"_s);
-    EXPECT_EQ(box.toPlainText(), u"one two\n\u2122 \u4e00"_s)
-        << "characters as they are keep their meaning";
+    EXPECT_EQ(box.toPlainText(), u"one two\n\u2122 \u4e00"_s) << "characters as they are keep their meaning";
     RichTextBox other;
     other.setTextRTF(box.TextRTF());
     EXPECT_EQ(other.toPlainText(), box.toPlainText());
@@ -32,6 +31,23 @@ TEST(RichTextBox, TakesRichTextAndPlainText)
     EXPECT_TRUE(box.TextRTF().startsWith("{\\rtf1"_L1));
     other.setTextRTF(box.TextRTF());
     EXPECT_EQ(other.toPlainText(), QString());
+}
+
+TEST(RichTextBox, TabsOfAHangingParagraphReachItsIndent)
+{
+    RichTextBox box;
+    box.resize(400, 300);
+    box.show();
+    box.setTextRTF(
+        u"{\\rtf1 x\\par\\pard\\li1500\\fi-1500\\tx1500 a\\tab b\\par a longer one\\tab b\\par}"_s);
+    const auto leftOf = [&](int block, int character) {
+        QTextCursor cursor(box.document()->findBlockByNumber(block));
+        cursor.setPosition(cursor.position() + character);
+        return box.cursorRect(cursor).left();
+    };
+    EXPECT_EQ(leftOf(1, 0), leftOf(0, 0));
+    EXPECT_NEAR(leftOf(1, 2) - leftOf(1, 0), 100, 1);
+    EXPECT_NEAR(leftOf(2, 13) - leftOf(2, 0), 100, 1);
 }
 
 TEST(RichTextBox, CopiesAndPastesWhatItCanKeep)
