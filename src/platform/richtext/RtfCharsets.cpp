@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace varnhold {
 
@@ -113,15 +114,14 @@ RtfCodePage::RtfCodePage(int number) : m_number(number), m_multiByte(isOneOf(mul
 {
     if (number != 1252)
         m_decoder = decoderOf(number);
-    for (int byte = 0; byte < 256; ++byte) {
-        const char c = static_cast<char>(byte);
-        QString decoded;
-        if (!m_multiByte && m_decoder.isValid())
-            decoded = text(QByteArrayView(&c, 1));
-        if (decoded.size() != 1)
-            decoded = fromCodePage(QByteArrayView(&c, 1));
-        m_single.at(static_cast<std::size_t>(byte)) = decoded.at(0).unicode();
-    }
+    std::array<char, 256> bytes{};
+    std::iota(bytes.begin(), bytes.end(), static_cast<char>(0));
+    QString decoded;
+    if (!m_multiByte && m_decoder.isValid())
+        decoded = text(bytes);
+    if (decoded.size() != static_cast<qsizetype>(bytes.size()))
+        decoded = fromCodePage(bytes);
+    std::transform(decoded.begin(), decoded.end(), m_single.begin(), [](QChar c) { return c.unicode(); });
 }
 
 bool RtfCodePage::isLead(unsigned char byte) const

@@ -12,6 +12,8 @@ namespace {
 
 using Kind = RtfToken::Kind;
 
+constexpr int latinPage = 1252;
+
 struct CharsetName
 {
     int charset;
@@ -125,6 +127,11 @@ private:
     {
         if (m_bytes.isEmpty())
             return;
+        if (std::all_of(m_bytes.cbegin(), m_bytes.cend(), [](char c) { return c >= 0; })) {
+            m_name += QLatin1String(m_bytes); // the same in every page, which then need not be made
+            m_bytes.clear();
+            return;
+        }
         RtfCodePage& page = m_pages.page(m_font.codePage ? m_font.codePage : m_codePage);
         if (page.isMultiByte())
             m_name += page.text(m_bytes);
@@ -284,6 +291,40 @@ void RtfReferences::add(QByteArrayView group)
         else if (isOne(colorWords, token.bytes))
             colors.insert(token.parameter);
     }
+}
+
+std::vector<QByteArray> rtfKeptTables(const RichText& text, const RtfTables& tables, int codePage)
+{
+    RtfReferences references;
+    for (const QByteArray& kept : text.header)
+        references.add(kept);
+    for (const RichText::Paragraph& paragraph : text.paragraphs)
+        for (const RichText::Run& run : paragraph.runs)
+            if (!run.verbatim.isEmpty())
+                references.add(run.verbatim);
+
+    std::vector<QByteArray> groups;
+    if (references.codePage && codePage != latinPage)
+        groups.push_back("{\\ansicpg" + QByteArray::number(codePage) + '}');
+    QByteArray fonts;
+    for (const int number : references.fonts)
+        if (const auto font = tables.fonts.find(number); font != tables.fonts.end())
+            fonts += rtfFontEntry(number, font->second);
+    if (!fonts.isEmpty())
+        groups.push_back("{\\fonttbl" + fonts + '}');
+    QByteArray colors;
+    std::size_t written = 0;
+    for (const int index : references.colors) {
+        const auto at = static_cast<std::size_t>(index);
+        if (at >= tables.colors.size() || !tables.colors[at])
+            continue;
+        colors.append(static_cast<qsizetype>(at - written), ';');
+        colors += rtfColorEntry(tables.colors[at]);
+        written = at + 1;
+    }
+    if (!colors.isEmpty())
+        groups.push_back("{\\colortbl" + colors + '}');
+    return groups;
 }
 
 } // namespace varnhold

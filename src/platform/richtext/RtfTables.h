@@ -1,16 +1,20 @@
 #pragma once
 
+#include "platform/richtext/RichText.h"
 #include "platform/richtext/RtfCharsets.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <limits>
 #include <map>
 #include <optional>
 #include <set>
 #include <vector>
 
 namespace varnhold {
+
+constexpr int rtfNoFont = std::numeric_limits<int>::min();
 
 struct RtfFont
 {
@@ -56,5 +60,18 @@ struct RtfReferences
 
     void add(QByteArrayView group);
 };
+
+/// What the header says.
+struct RtfTables
+{
+    RtfFonts fonts;
+    RtfColors colors;
+    RtfLists lists;
+    int defaultFont = rtfNoFont;
+};
+
+/// What the kept groups of the text refer to in tables, as groups that keep its numbers: {\ansicpg...} unless
+/// the page is Windows-1252, {\fonttbl...} and {\colortbl...} with these entries alone.
+std::vector<QByteArray> rtfKeptTables(const RichText& text, const RtfTables& tables, int codePage);
 
 } // namespace varnhold
