@@ -48,7 +48,7 @@ CoverCanvas::CoverCanvas(const CoverInks& inksUsed, std::uint32_t seed)
 
 int CoverCanvas::random(int below)
 {
-    return noiseAt(m_seed, m_calls++, 0) * below / 65536;
+    return static_cast<int>(std::int64_t{noiseAt(m_seed, m_calls++, 0)} * below / 65536);
 }
 
 void CoverCanvas::blend(int x, int y, Color color, int part, int whole)

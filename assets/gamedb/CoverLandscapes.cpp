@@ -96,7 +96,7 @@ void regatta(CoverCanvas& canvas)
 {
     const CoverInks& inks = canvas.inks;
     canvas.sky();
-    sun(canvas, 196, 136, 17);
+    sun(canvas, 196, 150, 15);
     canvas.below(canvas.ridge(180, 14), inks.far, inks.far);
     canvas.below([](int) { return 186; }, mix(inks.far, inks.middle, 2, 3), inks.near);
     glitter(canvas, 196, 190, 7);

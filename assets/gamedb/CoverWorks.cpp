@@ -172,16 +172,16 @@ void kites(CoverCanvas& canvas)
     canvas.sky();
     for (int i = 0; i < 5; ++i) {
         const int x = canvas.random(250);
-        const int y = 128 + canvas.random(90);
+        const int y = 144 + canvas.random(76);
         for (int puff = 0; puff < 4; ++puff)
             canvas.disc(x + puff * 11, y - (puff % 2) * 5, 9 + canvas.random(4),
                         mix(inks.skyLow, inks.letter, 2, 5));
     }
     canvas.below(canvas.ridge(246, 14), inks.far, inks.far);
     canvas.below(CoverCanvas::swell(258, 5, 190, canvas.random(190)), inks.middle, inks.near);
-    kite(canvas, 204, 150, 0.5625, inks.middle, inks.light);
-    kite(canvas, 52, 166, 0.6875, inks.light, inks.middle);
-    kite(canvas, 134, 178, 1.125, inks.skyTop, inks.light);
+    kite(canvas, 204, 160, 0.5625, inks.middle, inks.light);
+    kite(canvas, 52, 172, 0.6875, inks.light, inks.middle);
+    kite(canvas, 134, 182, 1.125, inks.skyTop, inks.light);
 }
 
 void rails(CoverCanvas& canvas)
