@@ -3,9 +3,6 @@
 #include "platform/database/DatabaseConnection.h"
 #include "platform/database/DatabaseErrors.h"
 #include "platform/database/DatabaseFile.h"
-#include "platform/database/TextFolding.h"
-
-#include <algorithm>
 
 namespace varnhold {
 
@@ -16,12 +13,6 @@ namespace {
 void rename(DatabaseFile& file, const QString& from, const QString& to)
 {
     file.execute("ALTER TABLE " + quotedName(from) + " RENAME TO " + quotedName(to));
-}
-
-bool contains(const std::vector<QString>& names, const QString& name)
-{
-    return std::any_of(names.begin(), names.end(),
-                       [&](const QString& candidate) { return sameFolded(candidate, name); });
 }
 
 } // namespace
@@ -40,9 +31,8 @@ void renameTable(const DatabaseConnection& connection, const QString& from, cons
         throw databaseError(errors::database::badSyntax);
     if (to == old)
         return;
-    const std::vector<QString> names = file.tableNames();
-    const bool caseOnly = sameFolded(old, to);
-    if (!caseOnly && contains(names, to))
+    const bool caseOnly = sameName(old, to);
+    if (!caseOnly && file.isTaken(to))
         throw databaseError(errors::database::tableExists, to);
 
     file.prepareWrite();
@@ -50,7 +40,7 @@ void renameTable(const DatabaseConnection& connection, const QString& from, cons
     if (caseOnly) {
         // The engine takes the new name for the old one's.
         QString between = to + u'_';
-        while (contains(names, between))
+        while (file.isTaken(between))
             between += u'_';
         rename(file, old, between);
         rename(file, between, to);

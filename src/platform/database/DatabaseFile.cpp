@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <algorithm>
 #include <bit>
 
 namespace varnhold {
@@ -183,14 +184,24 @@ int DatabaseFile::changes() const
     return sqlite3_changes(m_engine.get());
 }
 
-std::vector<QString> DatabaseFile::tableNames()
+std::vector<QString> DatabaseFile::names(const QByteArray& condition)
 {
     std::vector<QString> names;
-    EngineStatement row = statement("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE "
-                                    "'sqlite!_%' ESCAPE '!' ORDER BY rowid");
+    EngineStatement row = statement("SELECT name FROM sqlite_schema WHERE " + condition + " ORDER BY rowid");
     while (row.step())
         names.push_back(QString::fromUtf8(row.text(0)));
     return names;
+}
+
+std::vector<QString> DatabaseFile::tableNames()
+{
+    return names("type = 'table' AND name NOT LIKE 'sqlite!_%' ESCAPE '!'");
+}
+
+bool DatabaseFile::isTaken(const QString& name)
+{
+    const std::vector<QString> all = names("true");
+    return std::any_of(all.begin(), all.end(), [&](const QString& other) { return sameName(other, name); });
 }
 
 std::shared_ptr<const TableSchema> DatabaseFile::table(const QString& name)
@@ -199,7 +210,7 @@ std::shared_ptr<const TableSchema> DatabaseFile::table(const QString& name)
     if (const auto found = m_tables.find(key); found != m_tables.end())
         return found->second;
     for (const QString& candidate : tableNames()) {
-        if (sameFolded(candidate, name)) {
+        if (sameName(candidate, name)) {
             auto schema = std::make_shared<const TableSchema>(readTableSchema(*this, candidate));
             m_tables.emplace(key, schema);
             return schema;

@@ -43,6 +43,8 @@ public:
 
     /// Names of the user's tables in the order of the file.
     std::vector<QString> tableNames();
+    /// Whether a table, an index or anything else in the file bears the name, in any case.
+    bool isTaken(const QString& name);
     /// The table of that name in any case. RunTimeError 0x80040E37 when there is none.
     std::shared_ptr<const TableSchema> table(const QString& name);
     void forgetSchema() { m_tables.clear(); }
@@ -66,6 +68,7 @@ private:
         qint64 rowId;
     };
 
+    std::vector<QString> names(const QByteArray& condition);
     static Engine open(const QString& path);
     static Engine openUnchanging(const QString& path);
     static int probe(sqlite3* engine);

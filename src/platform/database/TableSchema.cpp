@@ -2,7 +2,6 @@
 
 #include "platform/database/DatabaseErrors.h"
 #include "platform/database/DatabaseFile.h"
-#include "platform/database/TextFolding.h"
 
 #include <algorithm>
 
@@ -68,7 +67,7 @@ int TableSchema::column(const QString& columnName) const
             return static_cast<int>(i);
     }
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (sameFolded(columns[i].name, columnName))
+        if (sameName(columns[i].name, columnName))
             return static_cast<int>(i);
     }
     throw databaseError(errors::database::unknownColumn, columnName);
@@ -90,6 +89,11 @@ TableSchema readTableSchema(DatabaseFile& file, const QString& name)
     if (schema.rowId.isEmpty() || (withoutRowIds.step() && withoutRowIds.integer(0) != 0))
         throw RunTimeError(errors::database::locked, u"The table '%1' has no row ids."_s.arg(name));
     return schema;
+}
+
+bool sameName(const QString& one, const QString& other)
+{
+    return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
 QByteArray quotedName(const QString& name)

@@ -33,6 +33,9 @@ struct TableSchema
 /// `name` exactly as the file has it.
 TableSchema readTableSchema(DatabaseFile& file, const QString& name);
 
+/// Whether two names of tables or columns are the same but for their case.
+bool sameName(const QString& one, const QString& other);
+
 /// A name as it stands in the engine's statements, whatever it holds.
 QByteArray quotedName(const QString& name);
 

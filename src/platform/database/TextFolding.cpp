@@ -111,11 +111,6 @@ std::string folded(QByteArrayView utf8)
     return result;
 }
 
-bool sameFolded(QStringView one, QStringView other)
-{
-    return foldedCharacters(one) == foldedCharacters(other);
-}
-
 FoldedText::FoldedText(QByteArrayView utf8)
     : m_folded(folded(utf8)), m_asciiCaseOnly(varnhold::hasAsciiCaseOnly(utf8))
 {

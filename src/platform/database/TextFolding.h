@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <QStringView>
 
 #include <string>
 
@@ -18,7 +17,6 @@ bool hasAsciiCaseOnly(QByteArrayView utf8);
 /// Appends the folded text, as UTF-8. Bytes that are no UTF-8 become the replacement character.
 void appendFolded(std::string& target, QByteArrayView utf8);
 std::string folded(QByteArrayView utf8);
-bool sameFolded(QStringView one, QStringView other);
 
 /// One text that many are compared with.
 class FoldedText

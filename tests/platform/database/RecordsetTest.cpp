@@ -292,11 +292,13 @@ TEST_F(RecordsetTest, DeletesWhatTheConditionNames)
 
 TEST_F(RecordsetTest, RenamesTables)
 {
-    file.execute(u"CREATE TABLE Games (GameID TEXT); CREATE TABLE \"Zwölf \"\"x\"\"\" (a)"_s);
+    file.execute(
+        u"CREATE TABLE Games (GameID TEXT); CREATE VIEW Taken AS SELECT 1; CREATE TABLE \"Zwölf \"\"x\"\"\" (a)"_s);
     connection.Open(connectionTo(file.path()));
     EXPECT_EQ(tableNames(connection),
               (QStringList{u"PS3Games"_s, u"PS3Personal"_s, u"PS3Links"_s, u"Games"_s, u"Zwölf \"x\""_s}));
     EXPECT_EQ(failureOf([&] { renameTable(connection, u"games"_s, u"PS3GAMES"_s); }), db::tableExists);
+    EXPECT_EQ(failureOf([&] { renameTable(connection, u"Games"_s, u"taken"_s); }), db::tableExists);
     EXPECT_EQ(failureOf([&] { renameTable(connection, u"Nothing"_s, u"x"_s); }), db::missingTable);
     EXPECT_EQ(failureOf([&] { renameTable(connection, u"Games"_s, u""_s); }), db::badSyntax);
     open(u"SELECT * FROM Games"_s);
