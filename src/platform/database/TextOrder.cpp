@@ -57,9 +57,9 @@ public:
 private:
     [[nodiscard]] std::string_view rest(quint32 row, std::size_t depth) const
     {
-        const std::size_t start = m_ends[row] + depth;
-        return start < m_ends[row + 1] ? std::string_view(m_keys).substr(start, m_ends[row + 1] - start)
-                                       : std::string_view();
+        const std::size_t end = m_ends[row + 1];
+        const std::size_t start = std::min(m_ends[row] + depth, end);
+        return {m_keys.data() + start, end - start};
     }
 
     void sortWhole(std::vector<Entry>& entries, const Range& range) const
