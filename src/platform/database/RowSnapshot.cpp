@@ -6,7 +6,7 @@
 #include "platform/database/TextOrder.h"
 
 #include <algorithm>
-#include <numeric>
+#include <limits>
 #include <utility>
 
 namespace varnhold {
@@ -19,7 +19,7 @@ namespace {
 constexpr int patience = 64;
 /// A column is read as a whole only when at least one in so many row ids of its range belongs to the
 /// snapshot.
-constexpr qint64 sparsest = 32;
+constexpr quint64 sparsest = 16;
 /// Rows to fetch ahead when they are put in order.
 constexpr std::size_t ahead = 16;
 
@@ -180,35 +180,35 @@ void RowSnapshot::loadWhenWorthIt(int column)
     if (++m_lookUps[static_cast<std::size_t>(column)] != patience)
         return;
     const auto [first, last] = std::minmax_element(m_rowIds.begin(), m_rowIds.end());
-    if (m_rowIds.size() > patience && (*last - *first) / sparsest < static_cast<qint64>(m_rowIds.size()))
-        load(column);
+    const quint64 range = static_cast<quint64>(*last) - static_cast<quint64>(*first);
+    if (m_rowIds.size() > patience && range / sparsest < m_rowIds.size())
+        load(column, *first, *last);
 }
 
-void RowSnapshot::load(int column)
+void RowSnapshot::load(int column, qint64 first, qint64 last)
 {
-    // Both go by row id: a merge.
-    std::vector<quint32> byRowId(m_rowIds.size());
-    std::iota(byRowId.begin(), byRowId.end(), 0);
-    if (!std::is_sorted(m_rowIds.begin(), m_rowIds.end()))
-        std::sort(byRowId.begin(), byRowId.end(),
-                  [&](quint32 a, quint32 b) { return m_rowIds[a] < m_rowIds[b]; });
+    constexpr quint32 none = std::numeric_limits<quint32>::max();
+    std::vector<quint32> positions(static_cast<std::size_t>(last - first) + 1, none);
+    for (std::size_t i = 0; i < m_rowIds.size(); ++i)
+        positions[static_cast<std::size_t>(m_rowIds[i] - first)] = static_cast<quint32>(i);
 
-    TextColumn texts(m_rowIds.size());
+    TextColumn texts;
+    texts.appendLookUp(); // for rows that were deleted meanwhile
+    std::vector<quint32> order(m_rowIds.size(), 0);
     EngineStatement row =
         m_file.statement("SELECT " + m_table->rowId + ", " + quoted(*m_table, column) + " FROM " +
                          m_table->quoted + " WHERE " + m_table->rowId + " BETWEEN ?1 AND ?2 ORDER BY 1");
-    row.bindInteger(1, m_rowIds[byRowId.front()]);
-    row.bindInteger(2, m_rowIds[byRowId.back()]);
-    auto next = byRowId.begin();
-    while (next != byRowId.end() && row.step()) {
-        const qint64 rowId = row.integer(0);
-        while (next != byRowId.end() && m_rowIds[*next] < rowId)
-            ++next;
-        if (next == byRowId.end() || m_rowIds[*next] != rowId)
+    row.bindInteger(1, first);
+    row.bindInteger(2, last);
+    while (row.step()) {
+        const quint32 position = positions[static_cast<std::size_t>(row.integer(0) - first)];
+        if (position == none)
             continue;
+        order[position] = static_cast<quint32>(texts.count());
         const QByteArrayView text = row.text(1);
-        texts.set(*next, text.isEmpty() && row.isNull(1), text);
+        texts.append(text.isEmpty() && row.isNull(1), text);
     }
+    texts.arrange(order);
     m_columns[static_cast<std::size_t>(column)] = std::move(texts);
 }
 

@@ -22,11 +22,10 @@ public:
     /// A longer text is not kept: who asks for it looks it up in the file.
     static constexpr qsizetype longest = 255;
 
-    explicit TextColumn(std::size_t rows = 0) : m_cells(rows, lookUp) {}
-
     void append(bool isNull, QByteArrayView text) { m_cells.push_back(cellOf(isNull, text)); }
-    void set(std::size_t row, bool isNull, QByteArrayView text) { m_cells[row] = cellOf(isNull, text); }
     void forget(std::size_t row) { m_cells[row] = lookUp; }
+    void appendLookUp() { m_cells.push_back(lookUp); }
+    [[nodiscard]] std::size_t count() const { return m_cells.size(); }
     /// Row `order[i]` becomes row i, and its text stands where a walk comes along.
     void arrange(const std::vector<quint32>& order);
     /// Nothing when the value must be looked up.
@@ -67,7 +66,7 @@ private:
 
     void scan(const DatabaseStatement& statement, const std::vector<qint64>& left);
     void loadWhenWorthIt(int column);
-    void load(int column);
+    void load(int column, qint64 first, qint64 last);
 
     DatabaseFile& m_file;
     std::shared_ptr<const TableSchema> m_table;

@@ -164,9 +164,27 @@ void TextOrder::finishNullRow()
     finishRow();
 }
 
+bool TextOrder::isSorted() const
+{
+    const auto key = [&](std::size_t row) {
+        return std::string_view(m_keys).substr(m_ends[row], m_ends[row + 1] - m_ends[row]);
+    };
+    for (std::size_t row = 1; row + 1 < m_ends.size(); ++row) {
+        if (key(row) < key(row - 1))
+            return false;
+    }
+    return m_nulls.empty();
+}
+
 std::vector<quint32> TextOrder::sorted(bool descending) const
 {
     const std::size_t count = m_ends.size() - 1;
+    if (!descending && isSorted()) {
+        // As it comes out of an index.
+        std::vector<quint32> rows(count);
+        std::iota(rows.begin(), rows.end(), 0);
+        return rows;
+    }
     std::vector<Entry> entries;
     entries.reserve(count - m_nulls.size());
     for (quint32 row = 0, null = 0; row < count; ++row) {

@@ -21,6 +21,8 @@ public:
     [[nodiscard]] std::vector<quint32> sorted(bool descending) const;
 
 private:
+    [[nodiscard]] bool isSorted() const;
+
     std::string m_keys;
     std::vector<std::size_t> m_ends{0};
     std::vector<quint32> m_nulls;
