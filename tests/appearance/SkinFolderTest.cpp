@@ -1,7 +1,6 @@
 #include "appearance/SkinFolder.h"
 #include "appearance/SkinCatalogue.h"
 #include "appearance/SkinIni.h"
-#include "appearance/SkinTexts.h"
 #include "platform/RunTimeError.h"
 #include "state/ApplicationState.h"
 #include "state/SettingsFile.h"
@@ -119,15 +118,6 @@ TEST(SkinIni, TakesWhatItsControlTakes)
     EXPECT_EQ(ini.number(u"LBxMode"_s, 2), 2);
     EXPECT_EQ(errorOf([&] { return ini.number(u"LBx Theme"_s, 10); }), errors::invalidPropertyValue);
     EXPECT_EQ(errorOf([&] { return ini.number(u"LvPicture"_s, 1); }), errors::typeMismatch);
-}
-
-TEST(SkinTexts, ReadAsTold)
-{
-    EXPECT_EQ(missingSkinFileText(RunTimeError(errors::fileNotFound)),
-              u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not exist!\r\n"
-              "File not found\r\nSolution:        Please check the skin folder in question."_s);
-    EXPECT_EQ(skinErrorText(RunTimeError(errors::invalidPicture)), u"481 Invalid picture"_s);
-    EXPECT_EQ(selectSkinFolderMessage(), u"Please select Skin Folder.\rThank You! *¿*"_s);
 }
 
 } // namespace varnhold::test
