@@ -295,13 +295,14 @@ bool Reader::groupWord(RtfWord word, const RtfToken& token, bool ignorable)
 
 void Reader::documentWord(const RtfWordMeaning& meaning, const RtfToken& token)
 {
+    if (meaning.word != RtfWord::UnicodeSkip && meaning.word != RtfWord::Unknown)
+        group().written = true; // not to be kept with a group that begins behind it
     switch (meaning.word) {
     case RtfWord::CodePage:
         if (meaning.value)
             m_codePage = meaning.value;
         break;
     case RtfWord::AnsiCodePage:
-        group().written = true;
         m_codePage = RtfCodePages::knows(token.parameter) ? token.parameter : latinPage;
         break;
     case RtfWord::DefaultFont:

@@ -21,9 +21,18 @@ bool isSymbolFont(const QString& name)
     return name == bulletFont || name == u"Webdings" || name.startsWith(u"Wingdings");
 }
 
+/// Whether it begins with that word, and not with a longer one.
+bool isGroup(const QByteArray& group, QByteArrayView begin)
+{
+    if (!group.startsWith(begin) || group.size() == begin.size())
+        return false;
+    const char next = group.at(begin.size());
+    return (next < 'a' || next > 'z') && (next < 'A' || next > 'Z');
+}
+
 bool isFieldStart(const QByteArray& group)
 {
-    return group.startsWith("{\\field{") || group.startsWith("{\\field\\") || group == "{\\field}";
+    return isGroup(group, "{\\field");
 }
 
 bool isFieldEnd(const QByteArray& group)
@@ -88,11 +97,11 @@ void Writer::collect()
 {
     RtfCodePages pages;
     for (const QByteArray& kept : m_text.header) {
-        if (kept.startsWith("{\\ansicpg")) {
+        if (isGroup(kept, "{\\ansicpg")) {
             m_codePage = kept.sliced(9).chopped(1).toInt();
-        } else if (kept.startsWith("{\\fonttbl")) {
+        } else if (isGroup(kept, "{\\fonttbl")) {
             readRtfFonts(kept, m_codePage, pages, m_fonts);
-        } else if (kept.startsWith("{\\colortbl")) {
+        } else if (isGroup(kept, "{\\colortbl")) {
             const RtfColors colors = readRtfColors(kept);
             for (std::size_t i = 0; i < colors.size(); ++i)
                 if (colors[i])
@@ -184,8 +193,7 @@ void Writer::head()
         m_stream += "}\r\n";
     }
     for (const QByteArray& kept : m_text.header)
-        if (!kept.startsWith("{\\ansicpg") && !kept.startsWith("{\\fonttbl") &&
-            !kept.startsWith("{\\colortbl"))
+        if (!isGroup(kept, "{\\ansicpg") && !isGroup(kept, "{\\fonttbl") && !isGroup(kept, "{\\colortbl"))
             m_stream += kept + "\r\n";
 }
 
