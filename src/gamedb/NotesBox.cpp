@@ -1,9 +1,11 @@
 #include "gamedb/NotesBox.h"
 
 #include "controls/SystemColorsUi.h"
+#include "gamedb/LinkMarks.h"
 #include "gamedb/LinkText.h"
 #include "gamedb/ReadableColor.h"
 #include "platform/HandCursors.h"
+#include "platform/richtext/RichTextDocument.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -13,8 +15,6 @@
 namespace varnhold {
 
 namespace {
-
-const QColor linkBlue(0, 0, 255);
 
 /// One character a position: a return for each paragraph's end, a line feed for each line break, a blank for
 /// each object.
@@ -42,21 +42,17 @@ NotesBox::NotesBox(QWidget* parent) : RichTextBox(parent)
 
 void NotesBox::Make_Links()
 {
-    QTextCharFormat link;
-    link.setFontUnderline(true);
-    link.setForeground(linkBlue);
-    QTextCursor cursor(document());
-    cursor.beginEditBlock();
-    for (const TextRange& range : findLinks(plain(document()->toRawText()))) {
-        cursor.setPosition(static_cast<int>(range.start));
-        cursor.setPosition(static_cast<int>(range.start + range.length), QTextCursor::KeepAnchor);
-        cursor.mergeCharFormat(link);
-    }
-    cursor.endEditBlock();
+    const QPoint view(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    RichText text = richTextOf(*document());
+    if (markLinks(text))
+        setRichText(*document(), text);
     setLocked(true);
     // The caret goes to the end, but who has just chosen a game reads from the top.
-    const QPoint view(horizontalScrollBar()->value(), verticalScrollBar()->value());
-    moveCursor(QTextCursor::End);
+    if (textCursor().hasSelection() || !textCursor().atEnd()) {
+        QTextCursor end(document());
+        end.movePosition(QTextCursor::End);
+        setTextCursor(end);
+    }
     horizontalScrollBar()->setValue(view.x());
     verticalScrollBar()->setValue(view.y());
 }
@@ -64,6 +60,12 @@ void NotesBox::Make_Links()
 QColor NotesBox::shownColor(const QColor& stored) const
 {
     return toQColor(readableOn(toColorValue(stored), toColorValue(palette().color(QPalette::Base))));
+}
+
+/// Links are found while the contents are a value: to mark thousands in the document lays it out again.
+void NotesBox::prepare(RichText& text) const
+{
+    markLinks(text);
 }
 
 QString NotesBox::linkUnderPointer(const QPoint& viewportPoint)

@@ -20,6 +20,7 @@ Q_SIGNALS:
     void linkActivated(const QString& link); ///< a left release over it
 
 protected:
+    void prepare(RichText& text) const override;
     /// Readable on the ground that the skin gives, the palette's base.
     [[nodiscard]] QColor shownColor(const QColor& stored) const override;
     void keyPressEvent(QKeyEvent* event) override; ///< Enter runs Make_Links

@@ -9,6 +9,7 @@ namespace varnhold {
 namespace {
 
 constexpr double readable = 4.5;
+constexpr double comfortable = 5.5; // a changed colour leaves room for the ground's picture
 
 /// As light as the colour is dark, in the same hue.
 ColorValue inverted(ColorValue color)
@@ -39,7 +40,7 @@ ColorValue readableOn(ColorValue text, ColorValue ground)
     const ColorValue end = blackOrWhiteOn(ground);
     constexpr int steps = 32;
     int step = 0;
-    while (step < steps && contrastRatio(between(start, end, step, steps), ground) < readable)
+    while (step < steps && contrastRatio(between(start, end, step, steps), ground) < comfortable)
         ++step;
     return between(start, end, step, steps);
 }

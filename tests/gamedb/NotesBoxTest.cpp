@@ -117,23 +117,27 @@ TEST_F(NotesBoxTest, StoresColoursAsTheyAreAndShowsReadableOnes)
     dark.setColor(QPalette::Base, QColor(10, 16, 30));
     dark.setColor(QPalette::Text, Qt::white);
     box.setPalette(dark);
-    box.setTextRTF(uR"({\rtf1{\colortbl;\red0\green0\blue0;}\cf1 black www.x\par})"_s);
+    box.setTextRTF(
+        uR"({\rtf1{\colortbl;\red0\green0\blue0;\red120\green0\blue0;}\cf1 black \cf2 dark\cf1  www.x\par})"_s);
     box.Make_Links();
     EXPECT_EQ(formatAt(0).foreground().color(), QColor(Qt::black));
-    EXPECT_EQ(formatAt(7).foreground().color(), QColor(0, 0, 255));
+    EXPECT_EQ(formatAt(12).foreground().color(), QColor(0, 0, 255));
     EXPECT_TRUE(box.TextRTF().contains("\\blue255"_L1));
     const QImage shown = box.viewport()->grab().toImage();
     int lightest = 0;
     int bluest = 0;
+    int reddest = 0;
     for (int y = 0; y < shown.height(); ++y) {
         for (int x = 0; x < shown.width(); ++x) {
             const QRgb pixel = shown.pixel(x, y);
             lightest = std::max(lightest, qRed(pixel));
+            reddest = std::max(reddest, qRed(pixel) - qBlue(pixel));
             bluest = std::max(bluest, qBlue(pixel) - qRed(pixel));
         }
     }
     EXPECT_GT(lightest, 200) << "black shows light";
     EXPECT_GT(bluest, 60) << "links still show blue";
+    EXPECT_GT(reddest, 110) << "the colour that touches them, too";
 }
 
 } // namespace varnhold::test

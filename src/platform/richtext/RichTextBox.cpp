@@ -61,11 +61,22 @@ QString RichTextBox::TextRTF() const
 
 void RichTextBox::setTextRTF(const QString& rtf)
 {
-    setRichText(*document(), readRtf(toStream(rtf)));
-    setTextCursor(QTextCursor(document()));
+    RichText text = readRtf(toStream(rtf));
+    prepare(text);
+    document()->clear();
+    // To place the caret lays out all text before it, so where none shows it may move along to the end.
+    QTextCursor start(document());
+    start.setKeepPositionOnInsert(true);
+    if (!Locked())
+        setTextCursor(start);
+    setRichText(*document(), text);
+    if (!Locked())
+        setTextCursor(QTextCursor(document()));
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
 }
+
+void RichTextBox::prepare(RichText&) const {}
 
 void RichTextBox::setLocked(bool locked)
 {
@@ -132,6 +143,8 @@ void RichTextBox::refreshColors()
             selection.cursor.setPosition(fragment.position());
             selection.cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
             selection.format.setForeground(color);
+            // Without a ground the layout passes over a selection that touches the one before.
+            selection.format.setBackground(Qt::transparent);
             shown.append(selection);
         }
     }

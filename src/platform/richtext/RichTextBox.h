@@ -4,6 +4,8 @@
 
 namespace varnhold {
 
+struct RichText;
+
 /// A text box whose contents come and go as Rich Text Format.
 class RichTextBox : public QTextEdit
 {
@@ -26,6 +28,8 @@ public:
     [[nodiscard]] int characterAt(const QPoint& viewportPoint) const;
 
 protected:
+    /// Has a go at new contents before they show.
+    virtual void prepare(RichText& text) const;
     /// The colour in which a stored one shows; what is stored stays. Call refreshColors when other answers
     /// are to be given for the same palette.
     [[nodiscard]] virtual QColor shownColor(const QColor& stored) const { return stored; }

@@ -36,7 +36,13 @@ struct CharacterFormatHash
 class Fill
 {
 public:
-    explicit Fill(QTextDocument& document) : m_cursor(&document) { m_cursor.beginEditBlock(); }
+    /// Empties the document. Done inside the edit, the whole counts as new to the layout, which then lays out
+    /// what is seen and leaves the rest for idle moments.
+    explicit Fill(QTextDocument& document) : m_cursor(&document)
+    {
+        m_cursor.beginEditBlock();
+        document.clear();
+    }
     ~Fill() { m_cursor.endEditBlock(); }
     Q_DISABLE_COPY_MOVE(Fill)
 
@@ -151,6 +157,13 @@ private:
     std::unordered_map<int, Known> m_formats;
 };
 
+void keepHeader(QTextFrame& root, const std::vector<QByteArray>& header)
+{
+    QTextFrameFormat format = root.frameFormat();
+    format.setProperty(headerProperty, QVariant::fromValue(QByteArrayList(header.begin(), header.end())));
+    root.setFrameFormat(format);
+}
+
 } // namespace
 
 void setRichText(QTextDocument& document, const RichText& text)
@@ -160,15 +173,10 @@ void setRichText(QTextDocument& document, const RichText& text)
         layout.registerHandler(verbatimObject, new EmptyObject(&layout));
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
-    document.clear();
-    if (!text.header.empty()) {
-        QTextFrameFormat root = document.rootFrame()->frameFormat();
-        root.setProperty(headerProperty,
-                         QVariant::fromValue(QByteArrayList(text.header.begin(), text.header.end())));
-        document.rootFrame()->setFrameFormat(root);
-    }
     {
         Fill fill(document);
+        if (!text.header.empty())
+            keepHeader(*document.rootFrame(), text.header);
         for (const RichText::Paragraph& paragraph : text.paragraphs)
             fill.paragraph(paragraph);
     }
