@@ -1,6 +1,6 @@
 // The game list of the whole program: loading 100,000 titles with icons, from a closed file to a painted
 // window, against the toolkit's table model and view; then the time from a click on a row to its notes and
-// cover on the window. game_list_bench [PAIRS].
+// cover on the window. game_list_bench [PAIRS [loads|choices]].
 
 #include "GameFile.h"
 
@@ -45,7 +45,7 @@ QString programFolder(const QTemporaryDir& folder, const char* self)
 
 double loadOurs(frmMain& window)
 {
-    const double seconds = secondsOf([&] {
+    const double seconds = cpuSecondsOf([&] {
         Q_EMIT window.refreshRequested();
         window.repaint();
     });
@@ -63,7 +63,7 @@ double loadTheirs(QTableView& view, const QString& path)
         QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"bench"_s);
         database.setDatabaseName(path);
         QSqlTableModel model(nullptr, database);
-        seconds = secondsOf([&] {
+        seconds = cpuSecondsOf([&] {
             database.open();
             model.setTable(u"PS3Games"_s);
             model.setSort(0, Qt::AscendingOrder);
@@ -161,7 +161,8 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(VARNHOLD_VERSION));
     setUpToolkitLook(application);
     const int pairs = argc > 1 ? std::atoi(argv[1]) : 15;
-    const bool loads = compareLoads(argv[0], pairs);
-    const bool selections = timeSelections(argv[0]);
-    return loads && selections ? 0 : 1;
+    const std::string_view only = argc > 2 ? argv[2] : "";
+    const bool loads = only == "choices" || compareLoads(argv[0], pairs);
+    const bool choices = only == "loads" || timeSelections(argv[0]);
+    return loads && choices ? 0 : 1;
 }

@@ -168,6 +168,8 @@ void Program::connectDatabase()
     m_main.setEntryLoader(loadEntry);
     m_lookup.setEntryLoader(loadEntry);
     m_lookup.setLinkSaver([this] { saveUpdateLinks(m_database, m_list, m_main); });
+    connect(&m_main, &frmMain::linkActivated, this,
+            [this](const QString& link) { m_world.shell.open(link); });
     connect(&m_main, &frmMain::refreshRequested, this, [this] { m_gameList.CmdRefresh_Click(); });
     connect(&m_main, &frmMain::clearRequested, this, [this] { m_gameList.cmdClear_Click(); });
     connect(&m_menu, &frmMenu::mnuLBIcons_Click, this, [this] { m_gameList.mnuLBIcons_Click(); });

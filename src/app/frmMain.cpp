@@ -11,6 +11,7 @@
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
+#include "gamedb/NotesBox.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Twips.h"
@@ -23,7 +24,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
-#include <QTextEdit>
 
 namespace varnhold {
 

@@ -12,7 +12,6 @@
 
 class QLabel;
 class QPlainTextEdit;
-class QTextEdit;
 
 namespace varnhold {
 
@@ -26,6 +25,7 @@ class GameListInput;
 class ListProgress;
 class MessageBoxes;
 class MorphListBox;
+class NotesBox;
 class Screen;
 class Settings;
 class Sounds;
@@ -130,10 +130,11 @@ public:
     void hideListProgress();
 
 Q_SIGNALS:
-    void fetchRequested();       ///< btnFetch, or Enter
-    void gameRowDoubleClicked(); ///< of MorphListBox1; its entry is loaded
-    void refreshRequested();     ///< CmdRefresh
-    void clearRequested();       ///< cmdClear
+    void fetchRequested();                   ///< btnFetch, or Enter
+    void gameRowDoubleClicked();             ///< of MorphListBox1; its entry is loaded
+    void refreshRequested();                 ///< CmdRefresh
+    void clearRequested();                   ///< cmdClear
+    void linkActivated(const QString& link); ///< in the notes
     void mnuLBoxWanted(const QPoint& globalPosition);
     void mnuImageWanted(const QPoint& globalPosition);
     void textDropped(const QString& text);
@@ -189,7 +190,7 @@ private:
     QWidget* m_picMain = nullptr;
     UpdateListView* m_updates = nullptr;
     QWidget* m_barMain = nullptr;
-    QTextEdit* m_notes = nullptr;
+    NotesBox* m_notes = nullptr;
     CoverBox* m_imgPreview = nullptr;
     QPlainTextEdit* m_browser = nullptr;
 

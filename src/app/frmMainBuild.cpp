@@ -14,6 +14,7 @@
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
+#include "gamedb/NotesBox.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Twips.h"
@@ -23,7 +24,6 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QTextEdit>
 
 namespace varnhold {
 
@@ -144,11 +144,12 @@ void frmMain::buildMainColumn()
     m_updates = new UpdateListView(m_services.list, m_picMain);
     m_updates->setObjectName("ListView1"_L1);
     m_updates->setAccessibleName(tr("Updates"));
-    m_notes = new QTextEdit(m_picMain);
+    m_notes = new NotesBox(m_picMain);
     m_notes->setObjectName("txtGameNotes"_L1);
     m_notes->setAccessibleName(tr("Notes"));
-    m_notes->setReadOnly(true);
+    m_notes->setLocked(true);
     m_notes->setTabChangesFocus(true);
+    connect(m_notes, &NotesBox::linkActivated, this, &frmMain::linkActivated);
     m_barMain = new PictureBox(m_picMain);
     m_barMain->setObjectName("barMain"_L1);
     for (QFrame* const framed : std::initializer_list<QFrame*>{m_updates, m_notes})

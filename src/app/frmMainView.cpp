@@ -9,10 +9,10 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "covers/CoverPicture.h"
+#include "gamedb/NotesBox.h"
 #include "platform/ElidedLabel.h"
 
 #include <QPixmap>
-#include <QTextEdit>
 
 namespace varnhold {
 
@@ -107,10 +107,13 @@ int frmMain::gameCount() const
 
 void frmMain::showNotes(const QString& rtf)
 {
-    m_notes->setPlainText(rtf);
+    m_notes->setTextRTF(rtf);
 }
 
-void frmMain::Make_Links() {}
+void frmMain::Make_Links()
+{
+    m_notes->Make_Links();
+}
 
 void frmMain::showStoredPicture(const QByteArray& bytes)
 {
@@ -138,7 +141,7 @@ void frmMain::clearTitleTexts()
 void frmMain::clearNotes()
 {
     m_notes->clear();
-    m_notes->setReadOnly(true);
+    m_notes->setLocked(true);
 }
 
 void frmMain::showListProgress(int value)

@@ -15,7 +15,10 @@ namespace {
 
 QUrl urlOf(const QString& target)
 {
-    return target.startsWith(u'/') ? QUrl::fromLocalFile(target) : QUrl(target);
+    if (target.startsWith(u'/'))
+        return QUrl::fromLocalFile(target);
+    // An address without a scheme, as people write it.
+    return target.startsWith("www."_L1, Qt::CaseInsensitive) ? QUrl(u"http://"_s + target) : QUrl(target);
 }
 
 } // namespace

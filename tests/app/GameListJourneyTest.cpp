@@ -84,7 +84,8 @@ TEST_F(GameListJourney, LooksUpWhatIsDoubleClickedOrEntered)
 
 TEST_F(GameListJourney, TakesTheSamePathWhateverKeyComesUp)
 {
-    window.showNotes(u"of another game"_s);
+    window.showNotes(u"{\\rtf1 of another game}"_s);
+    ASSERT_EQ(child<QTextEdit>(window, "txtGameNotes").toPlainText(), u"of another game"_s);
     games.setListIndex(2);
     QTest::keyPress(&games, Qt::Key_Return);
     ASSERT_EQ(list.count(), 1);

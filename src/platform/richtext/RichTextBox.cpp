@@ -121,9 +121,17 @@ RichTextBox::Range RichTextBox::visibleText() const
             std::max(at(view.bottomLeft()), at(view.bottomRight()))};
 }
 
-/// Lays the colours that show over the stored ones, for what can be seen.
 void RichTextBox::refreshColors()
 {
+    // Later: the text may be in the middle of a change, whose cursors must stay as they are.
+    m_colorsAreOld = true;
+    viewport()->update();
+}
+
+/// Lays the colours that show over the stored ones, for what can be seen.
+void RichTextBox::layColors()
+{
+    m_colorsAreOld = false;
     QList<ExtraSelection> shown;
     const Range visible = visibleText();
     for (QTextBlock block = document()->findBlock(visible.first);
@@ -167,6 +175,8 @@ void RichTextBox::resizeEvent(QResizeEvent* event)
 
 void RichTextBox::paintEvent(QPaintEvent* event)
 {
+    if (m_colorsAreOld)
+        layColors();
     QTextEdit::paintEvent(event);
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);

@@ -52,8 +52,11 @@ private:
     /// Positions between which all that can be seen lies.
     [[nodiscard]] Range visibleText() const;
     [[nodiscard]] QPoint scrolled() const; ///< from the viewport to the document
+    void layColors();
     void drawBullet(QPainter& painter, const QTextBlock& block) const;
     bool endBullet();
+
+    bool m_colorsAreOld = true;
 };
 
 } // namespace varnhold
