@@ -180,15 +180,16 @@ TEST(RtfRoundTrip, AnEditLosesNothing)
               "\\red54\\green95\\blue145");
 }
 
-TEST(RtfRoundTrip, EveryCutOfASampleReads)
+TEST(RtfRoundTrip, SamplesReadWhereverTheyAreCut)
 {
     for (const QString& name : QDir(QStringLiteral(RTF_SAMPLES)).entryList(QDir::Files)) {
         SCOPED_TRACE(qPrintable(name));
         const QByteArray whole = sample(name);
+        const qsizetype step = whole.size() > 2000 ? 3 : 1; // odd, so that words are cut everywhere
         qsizetype longest = 0;
-        for (qsizetype size = 0; size <= whole.size() && !::testing::Test::HasFailure(); ++size) {
+        for (qsizetype size = 0; size <= whole.size() && !::testing::Test::HasFailure(); size += step) {
             const RichText text = readRtf(whole.first(size));
-            if (size % 200 == 0) {
+            if (size % 200 < step) {
                 EXPECT_TRUE(readRtf(writeRtf(text)) == text) << size;
             }
             const qsizetype shownSize = text.plainText().size();
