@@ -75,6 +75,7 @@ void Show(benchmark::State& state)
     NotesBox box;
     box.resize(290, 120);
     box.show();
+    QCoreApplication::processEvents(); // or it has nothing to paint on
     for ([[maybe_unused]] auto _ : state) {
         box.setTextRTF(rtf);
         box.Make_Links();

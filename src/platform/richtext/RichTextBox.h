@@ -28,7 +28,7 @@ public:
     [[nodiscard]] int characterAt(const QPoint& viewportPoint) const;
 
 protected:
-    /// Has a go at new contents before they show.
+    /// Changes new contents before they show, where a kind of box does.
     virtual void prepare(RichText& text) const;
     /// The colour in which a stored one shows; what is stored stays. Call refreshColors when other answers
     /// are to be given for the same palette.
