@@ -143,15 +143,19 @@ void RowSnapshot::scan(const DatabaseStatement& statement, const std::vector<qin
                 order.finishRow();
         }
     }
-    if (sorted < 0)
-        return;
-    const std::vector<quint32> sortedRows = order.sorted(statement.order->descending);
+    if (sorted >= 0)
+        arrange(order.sorted(statement.order->descending));
+}
+
+void RowSnapshot::arrange(const std::vector<quint32>& order)
+{
     std::vector<qint64> rowIds(m_rowIds.size());
-    std::transform(sortedRows.begin(), sortedRows.end(), rowIds.begin(),
-                   [&](quint32 scanned) { return m_rowIds[scanned]; });
+    std::transform(order.begin(), order.end(), rowIds.begin(), [&](quint32 row) { return m_rowIds[row]; });
     m_rowIds.swap(rowIds);
-    for (const auto& column : kept)
-        column.second->arrange(sortedRows);
+    for (std::optional<TextColumn>& column : m_columns) {
+        if (column)
+            column->arrange(order);
+    }
 }
 
 QString RowSnapshot::text(std::size_t position, int column)

@@ -50,7 +50,7 @@ private:
 class RowSnapshot
 {
 public:
-    /// Rows whose id is in `left`, which is sorted, stay out.
+    /// Rows whose id is in `left`, which is sorted, stay out. RunTimeError as the engine fails.
     RowSnapshot(DatabaseFile& file, std::shared_ptr<const TableSchema> table,
                 const DatabaseStatement& statement, const std::vector<qint64>& left = {});
 
@@ -65,6 +65,7 @@ private:
     using Columns = std::vector<std::optional<TextColumn>>;
 
     void scan(const DatabaseStatement& statement, const std::vector<qint64>& left);
+    void arrange(const std::vector<quint32>& order);
     void loadWhenWorthIt(int column);
     void load(int column, qint64 first, qint64 last);
 
