@@ -4,6 +4,7 @@
 #include "controls/MorphListBox/MorphListKeys.h"
 #include "gamedb/GameSelection.h"
 #include "lookup/LookupView.h"
+#include "platform/ToolTipText.h"
 
 #include <QContextMenuEvent>
 #include <QCursor>
@@ -44,7 +45,7 @@ void GameListInput::onMouseMove(int y)
 {
     // Below the last row, too: the tip is then that of no row, which is meant.
     const int row = m_games.MouseOverIndex(y);
-    const QString tip = m_games.List(row) + u"-["_s + m_view.selectTitleRow(row) + u"]"_s;
+    const QString tip = toolTipText(m_games.List(row) + u"-["_s + m_view.selectTitleRow(row) + u"]"_s);
     if (tip == m_games.toolTip())
         return;
     m_games.setToolTip(tip);

@@ -5,6 +5,7 @@
 #include "lookup/UpdateList.h"
 #include "lookup/UpdateListTip.h"
 #include "platform/HandCursors.h"
+#include "platform/ToolTipText.h"
 #include "state/Sounds.h"
 
 namespace varnhold {
@@ -43,7 +44,7 @@ void UpdateListInput::onHover(int row)
     if (row == 0)
         return;
     if (!m_list.hasSubItem(row, UpdateList::Url)) {
-        view->setToolTip(m_list.text(row));
+        view->setToolTip(toolTipText(m_list.text(row)));
         return;
     }
     m_toolTip->setTitle(m_tipTitle ? m_tipTitle() : QString());

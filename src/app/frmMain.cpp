@@ -67,7 +67,7 @@ void frmMain::applyLayout(const MainLayout& layout, int number)
     m_info->setGeometry(layout.lblInfo);
     m_status->setGeometry(layout.lblStatus);
     m_blank->setGeometry(layout.lblBlank);
-    m_progress->setGeometry(layout.lblBlank.adjusted(0, 4, 0, -4));
+    m_progress->setGeometry(layout.lblBlank);
     m_count->setGeometry(layout.lblCnt);
     for (const FootButton& place : layout.footButtons) {
         if (auto* const button =

@@ -6,6 +6,7 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
+#include "platform/ToolTipText.h"
 #include "platform/Twips.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
@@ -185,7 +186,7 @@ void frm_Winsock::showLabels()
 {
     const DownloadLabels& labels = m_client->labels();
     m_lblName->setText(labels.name);
-    m_lblName->setToolTip(labels.nameToolTip);
+    m_lblName->setToolTip(toolTipText(labels.nameToolTip));
     m_lblUrl->setText(labels.url);
     m_lblPath->setText(labels.path);
     m_lblFileSize->setText(labels.fileSize);

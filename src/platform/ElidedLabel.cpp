@@ -1,5 +1,7 @@
 #include "platform/ElidedLabel.h"
 
+#include "platform/ToolTipText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -7,6 +9,16 @@
 #include <QToolTip>
 
 namespace varnhold {
+
+namespace {
+
+bool breaksLine(QChar character)
+{
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+} // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
 {
@@ -20,7 +32,12 @@ QSize ElidedLabel::minimumSizeHint() const
 
 QString ElidedLabel::visibleText() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+    QString line = text();
+    for (QChar& each : line) {
+        if (breaksLine(each))
+            each = u' ';
+    }
+    return fontMetrics().elidedText(line, Qt::ElideMiddle, contentsRect().width());
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*)
@@ -36,7 +53,7 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && visibleText() != text()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(text()), this);
         return true;
     }
     return QLabel::event(event);

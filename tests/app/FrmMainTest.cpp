@@ -58,6 +58,7 @@ TEST_F(FrmMain, SwitchesBetweenItsSizes)
     EXPECT_EQ(button.toolTip(), u"Restore Down"_s);
     EXPECT_EQ(stored(u"Miximize"_s), u"2"_s);
     EXPECT_EQ(child(window, "lblStatus").y(), 370);
+    EXPECT_EQ(child(window, "ProgressBar1").geometry(), child(window, "lblBlank").geometry());
     EXPECT_EQ(button.x(), 562);
     EXPECT_EQ(child(window, "cmdClear").pos(), QPoint(305, 370));
     EXPECT_EQ(child(window, "CmdRefresh").pos(), QPoint(455, 370));

@@ -140,6 +140,22 @@ TEST_F(GameListJourney, TellsTheGameBelowThePointer)
     EXPECT_EQ(window.titles().listIndex(), -1);
 }
 
+TEST_F(GameListJourney, ShowsAStrangeTitleAsItStands)
+{
+    window.titles().setRow(0, u"<b>Bold</b>"_s);
+    QTest::mouseMove(&games, gameRow(0));
+    EXPECT_TRUE(games.toolTip().contains(u"[&lt;b&gt;Bold"_s)) << games.toolTip().toStdString();
+    window.titles().setRow(1, QString(100'000, u'x'));
+    QTest::mouseMove(&games, gameRow(1));
+    EXPECT_LT(games.toolTip().size(), 2000);
+
+    auto& info = child<QLabel>(window, "lblInfo");
+    info.setText(u"Two lines"_s);
+    const QImage oneLine = info.grab().toImage();
+    info.setText(u"Two\nlines"_s);
+    EXPECT_EQ(info.grab().toImage(), oneLine);
+}
+
 TEST_F(GameListJourney, OpensTheMenuWhenTheRightButtonComesUp)
 {
     const QSignalSpy menus(&window, &frmMain::mnuLBoxWanted);
