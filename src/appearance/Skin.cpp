@@ -10,7 +10,6 @@
 #include "appearance/WindowControls.h"
 #include "controls/Contrast.h"
 #include "controls/DesignValues.h"
-#include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"

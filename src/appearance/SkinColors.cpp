@@ -36,9 +36,6 @@ void setPaletteColors(QWidget& part, const QColor& fore, const QColor& back)
     if (hasOwnGround(part))
         palette.setColor(QPalette::Base, back);
     part.setPalette(palette);
-    // A style sheet gives the inner part a palette of its own, which then follows no more.
-    if (const auto* const area = qobject_cast<QAbstractScrollArea*>(&part))
-        area->viewport()->setPalette(palette);
 }
 
 } // namespace

@@ -5,11 +5,9 @@
 #include "controls/SystemColorsUi.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QToolTip>
 
 #include <utility>
-#include <vector>
 
 namespace varnhold {
 
@@ -113,22 +111,6 @@ QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-pa
     return sheet;
 }
 
-/// A new style sheet gives every widget back the palette that it had when it met the one before. Colours that
-/// were set since must stay, also those of windows that keep their old look.
-void changeStyleSheet(const QString& sheet)
-{
-    std::vector<std::pair<QPointer<QWidget>, QPalette>> owned;
-    for (QWidget* const widget : QApplication::allWidgets()) {
-        if (widget->palette().resolveMask() != 0)
-            owned.emplace_back(widget, widget->palette());
-    }
-    qApp->setStyleSheet(sheet);
-    for (const auto& [widget, palette] : owned) {
-        if (widget)
-            widget->setPalette(palette);
-    }
-}
-
 } // namespace
 
 void setUpToolkitLook(QApplication& application)
@@ -147,9 +129,12 @@ void colorToolkit(const SkinColors& colors, ColorValue ground)
     if (palette != QApplication::palette())
         QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    // Otherwise a widget that meets another style sheet gets back the palette that it had when it met the
+    // first.
+    QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     const QString sheet = styleSheetOf(tones);
     if (sheet != qApp->styleSheet())
-        changeStyleSheet(sheet);
+        qApp->setStyleSheet(sheet);
 }
 
 } // namespace varnhold

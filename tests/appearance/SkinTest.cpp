@@ -357,6 +357,21 @@ TEST_F(SkinTest, LeavesAnOpenDownloadAsItIs)
     EXPECT_EQ(child<ButtonEx>(after, "cmdCancel").ForeColor(), page.Shape_Color[SkinPage::Fore]);
 }
 
+TEST_F(SkinTest, KeepsColorsOfAWindowThatIsMadeOverAnother)
+{
+    QCoreApplication::processEvents(); // windows meet the toolkit's style before they have a skin
+    for (const int index : {2, 1}) {
+        ASSERT_TRUE(skin.ApplySkin());
+        settingsWindow.askForDatabase(main, {});
+        QCoreApplication::processEvents();
+        auto& rows = child<QListWidget>(settingsWindow, "List1");
+        EXPECT_EQ(rows.grab().toImage().pixelColor(50, 200).rgb(),
+                  toQColor(page.Shape_Color[SkinPage::Back]).rgb());
+        settingsWindow.hide();
+        skin.mnuSkin_Click(index);
+    }
+}
+
 TEST_F(SkinTest, RefreshesItsMenuOnYes)
 {
     ASSERT_TRUE(skin.ApplySkin());
