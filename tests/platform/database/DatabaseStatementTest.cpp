@@ -66,8 +66,10 @@ TEST_P(HostileValues, AreBadSyntaxAndTouchNothing)
     for (const auto& [before, after] :
          {std::pair{u"SELECT * FROM PS3Games where GameID='"_s, u"';"_s},
           std::pair{u"SELECT * FROM PS3Games Where GameName='"_s, u"'"_s},
-          std::pair{u"SELECT * FROM PS3Games where GameName ='"_s, u"' ORDER BY GameName Asc"_s}})
-        EXPECT_EQ(failureOf([&] { open(before + value + after); }), db::badSyntax);
+          std::pair{u"SELECT * FROM PS3Games where GameName ='"_s, u"' ORDER BY GameName Asc"_s}}) {
+        const QString statement = before + value + after;
+        EXPECT_EQ(failureOf([&] { open(statement); }), db::badSyntax);
+    }
     DatabaseCommand command;
     command.setActiveConnection(connection);
     command.setCommandText(u"DELETE * FROM PS3Games WHERE GameID='"_s + value + u"'"_s);
