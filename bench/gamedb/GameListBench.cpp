@@ -1,5 +1,5 @@
-// The game list of the whole program: loading 100,000 titles with icons, from a closed file to a painted
-// window, against the toolkit's table model and view, in processor time; then the time from a click on a row
+// The game list of the whole program: the processor time of loading 100,000 titles with icons, from a closed
+// file to a painted window, against the toolkit's table model and view; then the time from a click on a row
 // to its notes and cover on the window. game_list_bench [PAIRS [loads|choices]].
 
 #include "GameFile.h"

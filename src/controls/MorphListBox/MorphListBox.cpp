@@ -342,6 +342,7 @@ QSize MorphListBox::minimumSizeHint() const
 
 void MorphListBox::paintEvent(QPaintEvent* event)
 {
+    m_repaintDue = false;
     QPainter painter(this);
     if (m_redraw)
         m_painter.paint(painter, rect(), event->region(), *m_model, m_look);
@@ -398,7 +399,9 @@ void MorphListBox::repaintDirty()
         return;
     const MorphListDirty dirty = m_model->takeDirty();
     if (dirty.all) {
-        update();
+        // Telling the window system once is enough: in a bulk fill it costs more than the row.
+        if (!std::exchange(m_repaintDue, true))
+            update();
     } else {
         const MorphListMetrics& metrics = m_model->metrics();
         for (const int row : dirty.rows) {

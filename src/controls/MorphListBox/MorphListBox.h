@@ -355,7 +355,8 @@ private:
     QBasicTimer m_beat;
     int m_theme = morphThemeByHand;
     bool m_redraw = true;
-    QPixmap m_held; ///< what the list shows while RedrawFlag is false
+    bool m_repaintDue = false; ///< of the whole list
+    QPixmap m_held;            ///< what the list shows while RedrawFlag is false
     QPoint m_pressed;
     int m_partOfNotch = 0; ///< of the wheel
     int m_toldRow = -1;    ///< the current row that assistive tools know
