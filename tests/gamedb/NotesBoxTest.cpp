@@ -140,4 +140,26 @@ TEST_F(NotesBoxTest, StoresColoursAsTheyAreAndShowsReadableOnes)
     EXPECT_GT(reddest, 110) << "the colour that touches them, too";
 }
 
+TEST_F(NotesBoxTest, ShowsReadableLinksInLongNotesToo)
+{
+    // Notes of this length are laid out bit by bit, the last of them after they show.
+    QPalette dark = box.palette();
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::black);
+    box.setPalette(dark);
+    box.setTextRTF(u"short"_s);
+    box.Make_Links();
+    QTest::qWait(20);
+    box.setTextRTF(u"www.example.org/link\n"_s.repeated(3000));
+    box.Make_Links();
+    QTest::qWait(50);
+    const QImage shown = box.viewport()->grab().toImage();
+    int reddest = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x)
+            reddest = std::max(reddest, qRed(shown.pixel(x, y)));
+    }
+    EXPECT_GT(reddest, 80);
+}
+
 } // namespace varnhold::test

@@ -117,8 +117,11 @@ RichTextBox::Range RichTextBox::visibleText() const
 {
     const QRect view = viewport()->rect();
     const auto at = [this](const QPoint& point) { return cursorForPosition(point).position(); };
-    return {std::min(at(view.topLeft()), at(view.topRight())),
-            std::max(at(view.bottomLeft()), at(view.bottomRight()))};
+    const int last = std::max(at(view.bottomLeft()), at(view.bottomRight()));
+    // In the margin above a text that is not laid out to its end yet, the layout finds the end of what is.
+    if (scrolled().y() <= document()->documentMargin())
+        return {0, last};
+    return {std::min(at(view.topLeft()), at(view.topRight())), last};
 }
 
 void RichTextBox::refreshColors()
