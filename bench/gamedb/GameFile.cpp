@@ -140,11 +140,11 @@ QByteArray coverOf(int index)
 
 } // namespace
 
-void makeTitles(const QString& path, int count)
+void makeTitles(const QString& path, int count, int noteEvery)
 {
     GameFile file(path);
     for (int i = 0; i < count; ++i)
-        file.add(idOf(i), nameOf(i));
+        file.add(idOf(i), nameOf(i), noteEvery > 0 && i % noteEvery == 0 ? notesOf(i) : QString());
 }
 
 void makeEntries(const QString& path, int count)

@@ -12,6 +12,7 @@ constexpr int paintInterval = 50; // ms
 
 void ListProgress::show(int value)
 {
+    m_percent = value;
     m_bar.setValue(value);
     m_bar.show();
     m_bar.repaint();
@@ -25,11 +26,13 @@ void ListProgress::setMaximum(int maximum)
 
 void ListProgress::setValue(int value)
 {
-    const bool last = value >= m_bar.max();
-    if (!last && m_painted.isValid() && m_painted.elapsed() < paintInterval)
-        return;
     // What is set is a percentage, what is read is its part of Max: so the bar's Value reads as `value`.
-    m_bar.setValue(static_cast<int>(qint64{value} * 100 / qMax(m_bar.max(), 1)));
+    const int percent = static_cast<int>(qint64{value} * 100 / qMax(m_bar.max(), 1));
+    const bool last = value >= m_bar.max();
+    if (!last && (percent == m_percent || (m_painted.isValid() && m_painted.elapsed() < paintInterval)))
+        return;
+    m_percent = percent;
+    m_bar.setValue(percent);
     if (!last)
         m_bar.repaint();
     m_painted.start();

@@ -22,6 +22,7 @@ public:
 private:
     XP_ProgressBar& m_bar;
     QElapsedTimer m_painted;
+    int m_percent = 0;
 };
 
 } // namespace varnhold

@@ -6,22 +6,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The letters as a number, so that a long list is looked through quickly.
+constexpr quint64 lettersOf(QStringView text)
+{
+    quint64 letters = 0;
+    for (qsizetype i = 0; i < text.size() && i < 4; ++i)
+        letters = letters << 16 | text[i].unicode();
+    return letters;
+}
+
 struct Region
 {
-    QStringView prefix;
+    quint64 letters;
     int image;
 };
 
 constexpr Region regions[] = {
-    {u"BCUS", 0}, {u"BLUS", 0},                                           //
-    {u"BCES", 1}, {u"BLES", 1},                                           //
-    {u"BCJN", 2}, {u"BCJS", 2}, {u"BLJM", 2}, {u"BLJS", 2}, {u"BLJX", 2}, //
-    {u"BLMJ", 2}, {u"CEJH", 2}, {u"CPCS", 2}, {u"KTGS", 2},               //
-    {u"BCAS", 3}, {u"BLAS", 3}, {u"MRTC", 3},                             //
-    {u"BCKS", 4}, {u"BLKS", 4}, {u"KOEI", 4},                             //
-    {u"NP", 5},
+    {lettersOf(u"BCUS"), 0}, {lettersOf(u"BLUS"), 0}, //
+    {lettersOf(u"BCES"), 1}, {lettersOf(u"BLES"), 1}, //
+    {lettersOf(u"BCJN"), 2}, {lettersOf(u"BCJS"), 2}, {lettersOf(u"BLJM"), 2},
+    {lettersOf(u"BLJS"), 2}, {lettersOf(u"BLJX"), 2}, {lettersOf(u"BLMJ"), 2},
+    {lettersOf(u"CEJH"), 2}, {lettersOf(u"CPCS"), 2}, {lettersOf(u"KTGS"), 2}, //
+    {lettersOf(u"BCAS"), 3}, {lettersOf(u"BLAS"), 3}, {lettersOf(u"MRTC"), 3}, //
+    {lettersOf(u"BCKS"), 4}, {lettersOf(u"BLKS"), 4}, {lettersOf(u"KOEI"), 4}, //
 };
 
+constexpr int onlineStore = 5; ///< ids that begin with "NP"
 constexpr int unknownRegion = 6;
 
 } // namespace
@@ -33,10 +43,13 @@ const std::array<QString, 7> regionImageFiles = {
 
 int regionImage(QStringView gameId)
 {
+    const quint64 letters = lettersOf(gameId);
     for (const Region& region : regions) {
-        if (gameId.startsWith(region.prefix))
+        if (letters == region.letters)
             return region.image;
     }
+    if (gameId.startsWith(u"NP"))
+        return onlineStore;
     return unknownRegion;
 }
 

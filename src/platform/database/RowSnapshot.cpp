@@ -35,6 +35,30 @@ const QByteArray& quoted(const TableSchema& table, int column)
     return table.columns[static_cast<std::size_t>(column)].quoted;
 }
 
+/// The first rows of a table, by which a walk over all of it is planned.
+std::vector<qint64> firstRowIds(DatabaseFile& file, const TableSchema& table)
+{
+    EngineStatement row = file.statement("SELECT " + table.rowId + " FROM " + table.quoted + " LIMIT 32");
+    std::vector<qint64> ids;
+    while (row.step())
+        ids.push_back(row.integer(0));
+    return ids;
+}
+
+/// Whether a column's values are, by the look of those rows, mostly there and short. A wrong guess costs time
+/// and nothing else.
+bool looksShort(DatabaseFile& file, const TableSchema& table, int column, const std::vector<qint64>& rowIds)
+{
+    std::size_t filled = 0;
+    for (const qint64 rowId : rowIds) {
+        const qint64 size = file.valueSize(table, column, rowId);
+        if (size > TextColumn::longest)
+            return false;
+        filled += size > 0 ? 1 : 0;
+    }
+    return 2 * filled > rowIds.size();
+}
+
 } // namespace
 
 quint64 TextColumn::cellOf(bool isNull, QByteArrayView text)
@@ -95,11 +119,13 @@ void RowSnapshot::scan(const DatabaseStatement& statement, const std::vector<qin
     const QByteArray wantedText = statement.condition ? statement.condition->value.toUtf8() : QByteArray();
     const FoldedText wanted(wantedText);
 
+    const std::vector<qint64> first = compared < 0 ? firstRowIds(m_file, *m_table) : std::vector<qint64>();
     std::vector<std::pair<int, TextColumn*>> kept;
     QByteArray sql = "SELECT " + m_table->rowId;
     for (int column = 0; column < static_cast<int>(m_table->columns.size()); ++column) {
         const ColumnSchema& schema = m_table->columns[static_cast<std::size_t>(column)];
-        if (column != compared && column != sorted && (compared >= 0 || !schema.unique))
+        const bool asked = column == compared || column == sorted;
+        if (!asked && (compared >= 0 || !(schema.unique || looksShort(m_file, *m_table, column, first))))
             continue;
         kept.emplace_back(column, &m_columns[static_cast<std::size_t>(column)].emplace());
         sql += ", " + schema.quoted;
