@@ -1,5 +1,4 @@
 #include "lookup/GameIdFilter.h"
-#include "lookup/NavigationErrors.h"
 #include "lookup/UpdateServers.h"
 #include "state/Hosts.h"
 #include "support/PrintText.h"
@@ -39,23 +38,12 @@ TEST(UpdateServers, MakeAddressesByTheTable)
     Hosts hosts;
     for (std::size_t i = 0; i < hosts.servers.size(); ++i)
         hosts.servers[i].authority = u"h%1"_s.arg(i + 1);
-    const struct
-    {
-        QString label;
-        QString front;
-    } rows[] = {
-        {u"Main: Server"_s, u"https://h1/tpl/np/"_s},
-        {u"Retail: Server 1"_s, u"http://h2/tppkg/np/'"_s},
-        {u"Retail: Server 2"_s, u"http://h3/tppkg/prod-qa/'"_s},
-        {u"Debug: Server 1"_s, u"https://h4/tpl/sp-int/'"_s},
-        {u"Debug: Server 2"_s, u"http://h5/tppkg/sp-int/'"_s},
-        {u"Lucky: Retail / Debug?"_s, u"https://h6/tpl/prod-qa/"_s},
-    };
-    for (int value = 1; value <= 6; ++value) {
-        const auto& row = rows[value - 1];
-        EXPECT_EQ(QStringView(updateServer(value)->label).toString(), row.label);
-        EXPECT_EQ(Document_Url(hosts, value, u"bLUS30443"_s), row.front + u"bLUS30443/bLUS30443-ver.xml"_s);
-    }
+    const QString fronts[] = {u"https://h1/tpl/np/"_s,        u"http://h2/tppkg/np/'"_s,
+                              u"http://h3/tppkg/prod-qa/'"_s, u"https://h4/tpl/sp-int/'"_s,
+                              u"http://h5/tppkg/sp-int/'"_s,  u"https://h6/tpl/prod-qa/"_s};
+    for (int value = 1; value <= 6; ++value)
+        EXPECT_EQ(Document_Url(hosts, value, u"bLUS30443"_s),
+                  fronts[value - 1] + u"bLUS30443/bLUS30443-ver.xml"_s);
     for (const int value : {0, 7, -1}) {
         EXPECT_EQ(updateServer(value), nullptr);
         EXPECT_EQ(Document_Url(hosts, value, u"BLUS30443"_s), u""_s);
