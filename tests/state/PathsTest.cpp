@@ -83,15 +83,5 @@ TEST_F(PathsTest, APlaceThatCannotBe)
     EXPECT_EQ(errorOf(nowhere), errors::pathFileAccess);
 }
 
-TEST_F(PathsTest, NamesBelowTheRoot)
-{
-    const Paths paths{u"/r"_s};
-    EXPECT_EQ(paths.settingsIni(), u"/r/Settings.ini"_s);
-    EXPECT_EQ(paths.gameDatabase(), u"/r/GameDB.mdb"_s);
-    EXPECT_EQ(paths.defaultSkin(), u"/r/skin/default"_s);
-    EXPECT_EQ(paths.sound(2), u"/r/wav/startup.wav"_s);
-    EXPECT_EQ(paths.sound(3), u"/r/wav/shutdown.wav"_s);
-}
-
 } // namespace
 } // namespace varnhold

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QLocale>
 
 #include <functional>
@@ -29,6 +30,7 @@ protected:
 TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)
 {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); // files do not follow it
+    const TaggedText pair{u"n"_s, u"/t"_s};
     const struct
     {
         std::function<void(Settings&)> change;
@@ -36,9 +38,7 @@ TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)
         bool told = true; ///< raises changed()
     } cases[] = {
         {[](Settings& s) { s.setServer(4); }, "Server=4\r\n"},
-        {[](Settings& s) { s.setDownloadMax(5); }, "DL Max=5\r\n"},
         {[](Settings& s) { s.setChecked(Check::Exit, true); }, "Exit=1\r\n"},
-        {[](Settings& s) { s.setChecked(Check::CGNFolder, false); }, "Create GNFolder=0\r\n"},
         {[](Settings& s) { s.setChecked(Check::ListText6, true); }, "ListText6=1\r\n"},
         {[](Settings& s) {
              s.unwrittenValues().unwantedStrings = u" a,\r\nb "_s;
@@ -46,37 +46,23 @@ TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)
          },
          "Remove Unwanted=1\r\nUnwanted Strings=a,b\r\n"},
         {[](Settings& s) { s.setUnwantedStrings(u"  a, b  "_s); }, "Unwanted Strings=a, b\r\n"},
+        // A line end goes out as it was typed.
+        {[](Settings& s) { s.setUnwantedStrings(u"a,\r\nb"_s); }, "Unwanted Strings=a,\r\nb\r\n"},
         {[](Settings& s) { s.setUnwantedStrings(QString(1600, u'x')); },
          "Unwanted Strings=" + QByteArray(1600, 'x') + "\r\n"},
         {[](Settings& s) { s.chooseCertOption(1); }, "Opt0 Cert=False\r\nOpt1 Cert=True\r\n"},
         {[](Settings& s) { s.chooseAutoSsl(0); }, "Auto SSL 0=1\r\nAuto SSL 1=0\r\n"},
         {[](Settings& s) { s.setOpacity(OpacityOf::Main, 10); }, "Main Opacity=10\r\n"},
-        {[](Settings& s) { s.setOpacity(OpacityOf::Download, 0); }, "DL Opacity=0\r\n"},
         {[](Settings& s) { s.setOrder(Order::AscDesc, 2); }, "Asc Desc=2\r\n"},
-        {[](Settings& s) { s.setOrder(Order::SearchTable, 1); }, "Search Table=1\r\n"},
-        {[](Settings& s) { s.setOrder(Order::DBTable, 1); }, "DB Table=1\r\n"},
         {[](Settings& s) { s.setSaveDir(u"/games/my updates"_s); },
          "SaveDir Name=my updates\r\nSaveDir Path=/games/my updates\r\n"},
-        {[](Settings& s) {
-             s.setSound(2, {u"o.wav"_s, u"/o.wav"_s});
-         },
-         "Open Sound File=o.wav\r\nOpen Sound Path=/o.wav\r\n"},
-        {[](Settings& s) {
-             s.setIdList({u"g.mdb"_s, u"/g.mdb"_s});
-         },
-         "IDList File=g.mdb\r\nIDList Path=/g.mdb\r\n"},
-        {[](Settings& s) {
-             s.setListUrl({u"n"_s, u"u"_s});
-         },
-         "GameID Name=n\r\nGameID Url=u\r\n"},
-        {[](Settings& s) {
-             s.setCovers({u"c"_s, u"/c"_s});
-         },
-         "Cover Name=c\r\nCover Path=/c\r\n"},
+        {[&](Settings& s) { s.setSound(2, pair); }, "Open Sound File=n\r\nOpen Sound Path=/t\r\n"},
+        {[&](Settings& s) { s.setIdList(pair); }, "IDList File=n\r\nIDList Path=/t\r\n"},
+        {[&](Settings& s) { s.setListUrl(pair); }, "GameID Name=n\r\nGameID Url=/t\r\n"},
+        {[&](Settings& s) { s.setCovers(pair); }, "Cover Name=n\r\nCover Path=/t\r\n"},
         {[](Settings& s) { s.writePosition(-15, 1234567.5); }, "Varnhold X=-15\r\nVarnhold Y=1234567.5\r\n",
          false},
         {[](Settings& s) { s.writeBarMain(3285); }, "Mainbar Top=3285\r\n", false},
-        {[](Settings& s) { s.writeBarLeft(540.5); }, "LeftBar Top=540.5\r\n", false},
         {[](Settings& s) { s.writeLayout(2); }, "Miximize=2\r\n", false},
     };
     for (const auto& c : cases) {
@@ -128,32 +114,14 @@ TEST_F(SettingsTest, WhatAControlRefusesIsNeitherHeldNorWritten)
     }
     EXPECT_EQ(settings.server(), 1);
     EXPECT_EQ(root.read(u"Settings.ini"_s), before);
-}
 
-TEST_F(SettingsTest, TheSettingLivesOnWhenItsFileCannotBeWritten)
-{
+    // A file that cannot be written loses the line, not the setting.
+    ASSERT_TRUE(QFile::remove(root.path(u"Settings.ini"_s)));
     root.makeFolder(u"Settings.ini"_s);
     settings.setServer(3);
-    EXPECT_EQ(settings.server(), 3);
-}
-
-TEST_F(SettingsTest, TextsAreHeldAsTheyStandAndCutOnlyByReading)
-{
     settings.setUnwantedStrings(u"  a  "_s);
-    EXPECT_EQ(settings.unwantedStrings(), u"  a  "_s);
-    settings.setUnwantedStrings(u"a,\r\nb"_s);
-    EXPECT_EQ(root.read(u"Settings.ini"_s), "[Settings]\r\nUnwanted Strings=a,\r\nb\r\n")
-        << "a line end goes out as it was typed";
-}
-
-TEST_F(SettingsTest, OneOptionClearsTheOther)
-{
-    settings.chooseCertOption(0);
-    settings.chooseCertOption(1);
-    EXPECT_TRUE(!settings.certOption(0) && settings.certOption(1));
-    settings.chooseAutoSsl(1);
-    settings.chooseAutoSsl(0);
-    EXPECT_TRUE(settings.isChecked(Check::AutoSSL0) && !settings.isChecked(Check::AutoSSL1));
+    EXPECT_EQ(settings.server(), 3);
+    EXPECT_EQ(settings.unwantedStrings(), u"  a  "_s) << "held untrimmed";
 }
 
 TEST_F(SettingsTest, TheSkinsFileStandsInItsFolder)
