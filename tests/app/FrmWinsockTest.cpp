@@ -27,13 +27,7 @@ protected:
     FrmWinsock()
     {
         settings.unwrittenValues().opacities.at(2) = 180;
-        window = new frm_Winsock({.client = {sockets, files, clock, pump, boxes},
-                                  .state = state,
-                                  .settings = settings,
-                                  .sounds = sounds,
-                                  .screen = screen,
-                                  .skin = [](QWidget&) {}},
-                                 nullptr);
+        window = new frm_Winsock(services(), nullptr);
         DownloadClient& client = window->client();
         client.setName(u"title.pkg"_s);
         client.setNameTag(u"/folder/title.pkg"_s);
@@ -46,6 +40,15 @@ protected:
     }
     ~FrmWinsock() override { delete window; }
 
+    [[nodiscard]] frm_Winsock::Services services()
+    {
+        return {.client = {sockets, files, clock, pump, boxes},
+                .state = state,
+                .settings = settings,
+                .sounds = sounds,
+                .screen = screen,
+                .skin = [](QWidget&) {}};
+    }
     void start()
     {
         window->client().Download1();
@@ -74,13 +77,7 @@ TEST_F(FrmWinsock, StaysAboveItsOwner)
 TEST_F(FrmWinsock, FollowsItsOpacityOneWindowAfterTheOther)
 {
     frmMain main({state, settings, list, boxes, sounds, screen, root.paths()});
-    DownloadWindows windows({.client = {sockets, files, clock, pump, boxes},
-                             .state = state,
-                             .settings = settings,
-                             .sounds = sounds,
-                             .screen = screen,
-                             .skin = [](QWidget&) {}},
-                            main);
+    DownloadWindows windows(services(), main);
     frm_Winsock* open[3];
     for (frm_Winsock*& each : open) {
         each = &dynamic_cast<frm_Winsock&>(windows.makeWindow());
