@@ -67,7 +67,26 @@ private:
             m_cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                                 toVerbatimFormat(run.format, run.verbatim));
         else if (!run.text.isEmpty())
-            m_cursor.insertText(fit(run.text), format(run.format));
+            insert(fit(run.text), format(run.format));
+    }
+
+    /// To wrap a word that is longer than a line takes the layout time with the square of its length: minutes
+    /// for one of a megabyte. Objects that take no room, and that are no part of the contents, break it up.
+    void insert(const QString& text, const QTextCharFormat& format)
+    {
+        constexpr qsizetype longestWord = 4000;
+        qsizetype start = 0;
+        qsizetype word = 0;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            if (text[i].isSpace()) {
+                word = i + 1;
+            } else if (i - word >= longestWord && !text[i].isLowSurrogate()) {
+                m_cursor.insertText(text.mid(start, i - start), format);
+                m_cursor.insertText(QString(QChar::ObjectReplacementCharacter), toVerbatimFormat({}, {}));
+                start = word = i;
+            }
+        }
+        m_cursor.insertText(text.mid(start), format);
     }
 
     const QTextCharFormat& format(const RichText::CharacterFormat& value)

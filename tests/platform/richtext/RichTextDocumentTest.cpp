@@ -115,6 +115,20 @@ TEST(RichTextDocument, KeepsOneParagraphWhateverTheTextHolds)
     EXPECT_FALSE(document.isUndoAvailable());
 }
 
+TEST(RichTextDocument, BreaksUpWordsThatTheLayoutCouldNotWrap)
+{
+    RichText text;
+    text.paragraphs.push_back({{}, {{{}, u"a "_s + QString(50'000, u'x') + u" b"_s, {}}}});
+    QTextDocument document;
+    setRichText(document, text);
+    qsizetype longest = 0;
+    const QString shown = document.toRawText();
+    for (const QStringView piece : QStringView(shown).split(QChar::ObjectReplacementCharacter))
+        longest = std::max(longest, piece.size());
+    EXPECT_LT(longest, 5000);
+    EXPECT_TRUE(richTextOf(document) == text) << "the breaks are no part of it";
+}
+
 TEST(RichTextDocument, KeepsVerbatimGroupsThroughEdits)
 {
     QTextDocument document;
