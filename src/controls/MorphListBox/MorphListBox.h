@@ -344,6 +344,7 @@ private:
     [[nodiscard]] MorphListMeasure measured() const;
     void shape();
     void dragRows();
+    void tellRelease();
     bool isWholeNotch(int delta);
     void tellAssistiveTools(bool itemsChanged);
     void repaintDirty();
@@ -359,7 +360,15 @@ private:
     QPixmap m_held;            ///< what the list shows while RedrawFlag is false
     QPoint m_pressed;
     int m_partOfNotch = 0; ///< of the wheel
-    int m_toldRow = -1;    ///< the current row that assistive tools know
+    struct KeyRelease
+    {
+        int key;
+        int shift;
+        quint64 time; ///< the window system's
+    };
+    std::optional<KeyRelease> m_release; ///< not told yet
+    QBasicTimer m_releaseTimer;
+    int m_toldRow = -1; ///< the current row that assistive tools know
 };
 
 } // namespace varnhold

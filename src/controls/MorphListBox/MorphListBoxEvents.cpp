@@ -14,6 +14,8 @@ namespace varnhold {
 
 namespace {
 
+constexpr int releasePatience = 10; // ms
+
 int shiftOf(Qt::KeyboardModifiers modifiers)
 {
     return (modifiers.testFlag(Qt::ShiftModifier) ? shiftstate::shift : 0) |
@@ -104,11 +106,15 @@ void MorphListBox::wheelEvent(QWheelEvent* event)
 void MorphListBox::keyPressEvent(QKeyEvent* event)
 {
     const int key = keyCodeOf(event->key());
+    if (m_release && m_release->key == key && m_release->time == event->timestamp())
+        m_release.reset(); // the key is still held
     // What the list makes nothing of is left to its window.
     event->setAccepted(key == keycode::enter || (key >= keycode::space && key <= keycode::down));
     const QString text = event->text();
     const QPointer<MorphListBox> alive(this);
-    deliver(m_model->keyDown(key, shiftOf(event->modifiers())));
+    tellRelease();
+    if (alive)
+        deliver(m_model->keyDown(key, shiftOf(event->modifiers())));
     if (alive && !text.isEmpty() && Enabled())
         Q_EMIT KeyPress(text.at(0).unicode());
 }
@@ -117,7 +123,20 @@ void MorphListBox::keyReleaseEvent(QKeyEvent* event)
 {
     if (event->isAutoRepeat())
         return; // the key is still held
-    deliver(m_model->keyUp(keyCodeOf(event->key()), shiftOf(event->modifiers())));
+    tellRelease();
+    m_release = {keyCodeOf(event->key()), shiftOf(event->modifiers()), event->timestamp()};
+    // The toolkit knows a repetition only when the press of the same moment has come in already.
+    if (event->timestamp() != 0)
+        m_releaseTimer.start(releasePatience, this);
+    else
+        tellRelease();
+}
+
+void MorphListBox::tellRelease()
+{
+    m_releaseTimer.stop();
+    if (const std::optional<KeyRelease> release = std::exchange(m_release, std::nullopt))
+        deliver(m_model->keyUp(release->key, release->shift));
 }
 
 void MorphListBox::focusInEvent(QFocusEvent*)
@@ -128,7 +147,10 @@ void MorphListBox::focusInEvent(QFocusEvent*)
 
 void MorphListBox::focusOutEvent(QFocusEvent*)
 {
-    deliver(m_model->focusOut());
+    const QPointer<MorphListBox> alive(this);
+    tellRelease();
+    if (alive)
+        deliver(m_model->focusOut());
 }
 
 void MorphListBox::leaveEvent(QEvent*)
@@ -140,6 +162,8 @@ void MorphListBox::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() == m_beat.timerId())
         deliver(m_model->beat(now()));
+    else if (event->timerId() == m_releaseTimer.timerId())
+        tellRelease();
     else
         QWidget::timerEvent(event);
 }
