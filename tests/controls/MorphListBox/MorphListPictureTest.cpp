@@ -60,6 +60,7 @@ void prepare(MorphListModel& list, const MorphListLook& look, QSize size, int co
         list.AddItem(QString());
 }
 
+/// One line of letters a row of pixels; "*3" behind it says that it stands three times.
 std::string paintedAt(qreal ratio, QSize size, MorphListModel& list, const MorphListLook& look)
 {
     QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
@@ -69,14 +70,26 @@ std::string paintedAt(qreal ratio, QSize size, MorphListModel& list, const Morph
     MorphListPainter().paint(painter, QRect(QPoint(), size), QRect(QPoint(), size), list, look);
     painter.end();
     std::string picture = "\n";
+    std::string row;
+    int repeated = 0;
+    const auto endRows = [&] {
+        picture += row + (repeated > 1 ? "*" + std::to_string(repeated) : "") + (repeated > 0 ? "\n" : "");
+    };
     for (int y = 0; y < image.height(); ++y) {
+        std::string next;
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
             const auto known = letters.find(toColorValue(QColor::fromRgb(pixel)));
-            picture += qAlpha(pixel) == 0 ? ' ' : known == letters.end() ? '?' : known->second;
+            next += qAlpha(pixel) == 0 ? ' ' : known == letters.end() ? '?' : known->second;
         }
-        picture += '\n';
+        if (next != row) {
+            endRows();
+            row = next;
+            repeated = 0;
+        }
+        ++repeated;
     }
+    endRows();
     return picture;
 }
 
@@ -93,22 +106,14 @@ TEST(MorphListPicture, ACheckListWithFocusAndScrollBar)
     list.focusIn();
     EXPECT_EQ(paintedAt(1, {36, 42}, list, look), R"(
 ####################################
-#.........................BBBBBBBBB#
-#.........................BBBBBBBBB#
-#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#*3
 #.........................BBBBABBBB#
 #.........................BBBAAABBB#
 #.........................BBBBBBBBB#
 #...ooooooooooooo.........BBBBBBBBB#
-#...o...........o.........BBBBBBBBB#
-#...o...........o.........BBBBBBBBB#
+#...o...........o.........BBBBBBBBB#*2
 #...o...........o.........|||||||||#
-#...o...........o.........|TTTTTTT|#
-#...o...........o.........|TTTTTTT|#
-#...o...........o.........|TTTTTTT|#
-#...o...........o.........|TTTTTTT|#
-#...o...........o.........|TTTTTTT|#
-#...o...........o.........|TTTTTTT|#
+#...o...........o.........|TTTTTTT|#*6
 #...o...........o.........|||||||||#
 #...o...........o.........ttttttttt#
 #...ooooooooooooo.........ttttttttt#
@@ -129,10 +134,7 @@ TEST(MorphListPicture, ACheckListWithFocusAndScrollBar)
 #sssooooooooooooosssssssssBBBBBBBBB#
 #:s:s:s:s:s:s:s:s:s:s:s:s:BBBAAABBB#
 #.........................BBBBABBBB#
-#.........................BBBBBBBBB#
-#.........................BBBBBBBBB#
-#.........................BBBBBBBBB#
-#.........................BBBBBBBBB#
+#.........................BBBBBBBBB#*4
 ####################################
 )");
 }
@@ -159,30 +161,16 @@ TEST(MorphListPicture, ACurvedBorderAndAMirroredRowWithItsImage)
  ##BBBBBBBB...................##
 ###BBBABBBB...................##
 ##BBBAAABBB...................##
-##BBBBBBBBB........RRRRRRRR...##
-##BBBBBBBBB........RRRRRRRR...##
-##BBBBBBBBB........RRRRRRRR...##
-##BBBBBBBBB........RRRRRRRR...##
+##BBBBBBBBB........RRRRRRRR...##*4
 ##|||||||||........RRRRRRRR...##
-##|TTTTTTT|........RRRRRRRR...##
-##|TTTTTTT|........RRRRRRRR...##
-##|TTTTTTT|........RRRRRRRR...##
-##|TTTTTTT|...................##
-##|TTTTTTT|...................##
-##|TTTTTTT|...................##
+##|TTTTTTT|........RRRRRRRR...##*3
+##|TTTTTTT|...................##*3
 ##|||||||||...................##
-##ttttttttt...................##
-##ttttttttt...................##
-##ttttttttt...................##
-##ttttttttt...................##
-##BBBBBBBBB...................##
-##BBBBBBBBB...................##
-##BBBBBBBBB...................##
+##ttttttttt...................##*4
+##BBBBBBBBB...................##*3
 ##BBBAAABBB...................##
 ##BBBBABBBB...................##
-##BBBBBBBBB...................##
-##BBBBBBBBB...................##
-##BBBBBBBBB...................##
+##BBBBBBBBB...................##*3
 ##BBBBBBBBB..................## 
 ############################### 
 #############################   
@@ -199,70 +187,21 @@ TEST(MorphListPicture, PartsMeetAtAFractionalRatio)
     EXPECT_EQ(paintedAt(1.5, {24, 45}, list, look), R"(
 ####################################
 #..................................#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#*5
 #....................BBBBBBAABBBBBB#
 #....................BBBBBAAAABBBBB#
 #....................BBBBAAAAAABBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................tttttttttttttt#
-#....................||||||||||||||#
-#....................||||||||||||||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||TTTTTTTTTT||#
-#....................||||||||||||||#
-#....................||||||||||||||#
-#....................cccccccccccccc#
-#....................cccccccccccccc#
-#....................cccccccccccccc#
-#....................cccccccccccccc#
-#....................cccccccccccccc#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#*5
+#....................tttttttttttttt#*17
+#....................||||||||||||||#*2
+#....................||TTTTTTTTTT||#*12
+#....................||||||||||||||#*2
+#....................cccccccccccccc#*5
+#....................BBBBBBBBBBBBBB#*5
 #....................BBBBAAAAAABBBB#
 #....................BBBBBAAAABBBBB#
 #....................BBBBBBAABBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
-#....................BBBBBBBBBBBBBB#
+#....................BBBBBBBBBBBBBB#*5
 #..................................#
 ####################################
 )");
