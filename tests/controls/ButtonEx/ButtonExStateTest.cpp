@@ -140,6 +140,9 @@ TEST(ButtonExState, ValueFlipsWithEveryPress)
     toggle.tick(false);
     EXPECT_EQ(toggle.state.state(), pressed) << "nor does leaving";
     EXPECT_FALSE(toggle.state.isCaptionHighlighted()) << "but the caption cools down";
+    const int before = toggle.redraws;
+    toggle.state.setFocused(true);
+    EXPECT_EQ(toggle.redraws, before + 1) << "redrawn after the mouse left";
     toggle.move(true);
     toggle.down();
     EXPECT_EQ(toggle.state.state(), up);
@@ -177,17 +180,12 @@ TEST(ButtonExState, FacesByStateDisabledAndFocus)
         button.state.SetState(one.asked);
         EXPECT_EQ(button.state.face(), one.face) << one.name;
     }
-}
-
-TEST(ButtonExState, AMissingFaceKeepsTheOneBefore)
-{
     Machine button;
     button.setFaces({1, 2});
     button.state.setFocused(true);
     button.move(true);
-    EXPECT_EQ(button.state.face(), over);
     button.tick(false);
-    EXPECT_EQ(button.state.face(), over) << "up with the focus wants the focus face, which is missing";
+    EXPECT_EQ(button.state.face(), over) << "the focus face that is wanted is missing: the one before stays";
     button.state.setFocused(false);
     EXPECT_EQ(button.state.face(), up);
 }
@@ -212,32 +210,13 @@ TEST(ButtonExState, DisabledShowsAtOnceAndStays)
     EXPECT_EQ(toggle.state.shownState(), disabled);
 }
 
-TEST(ButtonExState, ALatchedButtonIsRedrawnAfterTheMouseLeft)
-{
-    Machine toggle;
-    toggle.state.setStyle(1);
-    toggle.move(true);
-    toggle.down();
-    toggle.up();
-    toggle.tick(false);
-    const int before = toggle.redraws;
-    toggle.state.setFocused(true);
-    EXPECT_EQ(toggle.redraws, before + 1);
-}
-
 TEST(ButtonExState, TouchesNothingAfterAHandlerDestroyedIt)
 {
-    struct Case
-    {
-        Event last;
-        const char* log;
-    };
-    for (const Case& one :
-         {Case{Event::MouseEnter, "MouseEnter/0"}, Case{Event::MouseMove, "MouseEnter/0 MouseMove/0"}}) {
+    for (const Event last : {Event::MouseEnter, Event::MouseMove}) {
         Machine button;
-        button.dieAt = one.last;
+        button.dieAt = last;
         EXPECT_FALSE(button.state.mouseMove({1, 0, 1, 1, 0}, true));
-        EXPECT_EQ(button.taken(), one.log);
+        EXPECT_EQ(button.taken(), last == Event::MouseEnter ? "MouseEnter/0" : "MouseEnter/0 MouseMove/0");
     }
     Machine button;
     button.dieAt = Event::MouseExit;
