@@ -58,22 +58,6 @@ TEST_F(CertificateWatchTest, AcceptsOnceInARun)
     EXPECT_FALSE(host.timer1);
 }
 
-TEST_F(CertificateWatchTest, TheOlderKindAnswersTwoWindows)
-{
-    setCheck(Check::AutoSSL1, true);
-    watch.start();
-    host.windows = 1;
-    watch.Timer1_Timer();
-    EXPECT_TRUE(!host.timer1 && host.timer2);
-    watch.Timer2_Timer();
-    EXPECT_EQ(host.text, u"§Varnhold"_s);
-    EXPECT_TRUE(host.timer2);
-    host.windows = 1;
-    watch.Timer2_Timer();
-    EXPECT_EQ(host.text, CertificateWatch::acceptedCaption());
-    EXPECT_FALSE(host.timer2);
-}
-
 TEST_F(CertificateWatchTest, ATickNeverRunsInsideATick)
 {
     setCheck(Check::AutoSSL0, true);

@@ -1,7 +1,7 @@
 #include "lookup/UpdateList.h"
 
 #include "lookup/UpdateListTip.h"
-#include "platform/RunTimeError.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 
 #include <gtest/gtest.h>
@@ -9,20 +9,6 @@
 namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int numberOf(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(UpdateList, KnowsItsRowsFromOne)
 {
@@ -32,7 +18,7 @@ TEST(UpdateList, KnowsItsRowsFromOne)
     EXPECT_FALSE(list.hasSubItem(1, UpdateList::Size)) << "a later one may be set first";
     EXPECT_EQ(list.subItem(1, UpdateList::Size), u""_s);
     for (const int row : {0, 2, -1})
-        EXPECT_EQ(numberOf([&] { list.setSubItem(row, UpdateList::Url, {}); }), 35600);
+        EXPECT_EQ(errorNumberOf([&] { list.setSubItem(row, UpdateList::Url, {}); }), 35600);
     EXPECT_EQ(list.findUrl(u"u"_s), 1);
     EXPECT_EQ(list.findUrl(u"U"_s), 0);
     EXPECT_EQ(updateListTip(list, 1),

@@ -1,6 +1,6 @@
 #include "state/Paths.h"
 
-#include "platform/RunTimeError.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 
@@ -29,16 +29,6 @@ protected:
     {
         qputenv("VARNHOLD_ROOT", rootBefore);
         qputenv("XDG_DATA_HOME", dataBefore);
-    }
-
-    int errorOf(const QString& given)
-    {
-        try {
-            findPaths(given, {}, {});
-            return errors::none;
-        } catch (const RunTimeError& error) {
-            return error.number();
-        }
     }
 
     QByteArray rootBefore = qgetenv("VARNHOLD_ROOT");
@@ -79,8 +69,8 @@ TEST_F(PathsTest, TheUsersFolderIsFilledOnce)
 TEST_F(PathsTest, APlaceThatCannotBe)
 {
     const QString file = place.write(u"file"_s, "x");
-    EXPECT_EQ(errorOf(file + u"/below"_s), errors::pathNotFound);
-    EXPECT_EQ(errorOf(nowhere), errors::pathFileAccess);
+    EXPECT_EQ(test::errorNumberOf([&] { findPaths(file + u"/below"_s, {}, {}); }), errors::pathNotFound);
+    EXPECT_EQ(test::errorNumberOf([&] { findPaths(nowhere, {}, {}); }), errors::pathFileAccess);
 }
 
 } // namespace

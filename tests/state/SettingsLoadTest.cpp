@@ -1,9 +1,9 @@
 #include "state/SettingsLoad.h"
 
-#include "platform/RunTimeError.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
 #include "state/SettingsFile.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 
@@ -48,12 +48,8 @@ protected:
     {
         if (!keys.isNull())
             root.write(u"Settings.ini"_s, "[Settings]\r\n" + keys);
-        try {
-            loadSettings(settings, file, state, root.paths(), updateUrl, host);
-            return errors::none;
-        } catch (const RunTimeError& error) {
-            return error.number();
-        }
+        return test::errorNumberOf(
+            [this] { loadSettings(settings, file, state, root.paths(), updateUrl, host); });
     }
 
     test::TempRoot root;
