@@ -12,6 +12,12 @@ namespace {
 class GameListFailuresTest : public GameWorld
 {
 protected:
+    void makeTableWithoutNames()
+    {
+        database.execute(u"DROP TABLE PS3Games; CREATE TABLE PS3Games (GameID TEXT, Title TEXT);"
+                         "INSERT INTO PS3Games VALUES ('BLUS00001', 'x')"_s);
+    }
+
     const QStringList begun{u"busy"_s, u"clear games"_s, u"clear titles"_s, u"idle"_s};
 };
 
@@ -56,8 +62,7 @@ TEST_F(GameListFailuresTest, AsksForTheNamesOfTables)
 
 TEST_F(GameListFailuresTest, ShowsAnyOtherFailureOfTheFirstLoadAndStartsEmpty)
 {
-    database.execute(u"DROP TABLE PS3Games; CREATE TABLE PS3Games (GameID TEXT, Title TEXT);"
-                     "INSERT INTO PS3Games VALUES ('BLUS00001', 'x')"_s);
+    makeTableWithoutNames();
     list.loadGameListAtStartup();
     EXPECT_EQ(boxes.taken(), QStringList{QCoreApplication::applicationName() + u": List Load -"_s});
     EXPECT_TRUE(boxes.lastText.startsWith(u"List Load -\r\n%1 "_s.arg(errors::database::unknownColumn)))
@@ -93,8 +98,7 @@ TEST_F(GameListFailuresTest, AFailureCostsTheNextOperationTooAndNoMore)
 
 TEST_F(GameListFailuresTest, AFailureInARowLeavesTheListsInStep)
 {
-    database.execute(u"DROP TABLE PS3Games; CREATE TABLE PS3Games (GameID TEXT, Title TEXT);"
-                     "INSERT INTO PS3Games VALUES ('BLUS00001', 'x')"_s);
+    makeTableWithoutNames();
     list.reloadGameList();
     EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::unknownColumn)});
     EXPECT_EQ(window.games, window.titles);
