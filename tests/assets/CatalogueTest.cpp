@@ -4,6 +4,7 @@
 
 #include "Delivery.h"
 #include "app/MainLayout.h"
+#include "appearance/MenuGlyphs.h"
 #include "controls/ButtonEx/ButtonExMetrics.h"
 #include "support/PrintText.h"
 
@@ -53,20 +54,18 @@ const Sized pictures[] = {
     {u"Button--1.bmp Button--2.bmp Button--3.bmp"_s, {92, 14}},
     {u"Button-l1.bmp Button-l2.bmp Button-l3.bmp"_s, {128, 16}},
     {u"button-T1.bmp button-T2.bmp button-T3.bmp"_s, {20, 14}},
-    {u"menu/db.bmp menu/open.bmp menu/add.bmp menu/copy.bmp menu/edit.bmp menu/search.bmp menu/update.bmp "
-     u"menu/settings.bmp "
-     "menu/thumbnail.bmp menu/link.bmp menu/raw.bmp menu/exit.bmp menu/unchecked.bmp menu/icon.bmp "
-     "menu/move.bmp "
-     "menu/cover.bmp menu/path.bmp menu/delete.bmp menu/dl-check.bmp menu/select_all.bmp "
-     "menu/deselect_all.bmp "
-     "menu/dl.bmp menu/list.bmp menu/explore.bmp menu/dir.bmp menu/undo.bmp menu/cut.bmp menu/paste.bmp "
-     "menu/selectall.bmp menu/font.bmp menu/black.bmp menu/blue.bmp menu/cyan.bmp menu/gray.bmp "
-     "menu/green.bmp "
-     "menu/orange.bmp menu/pink.bmp menu/purple.bmp menu/red.bmp menu/white.bmp menu/yellow.bmp "
-     "menu/custom.bmp "
-     "menu/refresh.bmp menu/skin.bmp"_s,
-     {16, 16}},
 };
+
+/// What the program's menus ask for.
+QSet<QString> menuNames()
+{
+    QSet<QString> names;
+    for (const GlyphArray& glyphs : glyphArrays()) {
+        for (const char* const file : glyphs.files)
+            names << QLatin1StringView(file);
+    }
+    return names;
+}
 
 /// The share of pixels that differ.
 double difference(const QImage& one, const QImage& other)
@@ -96,6 +95,10 @@ TEST_P(Catalogue, holdsEachFileOnceAtItsSize)
             expected.insert(name.toLower());
         }
     }
+    for (const QString& name : menuNames()) {
+        EXPECT_EQ(skin.picture(name).size(), QSize(16, 16)) << qPrintable(name);
+        expected.insert(name);
+    }
     QSet<QString> found;
     for (const QString& name : skin.names())
         found.insert(name.toLower());
@@ -119,9 +122,8 @@ TEST_P(Catalogue, givesEachFamilyThreeFacesThatDifferAtTheSizeOfTheButton)
 
 TEST_P(Catalogue, tellsEachMenuGlyphFromTheNext)
 {
-    const QString names = pictures[std::size(pictures) - 1].names;
     QMap<QByteArray, QString> seen;
-    for (const QString& name : names.split(u' ')) {
+    for (const QString& name : menuNames()) {
         QString& other = seen[skin.bytes(name)];
         EXPECT_TRUE(other.isEmpty()) << qPrintable(name) << " looks like " << qPrintable(other);
         other = name;

@@ -4,8 +4,10 @@
 #include "NotesMarkup.h"
 #include "SkinDesign.h"
 #include "SkinFiles.h"
+#include "gamedb/RegionImages.h"
 #include "host/Titles.h"
 #include "platform/richtext/RtfReader.h"
+#include "platform/richtext/RtfWriter.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 
@@ -17,7 +19,6 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -45,37 +46,6 @@ QByteArray contents(const QString& path)
 std::vector<assets::Title> listedTitles()
 {
     return assets::readTitles(QString::fromUtf8(contents(QStringLiteral(VARNHOLD_TITLES))));
-}
-
-/// What notes can show, each by a letter: whatever occurs in these.
-QSet<QChar> featuresOf(const RichText& text)
-{
-    using Alignment = RichText::Alignment;
-    QSet<QChar> found;
-    const auto note = [&](bool occurs, char16_t sign) {
-        if (occurs)
-            found << sign;
-    };
-    for (const RichText::Paragraph& paragraph : text.paragraphs) {
-        note(paragraph.format.bullet, u'*');
-        note(paragraph.format.firstIndent < 0 && !paragraph.format.tabs.empty(), u':');
-        note(paragraph.format.rightIndent > 0, u'"');
-        note(paragraph.format.alignment == Alignment::Center, u'^');
-        note(paragraph.format.alignment == Alignment::Right, u'>');
-        for (const RichText::Run& run : paragraph.runs) {
-            note(run.format.bold, u'b');
-            note(run.format.italic, u'i');
-            note(run.format.strikethrough, u's');
-            note(run.format.color.has_value(), u'c');
-            note(run.format.halfPoints > 0, u'h');
-            note(run.text.contains(u"http://"_s), u'l');
-            note(run.text.contains(u'海'), u'J');
-            note(run.text.contains(u'호'), u'K');
-            note(run.text.contains(u'θ'), u'G');
-            note(run.text.contains(u'ж'), u'C');
-        }
-    }
-    return found;
 }
 
 class DatabaseTest : public testing::Test
@@ -143,10 +113,6 @@ TEST_F(DatabaseTest, IsOneSoundFileThatTakesWrites)
               SQLITE_OK);
     EXPECT_EQ(sqlite3_changes(database.get()), 1) << "ids have no case";
     EXPECT_EQ(ask("PRAGMA integrity_check")[0][0], "ok");
-}
-
-TEST_F(DatabaseTest, KeysAreUniqueWithoutCase)
-{
     for (const char* statement : {"INSERT INTO PS3Games (GameID) VALUES ('blus30443')",
                                   "INSERT INTO PS3Personal (GameID) VALUES ('blus30443')",
                                   "INSERT INTO PS3Links (Link) VALUES ('http://a/B'), ('http://A/b')"})
@@ -164,19 +130,14 @@ TEST_F(DatabaseTest, HoldsTitlesOfAllRegionsAndOfTheSampleService)
 {
     const Table all = games();
     EXPECT_GE(all.size(), 190U);
-    QSet<QString> prefixes;
+    QSet<int> regions;
     for (const auto& [id, row] : all) {
         EXPECT_EQ(id.size(), 9) << qPrintable(id);
         EXPECT_EQ(row.name, row.name.trimmed()) << qPrintable(id);
         EXPECT_FALSE(row.name.isEmpty()) << qPrintable(id);
-        prefixes << id.left(id.startsWith(u"NP") ? 2 : 4);
+        regions << regionImage(id);
     }
-    for (
-        const QString& prefix :
-        u"BCUS BLUS BCES BLES BCJN BCJS BLJM BLJS BLJX BLMJ CEJH CPCS KTGS BCAS BLAS MRTC BCKS BLKS KOEI NP"_s
-            .split(u' '))
-        EXPECT_TRUE(prefixes.remove(prefix)) << qPrintable(prefix);
-    EXPECT_FALSE(prefixes.isEmpty()) << "none of an unknown region";
+    EXPECT_EQ(regions.size(), 7) << "one row at least with each of the flags";
     for (const host::SampleTitle& sample : host::sampleTitles()) {
         ASSERT_EQ(all.count(sample.id), 1U) << qPrintable(sample.id);
         EXPECT_EQ(all.at(sample.id).name, sample.name);
@@ -214,21 +175,13 @@ TEST_F(DatabaseTest, NotesReadAsTheyWereWritten)
 {
     const Table all = games();
     const Table own = personal();
-    int rich = 0;
-    int plain = 0;
-    QSet<QChar> features;
-    const auto check = [&](const assets::NotesSource& source, const QByteArray& stored) {
+    const auto check = [](const assets::NotesSource& source, const QByteArray& stored) {
         const RichText read = readRtf(stored);
-        if (!source.rich) {
+        EXPECT_EQ(stored.startsWith("{\\rtf1"), source.rich);
+        if (source.rich)
+            EXPECT_EQ(read.paragraphs, assets::richNotes(source.lines).paragraphs);
+        else
             EXPECT_EQ(read.plainText(), source.lines.join(u'\n'));
-            plain += source.lines.isEmpty() ? 0 : 1;
-            return;
-        }
-        ++rich;
-        EXPECT_TRUE(stored.startsWith("{\\rtf1"));
-        EXPECT_TRUE(std::all_of(stored.begin(), stored.end(), [](char byte) { return byte > 0; }));
-        EXPECT_EQ(read.paragraphs, assets::richNotes(source.lines).paragraphs);
-        features += featuresOf(read);
     };
     for (const assets::Title& title : listedTitles()) {
         SCOPED_TRACE(qPrintable(title.id));
@@ -236,9 +189,22 @@ TEST_F(DatabaseTest, NotesReadAsTheyWereWritten)
         if (!title.ownNotes.lines.isEmpty())
             check(title.ownNotes, own.at(title.id).notes);
     }
-    EXPECT_GE(rich, 30);
-    EXPECT_GE(plain, 10);
-    EXPECT_EQ(features.size(), 15);
+}
+
+TEST(Notes, TurnMarksIntoFormats)
+{
+    const std::pair<QString, QByteArray> cases[] = {
+        {u"# A"_s, "\\fs22"},        {u"- A"_s, "\\pnlvlblt"},
+        {u": A :: b"_s, "\\tx1320"}, {u"\" A"_s, "\\ri360"},
+        {u"^ A"_s, "\\qc"},          {u">> A"_s, "\\qr"},
+        {u"*A*"_s, "\\b"},           {u"_A_"_s, "\\i"},
+        {u"~A~"_s, "\\strike"},      {u"{rust|A}"_s, "\\red201\\green91\\blue40;"},
+    };
+    const QByteArray plain = writeRtf(assets::richNotes({u"A"_s}));
+    for (const auto& [line, word] : cases) {
+        EXPECT_TRUE(writeRtf(assets::richNotes({line})).contains(word)) << qPrintable(line);
+        EXPECT_FALSE(plain.contains(word + ' ')) << word.constData();
+    }
 }
 
 TEST(Notes, InksCanBeReadOnEverySkin)
