@@ -116,6 +116,7 @@ TEST_F(SettingsLoadTest, EverythingSet)
     EXPECT_FALSE(settings.isChecked(Check::Fade)) << "a grayed box is not checked";
     EXPECT_EQ(settings.unwantedStrings(), u"a, b"_s);
     EXPECT_TRUE(!settings.certOption(0) && settings.certOption(1));
+    EXPECT_TRUE(settings.isChecked(Check::UseDLD));
     EXPECT_EQ(settings.saveDir(), (TaggedText{u"d"_s, u"/d"_s}));
     EXPECT_FALSE(settings.isChecked(Check::SoundsClick));
     EXPECT_EQ(settings.sound(1), (TaggedText{{}, u"/gone.wav"_s})) << "taken untested";
