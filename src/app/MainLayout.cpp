@@ -64,6 +64,15 @@ const MainLayout& MainLayout::enlarged()
     return layout;
 }
 
+QPoint placeEnlarged(const QRect& window, const QSize& enlarged, const WorkArea& area)
+{
+    const QRect inside(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1));
+    if (!inside.contains(window))
+        return window.topLeft();
+    return {std::max(area.left, std::min(window.x(), area.right - enlarged.width())),
+            std::max(area.top, std::min(window.y(), area.bottom - enlarged.height()))};
+}
+
 SplitPlaces splitColumn(double wantedTop, int floor, int upperTop, int columnTwips)
 {
     int top = static_cast<int>(std::clamp(std::nearbyint(wantedTop), -1.0e6, 1.0e6));

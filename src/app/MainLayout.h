@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Screen.h"
+
 #include <QRect>
 #include <QSize>
 
@@ -44,6 +46,10 @@ inline constexpr QRect txtGameID{8, 23, 82, 18};
 inline constexpr QRect btnFetch{94, 24, 40, 16};
 inline constexpr double browserParkedTwips = 8600; ///< left of WebBrowser1 while it is out of sight
 } // namespace mainplaces
+
+/// Where a window that stands wholly in the work area goes when it grows to that size: up and left as far as
+/// it must to stay there. One that the user put across an edge grows where it is.
+QPoint placeEnlarged(const QRect& window, const QSize& enlarged, const WorkArea& area);
 
 /// A splitter bar between two controls of a column, all in twips.
 struct SplitPlaces

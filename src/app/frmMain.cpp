@@ -110,7 +110,15 @@ void frmMain::EnlargeMainWindow()
 {
     if (!takesPictures(2))
         return;
+    // A change of skin comes this way too, with a window that is large already.
+    const bool grows = layoutNumber() == 1;
+    const QRect before(pos(), size());
     applyLayout(MainLayout::enlarged(), 2);
+    if (grows && CaptionDrag::placesWindows()) {
+        m_placeBefore = before.topLeft();
+        m_placeEnlarged = placeEnlarged(before, size(), m_services.screen.workArea());
+        move(m_placeEnlarged);
+    }
     m_services.settings.writeLayout(2);
     Splitbar_Left();
     Splitbar_Main();
@@ -121,6 +129,10 @@ void frmMain::RestoreMainWindow()
     if (!takesPictures(1))
         return;
     applyLayout(MainLayout::normal(), 1);
+    // Back to where it was, unless the user has moved it meanwhile.
+    if (m_placeBefore && m_placeEnlarged == pos())
+        move(*m_placeBefore);
+    m_placeBefore.reset();
     m_services.settings.writeLayout(1);
     Splitbar_Left();
     Splitbar_Main();

@@ -168,6 +168,8 @@ private:
     HiddenList m_titles;
     GameSelection m_selection;
     std::function<bool(int)> m_layoutPictures;
+    std::optional<QPoint> m_placeBefore; ///< before the button enlarged it
+    QPoint m_placeEnlarged;              ///< after it
     std::function<QPixmap()> m_blankPicture;
 
     ElidedLabel* m_caption = nullptr;

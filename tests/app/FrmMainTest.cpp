@@ -64,6 +64,33 @@ TEST_F(FrmMain, SwitchesBetweenItsSizes)
     EXPECT_EQ(stored(u"Miximize"_s), u"1"_s);
 }
 
+TEST_F(FrmMain, GrowsWithinTheWorkAreaAndGoesBack)
+{
+    const struct
+    {
+        const char* name;
+        QPoint before;
+        QPoint large;
+    } cases[] = {
+        {"room", {100, 100}, {100, 100}},
+        {"the corner of a first start", {1920 - 447, 1040 - 289}, {1920 - 595, 1040 - 385}},
+        {"put across the edge", {1800, 900}, {1800, 900}},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        window.move(one.before);
+        window.EnlargeMainWindow();
+        EXPECT_EQ(window.pos(), one.large);
+        window.EnlargeMainWindow(); // as a change of skin does
+        window.RestoreMainWindow();
+        EXPECT_EQ(window.pos(), one.before);
+    }
+    window.EnlargeMainWindow();
+    window.move(5, 5);
+    window.RestoreMainWindow();
+    EXPECT_EQ(window.pos(), QPoint(5, 5)) << "moved by the user meanwhile";
+}
+
 TEST_F(FrmMain, KeepsBarsWithinTheirColumns)
 {
     const struct
