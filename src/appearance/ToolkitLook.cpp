@@ -95,6 +95,7 @@ QAbstractScrollArea QScrollBar::handle { background: @handle; border-radius: 3px
 QAbstractScrollArea QScrollBar::handle:vertical { min-height: 20px; }
 QAbstractScrollArea QScrollBar::handle:horizontal { min-width: 20px; }
 QAbstractScrollArea QScrollBar::handle:hover { background: @accent; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QAbstractScrollArea QScrollBar::add-line, QAbstractScrollArea QScrollBar::sub-line { width: 0; height: 0; }
 QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-page { background: none; }
 )"_s;
