@@ -49,7 +49,8 @@ void SampleService::start(quint16 httpPort, quint16 httpsPort, const QString& ca
     m_authority = makeAuthority();
     makeTls();
     writeCaFile(caFile);
-    open(*m_http, httpPort);
+    if (httpPort != 0 || !m_http->listen(QHostAddress::LocalHost, m_preferredPort))
+        open(*m_http, httpPort);
     open(*m_https, httpsPort);
     open(*m_other, 0);
 }

@@ -34,6 +34,9 @@ public:
     /// empty: a temporary file that goes with the service.
     void start(quint16 httpPort = 0, quint16 httpsPort = 0, const QString& caFile = {});
 
+    /// The http port that 0 means when it is free. Before start().
+    void preferPort(quint16 port) { m_preferredPort = port; }
+
     [[nodiscard]] quint16 httpPort() const;
     [[nodiscard]] quint16 httpsPort() const;
     [[nodiscard]] quint16 otherPort() const; ///< a second http port, which redirects may lead to
@@ -79,6 +82,7 @@ private:
     CertificateFault m_fault = CertificateFault::None;
     std::unique_ptr<QTemporaryFile> m_temporaryCaFile;
     QString m_caFile;
+    quint16 m_preferredPort = 0;
     qint64 m_rate = 30'000'000;
     std::vector<Rule> m_rules;
     QList<QByteArray> m_requests;

@@ -17,6 +17,8 @@ namespace {
 
 constexpr int failed = 1;
 constexpr int misuse = 2;
+/// Addresses of packages that were kept in one run hold in the next.
+constexpr quint16 usualPort = 28930;
 
 struct Usage
 {
@@ -61,7 +63,8 @@ void addOptions(QCommandLineParser& options)
         u"Plays the outside hosts of Varnhold on loopback, with made-up titles."_s);
     options.addHelpOption();
     options.addVersionOption();
-    options.addOption({u"port"_s, u"Port for http; 0 picks a free one."_s, u"port"_s, u"0"_s});
+    options.addOption(
+        {u"port"_s, u"Port for http; 0 picks %1 or another free one."_s.arg(usualPort), u"port"_s, u"0"_s});
     options.addOption({u"https-port"_s, u"Port for https; 0 picks a free one."_s, u"port"_s, u"0"_s});
     options.addOption(
         {u"rate"_s, u"Pace of packages in megabytes a second; 0 for none."_s, u"rate"_s, u"30"_s});
@@ -97,6 +100,7 @@ int main(int argc, char** argv)
             quitWithStandardInput();
         SampleService service;
         configure(service, options);
+        service.preferPort(usualPort);
         service.start(portOf(options.value(u"port"_s)), portOf(options.value(u"https-port"_s)),
                       options.value(u"ca-file"_s));
         const QJsonObject line{{u"http"_s, service.httpPort()},

@@ -1,3 +1,4 @@
+#include "platform/RunTimeError.h"
 #include "support/PrintText.h"
 #include "support/RunningService.h"
 
@@ -9,6 +10,7 @@
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslSocket>
+#include <QTcpServer>
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -236,6 +238,30 @@ TEST_F(SampleService, RulesFollowPaths)
     EXPECT_EQ(get(*service, QByteArray(first).replace("A0101", "A0102")).status(), 200);
     service->with([](host::SampleService& running) { running.misbehave(u"*"_s, {}); });
     EXPECT_EQ(get(*service, first).status(), 200);
+}
+
+TEST(SampleServicePort, IsTheUsualOneWhenThatIsFree)
+{
+    host::SampleService first;
+    first.start();
+    const quint16 taken = first.httpPort();
+    host::SampleService second;
+    second.preferPort(taken);
+    second.start();
+    EXPECT_NE(second.httpPort(), 0);
+    EXPECT_NE(second.httpPort(), taken);
+    host::SampleService refused;
+    refused.preferPort(second.otherPort());
+    EXPECT_THROW(refused.start(taken), RunTimeError) << "asked for by number";
+
+    QTcpServer probe;
+    ASSERT_TRUE(probe.listen(QHostAddress::LocalHost));
+    const quint16 free = probe.serverPort();
+    probe.close();
+    host::SampleService third;
+    third.preferPort(free);
+    third.start();
+    EXPECT_EQ(third.httpPort(), free);
 }
 
 TEST_F(SampleService, WaitsWhereItIsToldToStall)
