@@ -18,6 +18,8 @@
 #include <QSignalSpy>
 #include <QWindow>
 
+#include <utility>
+
 namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
@@ -176,15 +178,15 @@ TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
     openPage(u"Options"_s);
     const QSignalSpy released(&window, &frmSettings::autoSslReleased);
     const auto states = [this] {
-        return QPair(child<QCheckBox>(window, "chk_AutoSSL(0)").isChecked(),
-                     child<QCheckBox>(window, "chk_AutoSSL(1)").isChecked());
+        return std::pair(child<QCheckBox>(window, "chk_AutoSSL(0)").isChecked(),
+                         child<QCheckBox>(window, "chk_AutoSSL(1)").isChecked());
     };
     click("chk_AutoSSL(0)");
-    EXPECT_EQ(states(), QPair(true, false));
+    EXPECT_EQ(states(), std::pair(true, false));
     click("chk_AutoSSL(0)");
-    EXPECT_EQ(states(), QPair(true, false)) << "the release sets it again";
+    EXPECT_EQ(states(), std::pair(true, false)) << "the release sets it again";
     click("chk_AutoSSL(1)");
-    EXPECT_EQ(states(), QPair(false, true));
+    EXPECT_EQ(states(), std::pair(false, true));
     EXPECT_EQ(stored(u"Auto SSL 0"_s), u"0"_s);
     EXPECT_EQ(stored(u"Auto SSL 1"_s), u"1"_s);
     EXPECT_EQ(released.count(), 3);
