@@ -246,12 +246,13 @@ TEST_F(SkinTest, TellsEveryOtherFailureInALine)
     replace(u"barLeft.bmp"_s, "");
     QFile::remove(inSkin(u"barLeft.bmp"_s));
     QFile::copy(inSkin(u"mainBar.bmp"_s), inSkin(u"BARLEFT.BMP"_s));
-    const QPair<QByteArray, QString> lines[] = {
+    const QByteArray aFolder = inSkin({}).toUtf8(); // one that holds files
+    const std::pair<QByteArray, QString> lines[] = {
         {"Skin ForeColor=red", u"13 Type mismatch"_s},
         {"Skin BackColor=-5", u"380 Invalid property value"_s},
         {"Skin HightlightColor=3000000000", u"6 Overflow"_s},
         {"LBxMode=3", u"380 Invalid property value"_s},
-        {"LvPicture=1\r\nLvPicture Path=/", u"75 Path/File access error"_s},
+        {"LvPicture=1\r\nLvPicture Path=" + aFolder, u"75 Path/File access error"_s},
     };
     for (const auto& [line, text] : lines) {
         root.write(u"skin/default/Skin.ini"_s, "[Settings]\r\n" + line + "\r\n");
