@@ -20,6 +20,7 @@
 
 #include <cstdlib>
 #include <random>
+#include <span>
 
 namespace varnhold::bench {
 
@@ -130,8 +131,7 @@ void storeOurs(const QString& path, const QList<Title>& titles)
 }
 
 /// Each row a write of its own; texts are there in the engine's encoding already.
-void storeBare(const QString& path, const std::vector<std::pair<std::string, std::string>>& rows,
-               bool logAhead)
+void storeBare(const QString& path, std::span<const std::pair<std::string, std::string>> rows, bool logAhead)
 {
     sqlite3* const engine = openBare(path);
     if (logAhead)
@@ -166,7 +166,10 @@ bool benchStores(const QString& folder, int pairs)
     };
     const auto bare = [&](int count, bool logAhead, auto&& clock) {
         makeEmpty(barePath);
-        return clock([&] { storeBare(barePath, {rows.begin(), rows.begin() + count}, logAhead); }) / count;
+        return clock([&] {
+                   storeBare(barePath, std::span(rows).first(static_cast<std::size_t>(count)), logAhead);
+               }) /
+               count;
     };
     const auto many = [&](auto&& clock) {
         return comparePaired(

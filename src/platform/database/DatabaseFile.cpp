@@ -129,7 +129,7 @@ void DatabaseFile::close() noexcept
 
 EngineStatement DatabaseFile::statement(const QByteArray& sql)
 {
-    const auto found = m_statements.find(sql.toStdString());
+    const auto found = m_statements.find(sql);
     if (found != m_statements.end())
         return EngineStatement(found->second.get());
     sqlite3_stmt* prepared = nullptr;
@@ -137,7 +137,7 @@ EngineStatement DatabaseFile::statement(const QByteArray& sql)
                                           SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
     if (result != SQLITE_OK)
         fail(result);
-    m_statements.emplace(sql.toStdString(), PreparedStatement(prepared, &sqlite3_finalize));
+    m_statements.emplace(sql, PreparedStatement(prepared, &sqlite3_finalize));
     return EngineStatement(prepared);
 }
 

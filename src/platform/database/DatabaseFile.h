@@ -4,6 +4,7 @@
 #include "platform/database/TableSchema.h"
 
 #include <QByteArray>
+#include <QHashFunctions>
 #include <QString>
 
 #include <memory>
@@ -78,7 +79,7 @@ private:
     void useWriteAheadLog();
 
     Engine m_engine;
-    std::unordered_map<std::string, PreparedStatement> m_statements;
+    std::unordered_map<QByteArray, PreparedStatement> m_statements;
     std::unordered_map<std::string, std::shared_ptr<const TableSchema>> m_tables; ///< by folded name
     std::unique_ptr<OpenValue> m_value;
     bool m_readOnly = false;

@@ -21,7 +21,8 @@ public:
     State(std::shared_ptr<DatabaseFile> file, DatabaseStatement statement)
         : m_file(std::move(file)),
           m_statement(std::move(statement)),
-          m_table(m_file->table(m_statement.table))
+          m_table(m_file->table(m_statement.table)),
+          m_writer(*m_file, m_table)
     {
         if (m_statement.condition)
             (void)m_table->column(m_statement.condition->column);
@@ -113,13 +114,13 @@ public:
     void update()
     {
         if (m_adding) {
-            m_added.push_back(insertRow(*m_file, *m_table, m_pending));
+            m_added.push_back(m_writer.insert(m_pending));
             m_onAdded = true;
         } else {
             requireCurrent();
             if (m_pending.empty())
                 return;
-            updateRow(*m_file, *m_table, currentRowId(), m_pending);
+            m_writer.update(currentRowId(), m_pending);
             for (const PendingValue& value : m_pending) {
                 if (!m_onAdded && m_rows && m_position < m_rows->count())
                     m_rows->forget(m_position, value.column);
@@ -178,6 +179,7 @@ private:
     std::shared_ptr<DatabaseFile> m_file;
     DatabaseStatement m_statement;
     std::shared_ptr<const TableSchema> m_table;
+    RowWriter m_writer;
     std::optional<RowSnapshot> m_rows; ///< made when something is first asked of it
     std::vector<qint64> m_added;       ///< row ids of the records stored through this recordset
     std::size_t m_position = 0;

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace varnhold {
@@ -18,13 +20,31 @@ struct PendingValue
     QByteArray bytes;
 };
 
-/// Each call is a write of its own. A value that a unique column holds in any case, beyond ASCII too, gives
-/// RunTimeError 0x80040E21.
+/// Writes records of one table, each call a write of its own. A value that a unique column holds in any case,
+/// beyond ASCII too, gives RunTimeError 0x80040E21.
+class RowWriter
+{
+public:
+    RowWriter(DatabaseFile& file, std::shared_ptr<const TableSchema> table);
 
-/// The new row's id.
-qint64 insertRow(DatabaseFile& file, const TableSchema& table, const std::vector<PendingValue>& values);
-/// RunTimeError 3021 when the row is gone.
-void updateRow(DatabaseFile& file, const TableSchema& table, qint64 rowId,
-               const std::vector<PendingValue>& values);
+    /// The new row's id.
+    qint64 insert(const std::vector<PendingValue>& values);
+    /// RunTimeError 3021 when the row is gone.
+    void update(qint64 rowId, const std::vector<PendingValue>& values);
+
+private:
+    const QByteArray& insertion(const std::vector<PendingValue>& values);
+    template <typename Write>
+    void writeChecked(const std::vector<PendingValue>& values, std::optional<qint64> ownRowId, Write&& write);
+    void requireFree(const PendingValue& value, std::optional<qint64> ownRowId);
+    [[nodiscard]] const ColumnSchema& columnOf(const PendingValue& value) const;
+    [[nodiscard]] bool needsLook(const PendingValue& value) const;
+
+    DatabaseFile& m_file;
+    std::shared_ptr<const TableSchema> m_table;
+    // Most records set the same columns as the one before.
+    std::vector<int> m_columns;
+    QByteArray m_insertion; ///< the statement for those columns
+};
 
 } // namespace varnhold

@@ -145,6 +145,26 @@ TEST_F(RecordsetTest, AnotherAddNewOrMoveNextStoresTheRecordUnderWay)
     EXPECT_EQ(stored(u"SELECT GameID FROM PS3Games"_s), (QStringList{u"A"_s, u"B"_s}));
 }
 
+TEST_F(RecordsetTest, StoresInEachRecordWhatThatOneSets)
+{
+    open(u"SELECT * FROM PS3Games"_s);
+    const QList<QStringList> sets[] = {{{u"GameID"_s, u"A"_s}, {u"GameName"_s, u"a"_s}},
+                                       {{u"GameName"_s, u"b"_s}, {u"GameID"_s, u"B"_s}},
+                                       {{u"GameID"_s, u"C"_s}, {u"GameNotes"_s, u"c"_s}},
+                                       {{u"GameID"_s, u"D"_s}},
+                                       {},
+                                       {{u"GameID"_s, u"E"_s}, {u"GameName"_s, u"e"_s}}};
+    for (const QList<QStringList>& set : sets) {
+        records.AddNew();
+        for (const QStringList& value : set)
+            records.setValue(value[0], value[1]);
+        records.Update();
+    }
+    EXPECT_EQ(stored(u"SELECT coalesce(GameID, '-') || coalesce(GameName, '-') || coalesce(GameNotes, '-') "
+                     "FROM PS3Games"_s),
+              (QStringList{u"Aa-"_s, u"Bb-"_s, u"C-c"_s, u"D--"_s, u"---"_s, u"Ee-"_s}));
+}
+
 TEST_F(RecordsetTest, UpdatesTheCurrentRow)
 {
     file.addGames(u"PS3Games"_s, {{u"A"_s, u"x"_s, u"notes"_s}, {u"B"_s, u"y"_s}});
