@@ -62,8 +62,9 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const int pairs = mode.empty() ? 21 : std::atoi(mode.c_str());
     const QTemporaryDir root;
-    std::filesystem::copy(std::filesystem::path(argv[0]).parent_path() / "../share/skin",
-                          root.path().toStdString() + "/skin", std::filesystem::copy_options::recursive);
+    // The skins and the game database as delivered.
+    std::filesystem::copy(std::filesystem::path(argv[0]).parent_path() / "../share",
+                          root.path().toStdString(), std::filesystem::copy_options::recursive);
     const std::string bare = (std::filesystem::path(argv[0]).parent_path() / "bare_window").string();
     const auto timeOfBare = [&] { return runChildren({{bare}}).seconds; };
     const auto timeOf = [&](const char* what) {
