@@ -83,9 +83,9 @@ void ButtonExState::setEnabled(bool enabled)
     SetState(enabled ? up : disabled);
 }
 
-void ButtonExState::setFocused(bool focused)
+void ButtonExState::setFocused(bool isFocused)
 {
-    m_focused = focused;
+    m_focused = isFocused;
     redrawState();
 }
 
