@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -54,6 +55,8 @@ void check(const QByteArray& input)
     require(again == read, "reads back as something else", input);
     require(writeRtf(again) == written, "writes differently", input);
 }
+
+#ifndef VARNHOLD_LIBFUZZER
 
 using Random = std::mt19937;
 
@@ -170,6 +173,8 @@ int mutate(int count, unsigned seed, const QString& folder)
     std::printf("%d variants of %lld files\n", count, static_cast<long long>(corpus.size()));
     return 0;
 }
+
+#endif
 
 } // namespace
 
