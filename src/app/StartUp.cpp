@@ -6,12 +6,12 @@
 #include "controls/MorphListBox/MorphListBox.h"
 #include "lookup/CertificateWatch.h"
 #include "platform/BrowserControl.h"
-#include "platform/CaptionDrag.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"
 #include "platform/RunTimeError.h"
 #include "platform/Screen.h"
 #include "platform/Twips.h"
+#include "platform/Wayland.h"
 #include "state/ApplicationState.h"
 #include "state/ErrorReport.h"
 #include "state/Hosts.h"
@@ -133,7 +133,7 @@ void StartUp::placeMainWindow()
     const StoredPosition stored = readPosition(m_services.file, m_services.state);
     const double left = stored.left.value_or(twipsFromPixels(area.right - size.width()));
     const double top = stored.top.value_or(twipsFromPixels(area.bottom - size.height()));
-    if (CaptionDrag::placesWindows())
+    if (!onWayland())
         m_services.main.move(pixelsFromTwips(left), pixelsFromTwips(top));
 }
 

@@ -15,6 +15,7 @@
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Twips.h"
+#include "platform/Wayland.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
 #include "state/Sounds.h"
@@ -114,7 +115,7 @@ void frmMain::EnlargeMainWindow()
     const bool grows = layoutNumber() == 1;
     const QRect before(pos(), size());
     applyLayout(MainLayout::enlarged(), 2);
-    if (grows && CaptionDrag::placesWindows()) {
+    if (grows && !onWayland()) {
         m_placeBefore = before.topLeft();
         m_placeEnlarged = placeEnlarged(before, size(), m_services.screen.workArea());
         move(m_placeEnlarged);

@@ -4,6 +4,7 @@
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
 #include "platform/MessagePump.h"
+#include "platform/Wayland.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
 #include "state/Sounds.h"
@@ -144,7 +145,7 @@ void frmSettings::open(const QPoint& place)
     if (!isVisible()) {
         setWindowTitle(u"Settings: "_s);
         refresh();
-        if (CaptionDrag::placesWindows())
+        if (!onWayland())
             move(place);
         show();
         m_list->setFocus();
@@ -161,7 +162,7 @@ void frmSettings::showPageOver(QWidget& owner, const char* name)
     winId(); // an owner needs a handle
     owner.winId();
     windowHandle()->setTransientParent(owner.windowHandle());
-    if (CaptionDrag::placesWindows())
+    if (!onWayland())
         move(owner.pos());
     refresh();
     for (std::size_t i = 0; i < m_pages.size(); ++i) {

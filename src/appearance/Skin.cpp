@@ -124,7 +124,7 @@ void dressSplash(QWidget& splash, SettingsFile& file, const Paths& paths, Applic
         SkinPictures pictures(state.SkinPath);
         const QPixmap picture = pictures.load(u"background-splash.bmp"_s);
         assignProperty(splash, "Picture", picture);
-        splash.setMask(regionLeft(picture.toImage(), splash.size(), cutAwayColor));
+        cutTo(splash, regionLeft(picture.toImage(), splash.size(), cutAwayColor));
         const SkinIni ini(file);
         assignSkinColorsInside(splash, skinColorsOf(ini));
     });

@@ -3,6 +3,7 @@
 #include "appearance/ColorKeyRuns.h"
 #include "controls/SystemColorsUi.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ShapedWindow.h"
 
 #include <QPixmap>
 #include <QVariant>
@@ -23,6 +24,14 @@ QRegion regionLeft(const QImage& picture, const QSize& size, ColorValue color, b
     return region;
 }
 
+void cutTo(QWidget& widget, const QRegion& shape)
+{
+    if (auto* const window = qobject_cast<ShapedWindow*>(&widget))
+        window->setShape(shape);
+    else
+        widget.setMask(shape);
+}
+
 void clsTransForm::ShapeMe(ColorValue color, bool HorizontalScan, QWidget* Name1, QWidget* Name2)
 {
     if ((Name1 == nullptr) == (Name2 == nullptr)) {
@@ -36,10 +45,8 @@ void clsTransForm::ShapeMe(ColorValue color, bool HorizontalScan, QWidget* Name1
     QWidget& shaped = Name1 != nullptr ? *Name1 : *Name2;
     const QPixmap picture = shaped.property("Picture").value<QPixmap>();
     const QRegion region = regionLeft(picture.toImage(), shaped.size(), color, HorizontalScan);
-    if (region.isEmpty())
-        shaped.setMask(QRegion(-1, -1, 1, 1)); // an empty mask would be none; nothing of the window stays
-    else
-        shaped.setMask(region);
+    // An empty mask would be none; nothing of the window stays.
+    cutTo(shaped, region.isEmpty() ? QRegion(-1, -1, 1, 1) : region);
 }
 
 } // namespace varnhold

@@ -19,6 +19,9 @@ inline constexpr ColorValue cutAwayColor = 0xFF00FF;
 [[nodiscard]] QRegion regionLeft(const QImage& picture, const QSize& size, ColorValue color,
                                  bool horizontal = true);
 
+/// Cuts a widget to a shape; an empty one leaves it whole.
+void cutTo(QWidget& widget, const QRegion& shape);
+
 /// Cuts windows to the shape of their pictures. One object serves all windows.
 class clsTransForm
 {

@@ -3,8 +3,8 @@
 #include "platform/EdgeSnap.h"
 #include "platform/HandCursors.h"
 #include "platform/Twips.h"
+#include "platform/Wayland.h"
 
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -12,8 +12,6 @@
 #include <utility>
 
 namespace varnhold {
-
-using namespace Qt::StringLiterals;
 
 CaptionDrag::CaptionDrag(QWidget& window, const Screen& screen, Hooks hooks)
     : QObject(&window), m_window(window), m_screen(screen), m_hooks(std::move(hooks))
@@ -26,11 +24,6 @@ void CaptionDrag::addHandle(QWidget& label)
     label.installEventFilter(this);
 }
 
-bool CaptionDrag::placesWindows()
-{
-    return !QGuiApplication::platformName().startsWith("wayland"_L1);
-}
-
 bool CaptionDrag::eventFilter(QObject* watched, QEvent* event)
 {
     auto* label = qobject_cast<QWidget*>(watched);
@@ -41,7 +34,7 @@ bool CaptionDrag::eventFilter(QObject* watched, QEvent* event)
         const auto* mouse = static_cast<QMouseEvent*>(event);
         if (mouse->button() != Qt::LeftButton)
             return false;
-        if (!placesWindows()) {
+        if (onWayland()) {
             if (m_window.windowHandle() != nullptr)
                 m_window.windowHandle()->startSystemMove();
             return true;

@@ -36,9 +36,6 @@ public:
 
     void addHandle(QWidget& label);
 
-    /// True where windows may place themselves.
-    [[nodiscard]] static bool placesWindows();
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

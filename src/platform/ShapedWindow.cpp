@@ -1,5 +1,7 @@
 #include "platform/ShapedWindow.h"
 
+#include "platform/Wayland.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QWindow>
@@ -13,6 +15,8 @@ ShapedWindow::ShapedWindow(QWidget* owner, Qt::WindowFlags extra)
     : QWidget(owner, (owner == nullptr ? Qt::Window : Qt::Dialog) | Qt::FramelessWindowHint |
                          Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | extra)
 {
+    if (onWayland()) // what is cut away is left blank; on X11 that would be black without a compositor
+        setAttribute(Qt::WA_TranslucentBackground);
 }
 
 void ShapedWindow::setPicture(const QPixmap& picture)
@@ -21,12 +25,30 @@ void ShapedWindow::setPicture(const QPixmap& picture)
     update();
 }
 
+void ShapedWindow::setShape(const QRegion& shape)
+{
+    if (!testAttribute(Qt::WA_TranslucentBackground)) {
+        setMask(shape);
+        return;
+    }
+    m_shape = shape; // with a mask beside it, what was painted outside would stay
+    update();
+}
+
 void ShapedWindow::paintEvent(QPaintEvent*)
 {
-    if (m_picture.isNull())
-        return;
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_picture);
+    if (testAttribute(Qt::WA_TranslucentBackground)) {
+        if (!m_shape.isEmpty()) {
+            painter.setCompositionMode(QPainter::CompositionMode_Clear);
+            painter.fillRect(rect(), Qt::transparent);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+            painter.setClipRegion(m_shape);
+        }
+        painter.fillRect(rect(), palette().window());
+    }
+    if (!m_picture.isNull())
+        painter.drawPixmap(0, 0, m_picture);
 }
 
 namespace {

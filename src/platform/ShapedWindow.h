@@ -19,12 +19,15 @@ public:
     [[nodiscard]] const QPixmap& picture() const { return m_picture; }
     /// Drawn at the window's corner in its own size.
     void setPicture(const QPixmap& picture);
+    /// Cuts the window to a shape; an empty one leaves it whole.
+    void setShape(const QRegion& shape);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QPixmap m_picture;
+    QRegion m_shape; ///< where a platform cuts no windows; empty: not cut
 };
 
 /// Keeps a window above all others, or no longer.

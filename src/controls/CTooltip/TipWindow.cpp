@@ -1,5 +1,7 @@
 #include "controls/CTooltip/TipWindow.h"
 
+#include "platform/Wayland.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QBitmap>
@@ -44,6 +46,8 @@ TipWindow::TipWindow(QWidget* owner, bool balloon)
     }();
     Q_UNUSED(installed)
     setAttribute(Qt::WA_ShowWithoutActivating);
+    if (balloon && onWayland())
+        setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::NoFocus);
     m_content.font = tipFont();
     m_content.balloon = balloon;
