@@ -28,7 +28,6 @@ constexpr std::array kinds = {
     Kind{"GIF8", "gif"},
     Kind{"BM", "bmp"},
 };
-constexpr qsizetype longestMark = 8;
 
 /// Empty for what is no picture: nothing beyond the first bytes is then read.
 QByteArray formatOf(QByteArrayView start)

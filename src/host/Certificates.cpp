@@ -36,7 +36,7 @@ void check(bool ok)
 
 Key makeKey()
 {
-    Key key(EVP_EC_gen("P-256"));
+    Key key(EVP_PKEY_Q_keygen(nullptr, nullptr, "EC", "P-256"));
     check(key != nullptr);
     return key;
 }
