@@ -19,7 +19,7 @@ protected:
     void openWindow()
     {
         presses = 0;
-        window.whileOpen = [this] {
+        window.whileOpen = [] {
             QElapsedTimer open;
             open.start();
             while (open.elapsed() < 40)
