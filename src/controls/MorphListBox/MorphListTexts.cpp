@@ -22,8 +22,15 @@ void MorphListTexts::setFont(const QFont& font, qreal ratio)
     m_logicalFont = font;
     m_ratio = ratio;
     m_font = font;
-    if (!qFuzzyCompare(ratio, 1.0))
-        m_font.setPixelSize(std::max(1, qRound(QFontInfo(font).pixelSize() * ratio)));
+    if (!qFuzzyCompare(ratio, 1.0)) {
+        const qreal exact = QFontInfo(font).pixelSize() * ratio;
+        const int whole = std::max(1, qRound(exact)); // fonts have no other sizes
+        m_font.setPixelSize(whole);
+        // A text that fits at ratio 1 must fit where the size was rounded up.
+        const int stretch = font.stretch() == QFont::AnyStretch ? int(QFont::Unstretched) : font.stretch();
+        if (whole > exact)
+            m_font.setStretch(std::max(1, int(stretch * exact / whole)));
+    }
     m_height = QFontMetrics(m_font).height();
     forget();
 }

@@ -2,11 +2,13 @@
 // from whole pixels by integer arithmetic, so the tolerance is none at all; texts, which depend on the font
 // engine, are left empty.
 #include "controls/MorphListBox/MorphListPainter.h"
+#include "controls/MorphListBox/MorphListTexts.h"
 
 #include "controls/SystemColorsUi.h"
 
 #include <gtest/gtest.h>
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QRegion>
 
@@ -237,6 +239,29 @@ TEST(MorphListPicture, APartPaintedAgainIsTheSamePicture)
         MorphListPainter().paint(painter, all, all, list, look);
         painter.end();
         EXPECT_EQ(pieces, whole) << ratio;
+    }
+}
+
+TEST(MorphListPicture, ATextThatFitsAtRatioOneIsWholeAtEveryRatio)
+{
+    QFont font;
+    font.setPixelSize(11);
+    for (const int stretch : {int(QFont::Unstretched), int(QFont::SemiCondensed)}) {
+        font.setStretch(stretch);
+        const QString id = u"NPUB31466"_s;
+        const int width = QFontMetrics(font).horizontalAdvance(id) + 1;
+        for (const qreal ratio : {1.0, 1.1, 1.25, 1.4, 1.5, 1.6, 1.75, 2.0, 2.25, 2.5, 3.0}) {
+            MorphListTexts texts;
+            texts.setFont(font, ratio);
+            const auto painted = [&](int room) {
+                QImage image(300, 60, QImage::Format_RGB32);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                texts.paint(painter, {0, 0, room, 60}, id, Qt::black, false);
+                return image;
+            };
+            EXPECT_EQ(painted(qRound(width * ratio)), painted(300)) << ratio << ' ' << stretch;
+        }
     }
 }
 
