@@ -136,8 +136,10 @@ bool Skin::ApplySkin()
         apply();
         return true;
     } catch (const RunTimeError& error) {
+        // What was applied stays, and shows.
+        reshapeWindows();
         report(error);
-        Q_EMIT m_services.page.changed(); // what was applied stays, and shows
+        Q_EMIT m_services.page.changed();
     } catch (const Ending&) {
     }
     return false;

@@ -183,16 +183,25 @@ TEST_F(SkinTest, TellsOfAMissingFileAndStopsThere)
 {
     QFile::remove(inSkin(u"button1.bmp"_s));
     QFile::remove(inSkin(u"Button1.bmp"_s));
-    boxes.expect(
-        u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not exist!\r\nFile "
-        "not found\r\nSolution:        Please check the skin folder in question."_s,
-        QCoreApplication::applicationName());
+    const QString told = u"Error occured:\r\nNumber:         53\r\nDescription:   A Skin file does not "
+                         "exist!\r\nFile not found\r\nSolution:        Please check the skin folder in "
+                         "question."_s;
+    boxes.expect(told, QCoreApplication::applicationName());
     EXPECT_FALSE(skin.ApplySkin());
     EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
     EXPECT_FALSE(main.picture().isNull()) << "applied before";
     EXPECT_TRUE(settingsWindow.picture().isNull()) << "not reached";
     EXPECT_EQ(storedSkin(u"Skin Name"_s), u"default"_s);
     EXPECT_EQ(storedSkin(u"Skin Path"_s), QString()) << "nothing was picked in this run";
+
+    settings.writeSkinPath(root.path(u"skin/paper"_s));
+    ASSERT_TRUE(skin.ApplySkin());
+    const QRegion paper = main.mask();
+    settings.writeSkinPath(root.path(u"skin/default"_s));
+    boxes.expect(told);
+    EXPECT_FALSE(skin.ApplySkin());
+    EXPECT_NE(main.mask(), paper) << "its new picture has another outline";
+    EXPECT_EQ(main.mask(), regionLeft(main.picture().toImage(), main.size(), cutAwayColor));
 }
 
 TEST_F(SkinTest, AsksForAFolderWhenTheSkinIsGone)
