@@ -13,7 +13,11 @@ using namespace Qt::StringLiterals;
 
 QString coverFile(const Settings& settings, const QString& gameId)
 {
-    return settings.covers().tag + u'/' + gameId + u".jpg"_s;
+    const QString& folder = settings.covers().tag;
+    if (folder.isEmpty())
+        return {};
+    const QString file = folder + u'/' + gameId + u".jpg"_s;
+    return FileExists(file) ? file : QString();
 }
 
 CoverCommands::CoverCommands(const Settings& settings, Shell& shell, MessageBoxes& boxes)
@@ -24,7 +28,7 @@ CoverCommands::CoverCommands(const Settings& settings, Shell& shell, MessageBoxe
 void CoverCommands::mnuImageView_Click(const QString& gameId)
 {
     const QString file = coverFile(m_settings, gameId);
-    if (!m_settings.covers().tag.isEmpty() && FileExists(file))
+    if (!file.isEmpty())
         m_shell.open(file);
 }
 

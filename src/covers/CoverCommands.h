@@ -8,7 +8,8 @@ class MessageBoxes;
 class Settings;
 class Shell;
 
-/// Where the cover of a game lies: in the cover folder, under its id. The folder may be empty.
+/// The cover of a game in the cover folder, under its id; empty when no folder is set or no such file is
+/// there.
 QString coverFile(const Settings& settings, const QString& gameId);
 
 /// The entries of mnuImage.

@@ -1,9 +1,9 @@
 #include "gamedb/EntryDetails.h"
 
+#include "covers/CoverCommands.h"
 #include "gamedb/EntryView.h"
 #include "gamedb/SharedDatabase.h"
 #include "gamedb/Statements.h"
-#include "platform/Files.h"
 #include "state/Settings.h"
 
 #include <QScopeGuard>
@@ -24,12 +24,11 @@ QByteArray storedPicture(Recordset& records)
 
 void showCover(const Settings& settings, const QString& gameId, EntryView& view)
 {
-    const QString& folder = settings.covers().tag;
-    const QString file = folder + u'/' + gameId + u".jpg"_s;
-    if (!folder.isEmpty() && FileExists(file))
-        view.showCoverFile(file);
-    else
+    const QString file = coverFile(settings, gameId);
+    if (file.isEmpty())
         view.showBlankPicture();
+    else
+        view.showCoverFile(file);
 }
 
 } // namespace

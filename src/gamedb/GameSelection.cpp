@@ -5,7 +5,6 @@
 #include "lookup/LookupView.h"
 #include "lookup/TitleCleaner.h"
 #include "lookup/UpdateList.h"
-#include "platform/Files.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
 #include "state/Sounds.h"
@@ -51,10 +50,8 @@ void GameSelection::MorphListBox1_KeyUp()
     m_services.updates.clear();
     view.setGameIdText(view.selectedGameText());
     showTitle();
-    if (m_services.settings.covers().tag.isEmpty())
-        return;
     const QString cover = coverFile(m_services.settings, view.gameIdText());
-    if (FileExists(cover))
+    if (!cover.isEmpty())
         entry.showCoverFile(cover);
 }
 
