@@ -1,5 +1,6 @@
 #include "appearance/ToolkitStyle.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
@@ -8,6 +9,30 @@
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A sign in a ring, in the colour of texts.
+QPixmap messageSign(QChar sign, const QColor& color, qreal ratio)
+{
+    constexpr int side = 32;
+    constexpr int letter = 18;
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 2));
+    painter.drawEllipse(QRectF(2, 2, side - 4, side - 4));
+    QFont font = QApplication::font();
+    font.setPixelSize(letter);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.drawText(QRectF(0, 0, side, side), Qt::AlignCenter, sign);
+    return picture;
+}
+
+} // namespace
 
 ToolkitStyle::ToolkitStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
@@ -92,6 +117,36 @@ void ToolkitStyle::drawComplexControl(ComplexControl control, const QStyleOption
             painter->fillRect(tip.x() - row + 1, tip.y() + (up ? row : -row), 2 * row, 1, colors.text());
     }
     painter->restore();
+}
+
+int ToolkitStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QIcon ToolkitStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    const auto sign = [widget](QChar character) {
+        const QPalette colors = widget != nullptr ? widget->palette() : QApplication::palette();
+        return QIcon(messageSign(character, colors.color(QPalette::WindowText),
+                                 widget != nullptr ? widget->devicePixelRatioF() : qApp->devicePixelRatio()));
+    };
+    switch (which) {
+    case SP_MessageBoxQuestion:
+        return sign(u'?');
+    case SP_MessageBoxInformation:
+        return sign(u'i');
+    case SP_MessageBoxWarning:
+        return sign(u'!');
+    case SP_MessageBoxCritical:
+        return sign(u'\u00D7');
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
 }
 
 } // namespace varnhold

@@ -4,7 +4,8 @@
 
 namespace varnhold {
 
-/// Check boxes, option buttons and short scroll bars that can be told apart on any skin's ground.
+/// Check boxes, option buttons, short scroll bars and the signs of message boxes, told apart on any skin's
+/// ground.
 class ToolkitStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -16,6 +17,10 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
 };
 
 } // namespace varnhold
