@@ -5,8 +5,8 @@
 namespace varnhold {
 
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
-enum class BoxButtons { Ok, YesNo };
-enum class BoxAnswer { Ok, Yes, No };
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class BoxAnswer { Ok, Yes, No, Cancel };
 
 struct MessageBox
 {
@@ -17,7 +17,7 @@ struct MessageBox
 };
 
 /// The one way to a modal question. Blocks until answered, pumping events meanwhile. A Yes/No box that is
-/// closed in another way answers No.
+/// closed in another way answers No, one with Cancel answers Cancel.
 class MessageBoxes
 {
 public:

@@ -6,6 +6,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
@@ -33,16 +35,18 @@ std::optional<ChosenFile> choose(const FileDialogRequest& request, QFileDialog::
     QFileDialog dialog(frontWindow(), request.title, request.startFolder);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(files);
-    // The caller asks before it overwrites, in its own words.
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setNameFilters(nameFilters(request.filter));
+    // Most callers ask before they overwrite, in their own words.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeOverwriting);
+    const QStringList filters = nameFilters(request.filter);
+    dialog.setNameFilters(filters);
     dialog.setDefaultSuffix(QFileInfo(request.defaultExtension).suffix());
     if (!request.fileName.isEmpty())
         dialog.selectFile(request.fileName);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
-    return ChosenFile{path, QFileInfo(path).fileName()};
+    const qsizetype filter = filters.indexOf(dialog.selectedNameFilter());
+    return ChosenFile{path, QFileInfo(path).fileName(), static_cast<int>(std::max<qsizetype>(filter, 0)) + 1};
 }
 
 } // namespace

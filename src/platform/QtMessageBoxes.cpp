@@ -28,6 +28,27 @@ QMessageBox::Icon iconOf(BoxIcon icon)
     return QMessageBox::NoIcon;
 }
 
+struct Choices
+{
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton enter;
+    QMessageBox::StandardButton escape;
+};
+
+Choices choicesOf(BoxButtons buttons)
+{
+    switch (buttons) {
+    case BoxButtons::YesNo:
+        return {QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No};
+    case BoxButtons::YesNoCancel:
+        return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+                QMessageBox::Cancel};
+    case BoxButtons::Ok:
+        break;
+    }
+    return {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok};
+}
+
 QString withLineFeeds(QString text)
 {
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
@@ -37,14 +58,13 @@ QString withLineFeeds(QString text)
 
 BoxAnswer QtMessageBoxes::show(const MessageBox& box)
 {
-    const bool question = box.buttons == BoxButtons::YesNo;
+    const Choices choices = choicesOf(box.buttons);
     QMessageBox dialog(iconOf(box.icon),
                        box.title.isEmpty() ? QApplication::applicationDisplayName() : box.title,
-                       withLineFeeds(box.text),
-                       question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, frontWindow());
+                       withLineFeeds(box.text), choices.buttons, frontWindow());
     dialog.setTextFormat(Qt::PlainText);
-    dialog.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
-    dialog.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+    dialog.setDefaultButton(choices.enter);
+    dialog.setEscapeButton(choices.escape);
     // The main window is top-most while it loads; a box below it could not be answered.
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
     switch (dialog.exec()) {
@@ -52,6 +72,8 @@ BoxAnswer QtMessageBoxes::show(const MessageBox& box)
         return BoxAnswer::Yes;
     case QMessageBox::No:
         return BoxAnswer::No;
+    case QMessageBox::Cancel:
+        return BoxAnswer::Cancel;
     default:
         return BoxAnswer::Ok;
     }

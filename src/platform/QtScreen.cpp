@@ -1,5 +1,6 @@
 #include "platform/QtScreen.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -29,6 +30,12 @@ int QtScreen::width() const
 int QtScreen::height() const
 {
     return geometryOf(&QScreen::geometry).height();
+}
+
+PointerPlace QtScreen::pointer() const
+{
+    const QPoint place = QCursor::pos();
+    return {place.x(), place.y()};
 }
 
 } // namespace varnhold

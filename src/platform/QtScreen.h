@@ -11,6 +11,7 @@ public:
     [[nodiscard]] WorkArea workArea() const override;
     [[nodiscard]] int width() const override;
     [[nodiscard]] int height() const override;
+    [[nodiscard]] PointerPlace pointer() const override;
 };
 
 } // namespace varnhold

@@ -12,6 +12,12 @@ struct WorkArea
     int bottom = 0;
 };
 
+struct PointerPlace
+{
+    int x = 0;
+    int y = 0;
+};
+
 class Screen
 {
 public:
@@ -20,6 +26,8 @@ public:
     /// Size of the primary screen in logical pixels.
     [[nodiscard]] virtual int width() const = 0;
     [[nodiscard]] virtual int height() const = 0;
+    /// Where the pointer is, in logical pixels of the desktop.
+    [[nodiscard]] virtual PointerPlace pointer() const = 0;
 };
 
 } // namespace varnhold

@@ -4,31 +4,23 @@
 
 namespace varnhold::test {
 
-namespace {
-
-std::optional<ChosenFile> chosen(const QString& path)
-{
-    if (path.isEmpty())
-        return std::nullopt;
-    return ChosenFile{path, path.mid(path.lastIndexOf(u'/') + 1)};
-}
-
-} // namespace
-
 FakeFileDialogs::~FakeFileDialogs()
 {
-    for (const QString& path : m_answers)
-        ADD_FAILURE() << "dialog answer never used: " << qPrintable(path);
+    for (const Answer& answer : m_answers)
+        ADD_FAILURE() << "dialog answer never used: " << qPrintable(answer.path);
 }
 
 std::optional<ChosenFile> FakeFileDialogs::chooseSavePath(const FileDialogRequest& request)
 {
-    return chosen(next(request));
+    const Answer answer = next(request);
+    if (answer.path.isEmpty())
+        return std::nullopt;
+    return ChosenFile{answer.path, answer.path.mid(answer.path.lastIndexOf(u'/') + 1), answer.filter};
 }
 
 std::optional<ChosenFile> FakeFileDialogs::chooseFile(const FileDialogRequest& request)
 {
-    return chosen(next(request));
+    return chooseSavePath(request);
 }
 
 QString FakeFileDialogs::chooseFolder(const QString& prompt, const QString& startFolder)
@@ -36,10 +28,10 @@ QString FakeFileDialogs::chooseFolder(const QString& prompt, const QString& star
     FileDialogRequest request;
     request.title = prompt;
     request.startFolder = startFolder;
-    return next(request);
+    return next(request).path;
 }
 
-QString FakeFileDialogs::next(const FileDialogRequest& request)
+FakeFileDialogs::Answer FakeFileDialogs::next(const FileDialogRequest& request)
 {
     asked.append(request);
     if (m_answers.isEmpty()) {

@@ -13,8 +13,8 @@ class FakeFileDialogs : public FileDialogs
 public:
     ~FakeFileDialogs() override;
 
-    void answer(const QString& path) { m_answers.append(path); }
-    void cancelNext() { m_answers.append(QString()); }
+    void answer(const QString& path, int filter = 1) { m_answers.append({path, filter}); }
+    void cancelNext() { m_answers.append(Answer()); }
 
     std::optional<ChosenFile> chooseSavePath(const FileDialogRequest& request) override;
     std::optional<ChosenFile> chooseFile(const FileDialogRequest& request) override;
@@ -23,9 +23,14 @@ public:
     QList<FileDialogRequest> asked; ///< a folder question has its prompt as title
 
 private:
-    QString next(const FileDialogRequest& request);
+    struct Answer
+    {
+        QString path;
+        int filter = 1;
+    };
+    Answer next(const FileDialogRequest& request);
 
-    QList<QString> m_answers;
+    QList<Answer> m_answers;
 };
 
 } // namespace varnhold::test

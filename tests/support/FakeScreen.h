@@ -11,9 +11,11 @@ public:
     [[nodiscard]] WorkArea workArea() const override { return area; }
     [[nodiscard]] int width() const override { return area.right; }
     [[nodiscard]] int height() const override { return fullHeight; }
+    [[nodiscard]] PointerPlace pointer() const override { return place; }
 
     WorkArea area{0, 0, 1920, 1040};
     int fullHeight = 1080;
+    PointerPlace place;
 };
 
 } // namespace varnhold::test
