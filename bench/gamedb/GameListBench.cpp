@@ -5,7 +5,7 @@
 #include "GameFile.h"
 
 #include "app/DesktopWorld.h"
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "appearance/ToolkitLook.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "support/PairedRuns.h"

@@ -1,6 +1,6 @@
 #include "app/DownloadWindows.h"
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "platform/Twips.h"
 #include "state/Settings.h"
 

@@ -1,9 +1,9 @@
 #include "app/SkinnedWindows.h"
 
-#include "app/frmMain.h"
-#include "app/frmMenu.h"
-#include "app/frmSettings.h"
-#include "app/frmSplash.h"
+#include "app/main/frmMain.h"
+#include "app/menu/frmMenu.h"
+#include "app/settings/frmSettings.h"
+#include "app/start/frmSplash.h"
 #include "appearance/ButtonSigns.h"
 #include "controls/CTooltip/CTooltip.h"
 

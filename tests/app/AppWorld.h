@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "lookup/UpdateList.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"

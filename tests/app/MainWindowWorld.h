@@ -2,7 +2,7 @@
 
 #include "AppWorld.h"
 
-#include "app/UpdateListView.h"
+#include "app/main/UpdateListView.h"
 #include "controls/MorphListBox/MorphListBox.h"
 
 #include <QLabel>

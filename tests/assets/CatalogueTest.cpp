@@ -3,7 +3,7 @@
 #include "SkinFiles.h"
 
 #include "Delivery.h"
-#include "app/MainLayout.h"
+#include "app/main/MainLayout.h"
 #include "appearance/MenuGlyphs.h"
 #include "controls/ButtonEx/ButtonExMetrics.h"
 #include "support/PrintText.h"

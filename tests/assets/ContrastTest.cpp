@@ -2,7 +2,7 @@
 
 #include "SkinFiles.h"
 
-#include "app/MainLayout.h"
+#include "app/main/MainLayout.h"
 #include "support/PrintText.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "app/Program.h"
-#include "app/UpdateListView.h"
+#include "app/main/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "platform/TcpSocket.h"

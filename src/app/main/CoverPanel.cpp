@@ -1,0 +1,76 @@
+#include "app/main/CoverPanel.h"
+
+#include "covers/CoverBox.h"
+#include "covers/FitPreviewImage.h"
+#include "state/Paths.h"
+#include "state/Sounds.h"
+
+#include <QFile>
+
+#include <utility>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+CoverPanel::CoverPanel(Parts parts, const Paths& paths, Sounds& sounds)
+    : m_parts(std::move(parts)), m_paths(paths), m_sounds(sounds)
+{
+    connect(&m_parts.PicPreview, &CoverBox::activated, this, &CoverPanel::onClick);
+    connect(&m_parts.PicPreview, &CoverBox::menuWanted, this, &CoverPanel::mnuImageWanted);
+}
+
+void CoverPanel::showListViews()
+{
+    m_parts.imgPreview.hide();
+    for (QWidget* const view : m_parts.listViews)
+        view->show();
+}
+
+void CoverPanel::refit()
+{
+    if (!m_parts.imgPreview.isHidden())
+        fitPreviewImage();
+}
+
+void CoverPanel::onClick()
+{
+    m_sounds.play(Sound::Click);
+    if (m_parts.imgPreview.isHidden())
+        enlarge();
+    else
+        showListViews();
+}
+
+void CoverPanel::enlarge()
+{
+    const QPixmap picture = m_parts.PicPreview.wholePicture();
+    if (picture.isNull())
+        return;
+    m_parts.imgPreview.setPicture(throughFile(picture));
+    for (QWidget* const view : m_parts.listViews)
+        view->hide();
+    fitPreviewImage();
+}
+
+void CoverPanel::fitPreviewImage()
+{
+    CoverBox& preview = m_parts.imgPreview;
+    preview.hide();
+    preview.setGeometry(varnhold::fitPreviewImage(preview.picture().size(), preview.parentWidget()->size()));
+    preview.show();
+}
+
+QPixmap CoverPanel::throughFile(const QPixmap& picture) const
+{
+    // The large view shows what a bitmap file holds of the picture. In a folder that cannot be written to it
+    // shows the picture itself.
+    const QString file = m_paths.root + u"/temp.bmp"_s;
+    QPixmap loaded;
+    if (picture.save(file, "BMP"))
+        loaded.load(file, "BMP");
+    QFile::remove(file);
+    return loaded.isNull() ? picture : loaded;
+}
+
+} // namespace varnhold

@@ -1,0 +1,182 @@
+#include "app/main/UpdateListView.h"
+
+#include "app/main/PackageIcons.h"
+#include "lookup/UpdateList.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+namespace varnhold {
+
+namespace {
+
+constexpr int rowHeight = 18;
+constexpr int iconSide = 16;
+constexpr int cellGap = 6;
+
+/// Shows the icon that the list names by a key.
+class IconDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return {QStyledItemDelegate::sizeHint(option, index).width() + cellGap, rowHeight};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state.setFlag(QStyle::State_HasFocus, false); // the whole row shows it
+        const QString key = index.data(UpdateList::IconKeyRole).toString();
+        if (key.isEmpty())
+            return;
+        option->icon = packageIcon(key);
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = QSize(iconSide, iconSide);
+    }
+};
+
+} // namespace
+
+UpdateListView::UpdateListView(UpdateList& list, QWidget* parent) : QTreeView(parent)
+{
+    setModel(&list);
+    setItemDelegate(new IconDelegate(this));
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setItemsExpandable(false);
+    setSortingEnabled(false);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setIconSize(QSize(iconSide, iconSide));
+    setHorizontalScrollMode(ScrollPerPixel);
+    setTextElideMode(Qt::ElideMiddle);
+    setMouseTracking(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionsMovable(false);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void UpdateListView::setPicture(const QPixmap& picture)
+{
+    m_picture = picture;
+    viewport()->update();
+}
+
+void UpdateListView::setPictureAlignment(int alignment)
+{
+    m_pictureAlignment = alignment;
+    viewport()->update();
+}
+
+void UpdateListView::drawPicture(QPainter& painter) const
+{
+    constexpr int tiled = 5;
+    const QRect all = viewport()->rect();
+    if (m_pictureAlignment == tiled) {
+        painter.drawTiledPixmap(all, m_picture);
+        return;
+    }
+    constexpr Qt::Alignment places[] = {Qt::AlignTop | Qt::AlignLeft, Qt::AlignTop | Qt::AlignRight,
+                                        Qt::AlignBottom | Qt::AlignLeft, Qt::AlignBottom | Qt::AlignRight,
+                                        Qt::AlignCenter};
+    const Qt::Alignment place = places[qBound(0, m_pictureAlignment, 4)];
+    const QRect at = QStyle::alignedRect(Qt::LeftToRight, place, m_picture.size(), all);
+    painter.drawPixmap(at.topLeft(), m_picture);
+}
+
+void UpdateListView::paintEvent(QPaintEvent* event)
+{
+    if (!m_picture.isNull()) {
+        QPainter painter(viewport());
+        drawPicture(painter);
+    }
+    QTreeView::paintEvent(event);
+}
+
+void UpdateListView::autosizeColumns()
+{
+    const int columns = header()->count();
+    for (int column = 0; column < columns; ++column)
+        resizeColumnToContents(column);
+}
+
+void UpdateListView::scrollTo(const QModelIndex& index, ScrollHint hint)
+{
+    // A row is chosen, not a cell: the columns in view stay where the user has put them.
+    const int left = horizontalScrollBar()->value();
+    QTreeView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
+}
+
+int UpdateListView::selectedRow() const
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? 0 : rows.front().row() + 1;
+}
+
+int UpdateListView::rowAt(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    return index.isValid() ? index.row() + 1 : 0;
+}
+
+void UpdateListView::mousePressEvent(QMouseEvent* event)
+{
+    QTreeView::mousePressEvent(event);
+    Q_EMIT buttonPressed();
+}
+
+void UpdateListView::mouseMoveEvent(QMouseEvent* event)
+{
+    QTreeView::mouseMoveEvent(event);
+    Q_EMIT rowHovered(rowAt(event->position().toPoint()));
+}
+
+void UpdateListView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTreeView::mouseReleaseEvent(event);
+    Q_EMIT buttonReleased();
+    if (event->button() == Qt::RightButton)
+        Q_EMIT menuWanted(event->globalPosition().toPoint());
+}
+
+void UpdateListView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT rowActivated(selectedRow());
+}
+
+void UpdateListView::leaveEvent(QEvent* event)
+{
+    QTreeView::leaveEvent(event);
+    Q_EMIT rowHovered(0);
+}
+
+void UpdateListView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Q_EMIT rowActivated(selectedRow());
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void UpdateListView::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The mouse opens the menu on release; what comes here by key opens it at the selected row.
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuWanted(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+} // namespace varnhold

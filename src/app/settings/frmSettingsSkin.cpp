@@ -1,0 +1,104 @@
+// The skin page of the settings window.
+
+#include "app/settings/frmSettings.h"
+#include "appearance/SkinPage.h"
+#include "controls/ButtonEx/ButtonEx.h"
+#include "controls/SystemColorsUi.h"
+#include "state/ApplicationState.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPainter>
+
+namespace varnhold {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int column = 8;
+constexpr int valueColumn = 140;
+constexpr int rowHeight = 20;
+constexpr QSize cellSize{28, 16};
+
+QLabel* addLabel(QFrame& page, const QString& name, const QString& text, const QRect& place)
+{
+    auto* label = new QLabel(text, &page);
+    label->setObjectName(name);
+    label->setGeometry(place);
+    return label;
+}
+
+QPixmap cell(ColorValue fill, ColorValue border)
+{
+    QPixmap picture(cellSize);
+    picture.fill(toQColor(border));
+    QPainter(&picture).fillRect(QRect({1, 1}, cellSize - QSize(2, 2)), toQColor(fill));
+    return picture;
+}
+
+void setTextColor(QLabel& label, ColorValue color)
+{
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, toQColor(color));
+    label.setPalette(palette);
+}
+
+} // namespace
+
+void frmSettings::buildSkin()
+{
+    QFrame& page = *addPage(u"Skin"_s, "frm_Skin(0)", u"Settings: Skin"_s);
+    addLabel(page, u"lbl_Available_Skins(0)"_s, tr("Available skins"), {column, 6, 120, rowHeight});
+    addLabel(page, u"lbl_Available_Skins(1)"_s, u"0"_s, {valueColumn, 6, 60, rowHeight});
+    ButtonEx* choose = addButton(page, "btn_Skin_Path", tr("Skin"), {220, 8, 56, 16});
+    choose->setCaption(tr("Choose"));
+    connect(choose, &ButtonEx::MouseEnter, this,
+            [this, choose] { choose->setToolTip(u"Skin Patch: "_s + m_services.state.SkinPath); });
+    connect(choose, &ButtonEx::Click, this,
+            [this, choose] { Q_EMIT skinMenuWanted(choose->mapToGlobal(QPoint(0, choose->height()))); });
+    const struct
+    {
+        const char* number;
+        QString text;
+    } cells[] = {{"lbl_ForeColor", tr("Text colour")},
+                 {"lbl_HighLightColor", tr("Highlight colour")},
+                 {"lbl_BackColor", tr("Background colour")}};
+    for (int i = 0; i < 3; ++i) {
+        const int top = 40 + 24 * i;
+        addLabel(page, {}, cells[i].text, {column, top, 130, rowHeight});
+        addLabel(page, u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16});
+        addLabel(page, QLatin1StringView(cells[i].number), {}, {valueColumn + 36, top, 90, rowHeight});
+    }
+    connect(&m_services.skinPage, &SkinPage::changed, this, &frmSettings::showSkin);
+    showSkin();
+}
+
+void frmSettings::showSkin()
+{
+    const SkinPage& page = m_services.skinPage;
+    const char* const numbers[] = {"lbl_ForeColor", "lbl_HighLightColor", "lbl_BackColor"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        findChild<QLabel*>(u"Shape_Color(%1)"_s.arg(i))
+            ->setPixmap(cell(page.Shape_Color.at(i), page.borderColor.at(i)));
+        findChild<QLabel*>(QLatin1StringView(numbers[i]))
+            ->setText(QString::number(static_cast<qint32>(page.Shape_Color.at(i))));
+    }
+    auto* const heading = findChild<QLabel*>("lbl_Available_Skins(0)"_L1);
+    auto* const count = findChild<QLabel*>("lbl_Available_Skins(1)"_L1);
+    count->setText(page.availableSkins.isEmpty() ? u"0"_s : page.availableSkins);
+    if (page.skinLoaded)
+        setTextColor(*heading, page.Shape_Color[SkinPage::Fore]);
+    else if (page.availableSkinsColor[0] != 0)
+        setTextColor(*heading, page.availableSkinsColor[0]);
+    if (page.availableSkinsColor[1] != 0)
+        setTextColor(*count, page.availableSkinsColor[1]);
+}
+
+void frmSettings::askForSkin(QWidget& owner)
+{
+    showPageOver(owner, "frm_Skin(0)");
+    findChild<ButtonEx*>("btn_Skin_Path"_L1)->setFocus();
+}
+
+} // namespace varnhold
