@@ -12,7 +12,7 @@ namespace varnhold {
 /// of a file is refused at once.
 ///
 /// Errors are RunTimeError: 53 nothing there, 76 no such folder, 75 not allowed or no regular file, 52 a name
-/// that cannot be, 61 and others as errorFromErrno has them.
+/// that cannot be, 7 too large, others as errorFromErrno has them.
 
 /// Reads the whole file. One that is larger than `limit` bytes is refused (error 7, out of memory), also
 /// where it grows while it is read.

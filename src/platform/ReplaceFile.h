@@ -4,14 +4,13 @@
 #include <QString>
 
 #include <cstdint>
-#include <functional>
 
 namespace varnhold {
 
 /// The one door for putting a whole file in the place of another in one step. What is written goes to a file
-/// beside the target under a name that is plainly ours (".varnhold-" and digits), is flushed to the disk with
-/// its failure seen, and then takes the target's place: after a failure or a kill the target holds the old
-/// bytes or the new, never less. A kill may leave the file beside it; clearLeftovers takes such away.
+/// beside the target under a name that is plainly ours (".varnhold-" and sixteen digits), is flushed to the
+/// disk with its failure seen, and then takes the target's place: after a failure or a kill the target holds
+/// the old bytes or the new, never less. A kill may leave the file beside it; clearLeftovers takes such away.
 class FileReplacement
 {
 public:
@@ -20,30 +19,34 @@ public:
         Replace, ///< the link itself is
     };
 
-    /// Throws RunTimeError (75, 76, 61, 52) where no file can be made beside the target, or where the target
-    /// is there and is no regular file. Mode and, where allowed, owner are the old file's.
+    /// Throws RunTimeError (75, 76, 61, 52) where no file can be made beside the target, and where the target
+    /// is there and is no regular file or may not be written. A file without its owner's right to write may
+    /// not, whoever asks. Mode and, where allowed, owner are the old file's.
     explicit FileReplacement(const QString& target, Links links = Links::Follow);
     ~FileReplacement(); ///< not committed: the file beside the target goes
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    /// Throws RunTimeError at the first write that fails or is cut short for good; nothing can be committed
-    /// afterwards.
+    /// Throws RunTimeError at the first write that fails; nothing can be committed afterwards.
     void write(QByteArrayView bytes);
     [[nodiscard]] std::int64_t size() const { return m_size; }
     [[nodiscard]] const QString& temporaryPath() const { return m_temporary; }
-    /// Flushes, then renames, then flushes the folder. Throws; the target is then the old file.
+    /// Flushes, then renames, then flushes the folder. Throws; the target is then the old file, but where the
+    /// folder's flush alone failed: there the new one stands, and a loss of power may bring the old one back.
     void commit();
 
 private:
-    QString m_target;
+    void makeTemporary(const QString& folder, unsigned mode);
+    void discard();
+
+    QString m_target; ///< links resolved, as the links' way asks
     QString m_temporary;
     std::int64_t m_size = 0;
     int m_file = -1;
     bool m_failed = false;
 };
 
-/// All of it at once. Throws RunTimeError; the target is then what it was.
+/// All of it at once. Throws RunTimeError as FileReplacement does.
 void replaceFile(const QString& target, QByteArrayView bytes,
                  FileReplacement::Links links = FileReplacement::Links::Follow);
 
