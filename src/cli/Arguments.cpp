@@ -1,5 +1,6 @@
 #include "cli/Arguments.h"
 
+#include "cli/Commands.h"
 #include "lookup/GameIdFilter.h"
 
 #include <QCommandLineParser>
@@ -14,14 +15,9 @@ namespace {
 
 constexpr qsizetype gameIdLength = 9;
 
-const QString description = uR"(Looks up the updates of a title and downloads its packages.
+const QString purpose = u"Looks up the updates of a title and downloads its packages."_s;
 
-Commands:
-  lookup ID     Lists the packages of a title.
-  download ID   Downloads a package: the last one listed, or as --package or --all say.
-  hosts         Shows which hosts are asked.
-
-ID is the title's id, such as BLUS30443; small letters and a "-" are fine.
+const QString exitCodes = uR"(ID is a title's id, such as BLUS30443; small letters and a "-" are fine.
 
 Exit codes:
   0  all went well
@@ -30,35 +26,138 @@ Exit codes:
   3  there is no such title or package
   4  a package has arrived, and its SHA-1 is not the document's)"_s;
 
-void setUp(QCommandLineParser& parser)
+QString usageOf(const Command& command)
 {
-    parser.setApplicationDescription(description);
-    parser.addPositionalArgument(u"command"_s, u"lookup, download or hosts."_s);
-    parser.addPositionalArgument(u"id"_s, u"The title's id."_s, u"[id]"_s);
-    parser.addOptions({
-        {u"json"_s, u"lookup: print JSON instead of a table."_s},
-        {u"package"_s, u"download: the package of this version."_s, u"version"_s},
-        {u"all"_s, u"download: all packages of the title."_s},
-        {u"to"_s,
-         u"download: into this folder, made when it is missing. Else the download folder of the settings "
-         u"where "
-         "that is in use, else the current folder."_s,
-         u"folder"_s},
-        {u"overwrite"_s, u"download: replace files that are there."_s},
-        {u"root"_s, u"The program's folder, with its settings and hosts.ini."_s, u"folder"_s},
-        {u"server"_s, u"Ask this update server, 1 to 6, instead of the one in the settings."_s, u"number"_s},
-        {{u"h"_s, u"help"_s}, u"Show this help."_s},
-        {{u"v"_s, u"version"_s}, u"Show the version."_s},
-    });
+    return command.operands.isEmpty() ? command.name : command.name + u' ' + command.operands;
 }
 
-QString readGameId(const QStringList& positional)
+QString description()
 {
-    if (positional.size() < 2)
-        throw UsageError{u"\"%1\" needs the id of a title."_s.arg(positional.first())};
-    if (positional.size() > 2)
-        throw UsageError{u"One id at a time; \"%1\" is too much."_s.arg(positional.at(2))};
-    QString bare = positional.at(1);
+    qsizetype width = 0;
+    for (const Command& command : commands())
+        width = std::max(width, usageOf(command).size());
+    QString text = purpose + u"\n\nCommands:\n"_s;
+    for (const Command& command : commands())
+        text += u"  "_s + usageOf(command).leftJustified(width + 2) + command.help + u'\n';
+    return text + u"\n\"varnhold-cli COMMAND --help\" shows a command's options.\n\n"_s + exitCodes;
+}
+
+void addOption(QCommandLineParser& parser, const Option& option)
+{
+    parser.addOption(QCommandLineOption(option.name, option.help, option.value));
+}
+
+void addCommonOptions(QCommandLineParser& parser)
+{
+    addOption(parser, {u"root"_s, u"The program's folder, with its settings and hosts.ini."_s, u"folder"_s});
+    parser.addOption({{u"h"_s, u"help"_s}, u"Show this help."_s});
+    parser.addOption({{u"v"_s, u"version"_s}, u"Show the version."_s});
+}
+
+/// Every option once, of whichever command: a command's options may stand before its name.
+QList<Option> allOptions()
+{
+    QList<Option> all;
+    for (const Command& command : commands())
+        for (const Option& option : command.options)
+            if (std::ranges::find(std::as_const(all), option.name, &Option::name) == all.cend())
+                all.append(option);
+    return all;
+}
+
+QString commandNames()
+{
+    QStringList names;
+    for (const Command& command : commands())
+        names.append(command.name);
+    const QString last = names.takeLast();
+    return names.join(u", "_s) + u" or "_s + last;
+}
+
+} // namespace
+
+QString Arguments::value(const QString& option) const
+{
+    const auto found = options.constFind(option);
+    return found == options.cend() || found->isEmpty() ? QString() : found->last();
+}
+
+Arguments readArguments(const QStringList& arguments)
+{
+    const QList<Option> known = allOptions();
+    QCommandLineParser parser;
+    for (const Option& option : known)
+        addOption(parser, option);
+    addCommonOptions(parser);
+    if (!parser.parse(arguments))
+        throw UsageError{parser.errorText()};
+
+    Arguments read;
+    read.help = parser.isSet(u"help"_s);
+    read.version = parser.isSet(u"version"_s);
+    read.operands = parser.positionalArguments();
+    if (!read.operands.isEmpty()) {
+        const QString name = read.operands.takeFirst();
+        const auto found = std::ranges::find(commands(), name, &Command::name);
+        if (found == commands().cend())
+            throw UsageError{u"There is no command \"%1\"."_s.arg(name)};
+        read.command = &*found;
+    }
+    if (read.help || read.version)
+        return read;
+    if (read.command == nullptr)
+        throw UsageError{u"A command is missing: %1."_s.arg(commandNames())};
+
+    const auto requireValue = [&](const QString& name) {
+        if (parser.values(name).contains(QString()))
+            throw UsageError{u"--%1 needs a value."_s.arg(name)};
+    };
+    for (const Option& option : known) {
+        if (!parser.isSet(option.name))
+            continue;
+        const QList<Option>& own = read.command->options;
+        if (std::ranges::find(own, option.name, &Option::name) == own.cend())
+            throw UsageError{u"--%1 does not go with \"%2\"."_s.arg(option.name, read.command->name)};
+        requireValue(option.name);
+        read.options.insert(option.name, parser.values(option.name));
+    }
+    requireValue(u"root"_s);
+    read.root = parser.value(u"root"_s);
+    return read;
+}
+
+QString helpText(const Arguments& arguments)
+{
+    QCommandLineParser parser;
+    if (arguments.command != nullptr) {
+        parser.setApplicationDescription(arguments.command->help);
+        parser.addPositionalArgument(arguments.command->name, {}, usageOf(*arguments.command));
+        for (const Option& option : arguments.command->options)
+            addOption(parser, option);
+    } else {
+        parser.setApplicationDescription(description());
+        parser.addPositionalArgument(u"command"_s, commandNames() + u'.', u"command ..."_s);
+    }
+    addCommonOptions(parser);
+    return parser.helpText();
+}
+
+int numberOf(const Arguments& arguments, const QString& option, int least, int most, int otherwise)
+{
+    if (!arguments.has(option))
+        return otherwise;
+    const QString text = arguments.value(option);
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < least || number > most)
+        throw UsageError{
+            u"--%1 takes a number from %2 to %3, not \"%4\"."_s.arg(option).arg(least).arg(most).arg(text)};
+    return number;
+}
+
+QString readGameId(const QString& text)
+{
+    QString bare = text;
     bare.remove(u'-').remove(u' ');
     QString id;
     const bool typed = std::ranges::all_of(std::as_const(bare), [&](QChar character) {
@@ -69,84 +168,24 @@ QString readGameId(const QStringList& positional)
     if (!typed || id.size() != gameIdLength)
         throw UsageError{
             u"\"%1\" is no id: an id has nine characters, letters and digits, such as BLUS30443."_s.arg(
-                positional.at(1))};
+                text)};
     return id;
 }
 
-/// Refuses options that belong to another command.
-void checkOptions(const QCommandLineParser& parser, const QString& command, const QStringList& allowed)
+QString gameIdOf(const Arguments& arguments)
 {
-    for (const QString& name : {u"json"_s, u"package"_s, u"all"_s, u"to"_s, u"overwrite"_s, u"server"_s})
-        if (parser.isSet(name) && !allowed.contains(name))
-            throw UsageError{u"--%1 does not go with \"%2\"."_s.arg(name, command)};
+    if (arguments.operands.isEmpty())
+        throw UsageError{u"\"%1\" needs the id of a title."_s.arg(arguments.command->name)};
+    if (arguments.operands.size() > 1)
+        throw UsageError{u"One id at a time; \"%1\" is too much."_s.arg(arguments.operands.at(1))};
+    return readGameId(arguments.operands.first());
 }
 
-int readServer(const QString& text)
+void refuseOperands(const Arguments& arguments)
 {
-    bool isNumber = false;
-    const int server = text.toInt(&isNumber);
-    if (!isNumber || server < 1 || server > 6)
-        throw UsageError{u"--server takes a number from 1 to 6, not \"%1\"."_s.arg(text)};
-    return server;
-}
-
-} // namespace
-
-Arguments readArguments(const QStringList& arguments)
-{
-    QCommandLineParser parser;
-    setUp(parser);
-    if (!parser.parse(arguments))
-        throw UsageError{parser.errorText()};
-    Arguments read;
-    if (parser.isSet(u"help"_s))
-        return read;
-    if (parser.isSet(u"version"_s)) {
-        read.command = Command::Version;
-        return read;
-    }
-    const QStringList positional = parser.positionalArguments();
-    if (positional.isEmpty())
-        throw UsageError{u"A command is missing: lookup, download or hosts."_s};
-    for (const QString& name : {u"root"_s, u"to"_s, u"package"_s})
-        if (parser.isSet(name) && parser.value(name).isEmpty())
-            throw UsageError{u"--%1 needs a value."_s.arg(name)};
-
-    const QString& command = positional.first();
-    if (command == u"lookup") {
-        read.command = Command::Lookup;
-        checkOptions(parser, command, {u"json"_s, u"server"_s});
-        read.gameId = readGameId(positional);
-    } else if (command == u"download") {
-        read.command = Command::Download;
-        checkOptions(parser, command, {u"package"_s, u"all"_s, u"to"_s, u"overwrite"_s, u"server"_s});
-        read.gameId = readGameId(positional);
-        if (parser.isSet(u"all"_s) && parser.isSet(u"package"_s))
-            throw UsageError{u"--all and --package exclude each other."_s};
-    } else if (command == u"hosts") {
-        read.command = Command::Hosts;
-        checkOptions(parser, command, {});
-        if (positional.size() > 1)
-            throw UsageError{u"\"hosts\" takes no id."_s};
-    } else {
-        throw UsageError{u"There is no command \"%1\"."_s.arg(command)};
-    }
-    read.json = parser.isSet(u"json"_s);
-    read.packageVersion = parser.value(u"package"_s);
-    read.all = parser.isSet(u"all"_s);
-    read.folder = parser.value(u"to"_s);
-    read.overwrite = parser.isSet(u"overwrite"_s);
-    read.root = parser.value(u"root"_s);
-    if (parser.isSet(u"server"_s))
-        read.server = readServer(parser.value(u"server"_s));
-    return read;
-}
-
-QString helpText()
-{
-    QCommandLineParser parser;
-    setUp(parser);
-    return parser.helpText();
+    if (!arguments.operands.isEmpty())
+        throw UsageError{u"\"%1\" takes no id; \"%2\" is too much."_s.arg(arguments.command->name,
+                                                                          arguments.operands.first())};
 }
 
 } // namespace varnhold::cli

@@ -1,18 +1,19 @@
 #pragma once
 
-#include "cli/ExitCode.h"
+#include "cli/Command.h"
+
+#include <vector>
 
 namespace varnhold::cli {
 
-struct Arguments;
-class Session;
-class Terminal;
+/// All commands, in the order of the help text. A new one is a function here and its row in the table.
+const std::vector<Command>& commands();
 
 /// Prints the packages of a title as a table or as JSON.
-ExitCode runLookup(const Arguments& arguments, Session& session);
+Command lookupCommand();
 /// Downloads packages of a title one after another, and compares their sums with the document's.
-ExitCode runDownload(const Arguments& arguments, Session& session);
-/// Prints which hosts are configured; starts nothing. Throws RunTimeError as Session does.
-ExitCode runHosts(const Arguments& arguments, Terminal& terminal);
+Command downloadCommand();
+/// Prints which hosts are configured; starts nothing.
+Command hostsCommand();
 
 } // namespace varnhold::cli

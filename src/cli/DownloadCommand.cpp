@@ -27,14 +27,15 @@ constexpr qsizetype longestFileName = 255; ///< bytes, on all usual file systems
 }
 
 /// Where the packages go. Throws RunTimeError with a sentence.
-QString folderFor(const Arguments& arguments, const Session& session, const QString& title)
+QString folderFor(const Arguments& arguments, const Session& session, const QString& gameId,
+                  const QString& title)
 {
     const Settings& settings = session.settings();
-    QString folder = arguments.folder;
+    QString folder = arguments.value(u"to"_s);
     if (folder.isEmpty() && settings.isChecked(Check::UseDLD)) {
         if (settings.saveDir().tag.isEmpty())
             fail(u"The settings use a download folder and name none; name one with --to."_s);
-        folder = titleFolder(settings, arguments.gameId, title);
+        folder = titleFolder(settings, gameId, title);
     }
     if (folder.isEmpty())
         folder = QDir::currentPath();
@@ -68,11 +69,11 @@ QString fileNameOf(const Package& package)
 
 QList<Package> chosen(const Arguments& arguments, const QList<Package>& packages)
 {
-    if (arguments.all)
+    if (arguments.has(u"all"_s))
         return packages;
-    if (arguments.packageVersion.isEmpty())
+    if (!arguments.has(u"package"_s))
         return packages.isEmpty() ? packages : QList{packages.last()};
-    const auto found = std::ranges::find(packages, arguments.packageVersion, &Package::version);
+    const auto found = std::ranges::find(packages, arguments.value(u"package"_s), &Package::version);
     return found == packages.end() ? QList<Package>{} : QList{*found};
 }
 
@@ -93,7 +94,7 @@ ExitCode downloadOne(const Arguments& arguments, Session& session, const Package
 {
     Terminal& terminal = session.terminal();
     const QString target = (folder.endsWith(u'/') ? folder : folder + u'/') + fileNameOf(package);
-    if (QFileInfo::exists(target) && !arguments.overwrite) {
+    if (QFileInfo::exists(target) && !arguments.has(u"overwrite"_s)) {
         const bool isFile = QFileInfo(target).isFile();
         const SumAgreement agreement = isFile ? compareSum(target, package.sha1) : SumAgreement::Neither;
         if (agreement == SumAgreement::WholeFile || agreement == SumAgreement::AllButTail)
@@ -117,12 +118,13 @@ ExitCode downloadOne(const Arguments& arguments, Session& session, const Package
                   compareSum(target, package.sha1));
 }
 
-} // namespace
-
-ExitCode runDownload(const Arguments& arguments, Session& session)
+ExitCode run(const Arguments& arguments, Terminal& terminal)
 {
-    Terminal& terminal = session.terminal();
-    const TitleUpdates updates = lookUp(session, arguments.gameId);
+    const QString gameId = gameIdOf(arguments);
+    if (arguments.has(u"all"_s) && arguments.has(u"package"_s))
+        throw UsageError{u"--all and --package exclude each other."_s};
+    Session session(arguments, terminal);
+    const TitleUpdates updates = lookUp(session, gameId);
     if (updates.outcome != TitleUpdates::Outcome::Found) {
         terminal.complain(updates.problem);
         return updates.outcome == TitleUpdates::Outcome::NoSuchTitle ? ExitCode::NoSuchTitle
@@ -130,13 +132,12 @@ ExitCode runDownload(const Arguments& arguments, Session& session)
     }
     const QList<Package> packages = chosen(arguments, updates.packages);
     if (packages.isEmpty()) {
-        terminal.complain(
-            printable(arguments.packageVersion.isEmpty()
-                          ? u"%1 has no packages."_s.arg(arguments.gameId)
-                          : u"%1 has no package %2."_s.arg(arguments.gameId, arguments.packageVersion)));
+        terminal.complain(printable(arguments.has(u"package"_s) ? u"%1 has no package %2."_s.arg(
+                                                                      gameId, arguments.value(u"package"_s))
+                                                                : u"%1 has no packages."_s.arg(gameId)));
         return ExitCode::NoSuchTitle;
     }
-    const QString folder = folderFor(arguments, session, updates.title);
+    const QString folder = folderFor(arguments, session, gameId, updates.title);
     ExitCode worst = ExitCode::Fine;
     for (const Package& package : packages) {
         ExitCode one = ExitCode::Failed;
@@ -149,6 +150,25 @@ ExitCode runDownload(const Arguments& arguments, Session& session)
             worst = one;
     }
     return worst;
+}
+
+} // namespace
+
+Command downloadCommand()
+{
+    return {
+        u"download"_s,
+        u"ID"_s,
+        u"Downloads a package: the last one listed, or as --package or --all say."_s,
+        {{u"package"_s, u"The package of this version."_s, u"version"_s},
+         {u"all"_s, u"All packages of the title."_s},
+         {u"to"_s,
+          u"Into this folder, made when it is missing. Else the download folder of the settings where that "
+          "is in use, else the current folder."_s,
+          u"folder"_s},
+         {u"overwrite"_s, u"Replace files that are there."_s},
+         serverOption()},
+        run};
 }
 
 } // namespace varnhold::cli

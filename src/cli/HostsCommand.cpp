@@ -1,8 +1,9 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
-#include "cli/Session.h"
 #include "cli/Table.h"
+#include "cli/Workspace.h"
 #include "lookup/UpdateServers.h"
+#include "state/Hosts.h"
 
 namespace varnhold::cli {
 
@@ -18,10 +19,9 @@ void addHost(Table& table, const QString& number, const QString& name, const QSt
                   host.allowsOldTls ? u"allowed"_s : u"-"_s});
 }
 
-} // namespace
-
-ExitCode runHosts(const Arguments& arguments, Terminal& terminal)
+ExitCode run(const Arguments& arguments, Terminal& terminal)
 {
+    refuseOperands(arguments);
     const QString file = pathsFor(arguments).hostsIni();
     const Hosts hosts = readHosts(file);
     if (hosts.sample) {
@@ -42,6 +42,13 @@ ExitCode runHosts(const Arguments& arguments, Terminal& terminal)
     addHost(table, {}, u"Forum"_s, u"http"_s, hosts.forum);
     terminal.print(table.text());
     return ExitCode::Fine;
+}
+
+} // namespace
+
+Command hostsCommand()
+{
+    return {u"hosts"_s, {}, u"Shows which hosts are asked."_s, {}, run};
 }
 
 } // namespace varnhold::cli

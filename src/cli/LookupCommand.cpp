@@ -51,19 +51,30 @@ void printJson(Terminal& terminal, const QString& gameId, const TitleUpdates& up
     terminal.printRaw(QJsonDocument(object).toJson());
 }
 
-} // namespace
-
-ExitCode runLookup(const Arguments& arguments, Session& session)
+ExitCode run(const Arguments& arguments, Terminal& terminal)
 {
-    const TitleUpdates updates = lookUp(session, arguments.gameId);
+    const QString gameId = gameIdOf(arguments);
+    Session session(arguments, terminal);
+    const TitleUpdates updates = lookUp(session, gameId);
     const bool found = updates.outcome == TitleUpdates::Outcome::Found;
     // Of a damaged document, what could be read is shown.
     if (found || !updates.packages.isEmpty())
-        (arguments.json ? printJson : printTable)(session.terminal(), arguments.gameId, updates);
+        (arguments.has(u"json"_s) ? printJson : printTable)(terminal, gameId, updates);
     if (found)
         return ExitCode::Fine;
-    session.terminal().complain(updates.problem);
+    terminal.complain(updates.problem);
     return updates.outcome == TitleUpdates::Outcome::NoSuchTitle ? ExitCode::NoSuchTitle : ExitCode::Failed;
+}
+
+} // namespace
+
+Command lookupCommand()
+{
+    return {u"lookup"_s,
+            u"ID"_s,
+            u"Lists the packages of a title."_s,
+            {{u"json"_s, u"Print JSON instead of a table."_s}, serverOption()},
+            run};
 }
 
 } // namespace varnhold::cli

@@ -1,61 +1,30 @@
 #include "cli/Session.h"
 
-#include "platform/RunTimeError.h"
+#include "cli/Arguments.h"
 #include "state/SampleHosts.h"
-#include "state/SettingsLoad.h"
-
-#include <QCoreApplication>
 
 namespace varnhold::cli {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// There are no windows here that a load could set up.
-class NoWindows : public SettingsLoadHost
-{
-public:
-    void showStatus(const QString&) override {}
-    void showMessage(const QString&) override {}
-    void startCertificateWatch() override {}
-    void setBarMainTop(double) override {}
-    void setBarLeftTop(double) override {}
-    void applyOpacity(OpacityOf, int) override {}
-};
-
-} // namespace
-
-Paths pathsFor(const Arguments& arguments)
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    return findPaths(arguments.root, folder, folder + u"/../share/varnhold"_s);
-}
-
 Session::Session(const Arguments& arguments, Terminal& terminal)
-    : m_terminal(terminal),
-      m_boxes(terminal),
-      m_paths(pathsFor(arguments)),
-      m_settingsFile(m_paths, m_state),
-      m_settings(m_settingsFile),
-      m_hosts(hostsInUse(m_paths.hostsIni(), m_service))
+    : Session(arguments, terminal, numberOf(arguments, u"server"_s, 1, 6, 0))
 {
-    load(m_paths);
-    if (arguments.server)
-        m_settings.unwrittenValues().server = *arguments.server;
 }
 
-void Session::load(const Paths& paths)
+Session::Session(const Arguments& arguments, Terminal& terminal, int server)
+    : m_workspace(arguments, terminal), m_hosts(hostsInUse(m_workspace.paths().hostsIni(), m_service))
 {
-    NoWindows windows;
-    const QString listUrl = u"http://"_s + m_hosts.update.authority + u"/Varnhold/ps3gameids.txt"_s;
-    try {
-        loadSettings(m_settings, m_settingsFile, m_state, paths, listUrl, windows);
-    } catch (const RunTimeError& error) {
-        // As in the program: what was read before stays in force.
-        m_terminal.complain(
-            u"Settings.ini was read only up to a value that does not fit: %1."_s.arg(error.description()));
-    }
+    if (server != 0)
+        m_workspace.settings().unwrittenValues().server = server;
+    if (m_hosts.sample)
+        terminal.complain(u"The sample service answers, with made-up titles; hosts.ini names other hosts."_s);
+}
+
+Option serverOption()
+{
+    return {u"server"_s, u"Ask this update server, 1 to 6, instead of the one in the settings."_s,
+            u"number"_s};
 }
 
 } // namespace varnhold::cli

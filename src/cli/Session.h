@@ -1,45 +1,36 @@
 #pragma once
 
-#include "cli/Arguments.h"
-#include "cli/Terminal.h"
+#include "cli/Command.h"
+#include "cli/Workspace.h"
 #include "platform/SampleServiceProcess.h"
-#include "state/ApplicationState.h"
 #include "state/Hosts.h"
-#include "state/Paths.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 
 namespace varnhold::cli {
 
-/// What a command works with: the program's folder, settings and hosts, the latter played by a sample service
-/// of its own where hosts.ini says so. The settings file is read and not written, but for a database that
-/// was found.
+/// A workspace with its hosts, for the commands that ask them: played by a sample service of its own where
+/// hosts.ini says so.
 class Session
 {
 public:
-    /// Throws RunTimeError when the folder or the hosts cannot be had.
+    /// Throws UsageError for the server, RunTimeError when the folder or the hosts cannot be had.
     Session(const Arguments& arguments, Terminal& terminal);
 
-    [[nodiscard]] Terminal& terminal() { return m_terminal; }
-    [[nodiscard]] TerminalBoxes& boxes() { return m_boxes; }
-    [[nodiscard]] ApplicationState& state() { return m_state; }
-    [[nodiscard]] const Settings& settings() const { return m_settings; }
+    [[nodiscard]] Workspace& workspace() { return m_workspace; }
+    [[nodiscard]] Terminal& terminal() { return m_workspace.terminal(); }
+    [[nodiscard]] TerminalBoxes& boxes() { return m_workspace.boxes(); }
+    [[nodiscard]] ApplicationState& state() { return m_workspace.state(); }
+    [[nodiscard]] const Settings& settings() const { return m_workspace.settings(); }
     [[nodiscard]] const Hosts& hosts() const { return m_hosts; }
 
 private:
-    void load(const Paths& paths);
+    Session(const Arguments& arguments, Terminal& terminal, int server);
 
-    Terminal& m_terminal;
-    TerminalBoxes m_boxes;
-    Paths m_paths;
-    ApplicationState m_state;
-    SettingsFile m_settingsFile;
-    Settings m_settings;
+    Workspace m_workspace;
     SampleServiceProcess m_service;
     Hosts m_hosts;
 };
 
-/// The program's folder by the arguments. Throws RunTimeError.
-Paths pathsFor(const Arguments& arguments);
+/// "--server", which a session looks at itself.
+Option serverOption();
 
 } // namespace varnhold::cli

@@ -1,6 +1,5 @@
 #include "cli/Arguments.h"
-#include "cli/Commands.h"
-#include "cli/Session.h"
+#include "cli/Command.h"
 #include "cli/Terminal.h"
 #include "platform/RunTimeError.h"
 
@@ -14,22 +13,13 @@ namespace {
 
 ExitCode run(const Arguments& arguments, Terminal& terminal)
 {
-    switch (arguments.command) {
-    case Command::Help:
-        terminal.printRaw(helpText().toUtf8());
-        return ExitCode::Fine;
-    case Command::Version:
+    if (arguments.help)
+        terminal.printRaw(helpText(arguments).toUtf8());
+    else if (arguments.version)
         terminal.print(u"varnhold-cli "_s + QCoreApplication::applicationVersion());
-        return ExitCode::Fine;
-    case Command::Hosts:
-        return runHosts(arguments, terminal);
-    case Command::Lookup:
-    case Command::Download:
-        break;
-    }
-    Session session(arguments, terminal);
-    return arguments.command == Command::Lookup ? runLookup(arguments, session)
-                                                : runDownload(arguments, session);
+    else
+        return arguments.command->run(arguments, terminal);
+    return ExitCode::Fine;
 }
 
 } // namespace

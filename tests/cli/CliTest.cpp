@@ -277,6 +277,8 @@ TEST_F(Cli, ShowsHostsAndHelp)
     const Ran help = run({u"--help"_s});
     EXPECT_EQ(help.code, 0);
     EXPECT_TRUE(help.out.contains("Exit codes:"));
+    const Ran ofCommand = run({u"hosts"_s, u"--help"_s});
+    EXPECT_TRUE(ofCommand.out.contains("--root") && !ofCommand.out.contains("--json"));
     EXPECT_EQ(run({u"--version"_s}).out, "varnhold-cli " VARNHOLD_VERSION "\n");
     root.write(u"hosts.ini"_s, "[Hosts]\r\nUse=these\r\n[Servers]\r\n1=a b\r\n");
     const Ran wrong = cli({u"hosts"_s});
@@ -293,6 +295,7 @@ TEST(CliAlone, BringsItsOwnSampleService)
         const Ran ran = run({u"lookup"_s, u"BCUS10001"_s, u"--root"_s, root.path({}), u"--server"_s,
                              QString::number(server)});
         EXPECT_EQ(ran.code, 0) << server << ran.err.constData();
+        EXPECT_TRUE(ran.err.count('\n') == 1 && ran.err.contains("sample service")) << ran.err.constData();
         EXPECT_TRUE(ran.out.startsWith("BCUS10001  Lantern Reach  [1 Update]\n")) << ran.out.constData();
     }
     // Into the current folder, where neither the settings nor --to name one.

@@ -1,0 +1,15 @@
+#include "cli/Commands.h"
+
+namespace varnhold::cli {
+
+const std::vector<Command>& commands()
+{
+    static const std::vector<Command> all = {
+        lookupCommand(),
+        downloadCommand(),
+        hostsCommand(),
+    };
+    return all;
+}
+
+} // namespace varnhold::cli
