@@ -7,6 +7,7 @@
 #include "gamedb/UpdateLinks.h"
 #include "lookup/UpdateServers.h"
 #include "platform/Shell.h"
+#include "state/HostAccess.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -52,7 +53,10 @@ Program::Program(const Paths& paths, World world)
                   {.pressYes = [this] { return m_alert.pressYes(); },
                    .caption = [this] { return m_main.caption(); },
                    .setCaption = [this](const QString& text) { m_main.setCaption(text); }}),
-      m_browser(m_autoAlert, [this](const QString& authority) { return tlsOf(authority); }),
+      m_browser(m_autoAlert, [this](const QString& authority) { return tlsOf(m_hosts, authority); }),
+      m_fetch(
+          m_pump, [this](const QString& authority) { return tlsOf(m_hosts, authority); },
+          [this](const QString& url) { return reachableUrl(m_hosts, url); }),
       m_lookup({m_state, m_settings, m_hosts, m_list, m_main, m_browser, m_sounds, m_world.boxes, m_pump}),
       m_downloads({.client = {m_world.sockets, m_files, m_clock, m_pump, m_world.boxes,
                               QCoreApplication::applicationName()},
@@ -199,15 +203,6 @@ void Program::connectSkin()
     connect(&m_menu, &frmMenu::mnuSkin_Refresh_Click, this, [this] { m_skin.mnuSkin_Refresh_Click(); });
     connect(&m_menu, &frmMenu::mnuSkin_Path_Click, this, [this] { m_skin.mnuSkin_Path_Click(); });
     connect(&m_menu, &frmMenu::mnuSkin_Click, this, [this](int index) { m_skin.mnuSkin_Click(index); });
-}
-
-HostTls Program::tlsOf(const QString& authority) const
-{
-    for (const HostEntry& entry : m_hosts.servers) {
-        if (entry.authority == authority)
-            return {entry.certificateFile, entry.allowsOldTls};
-    }
-    return {};
 }
 
 void Program::openSettings()

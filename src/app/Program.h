@@ -22,6 +22,7 @@
 #include "platform/Clock.h"
 #include "platform/MessagePump.h"
 #include "platform/NetworkBrowser.h"
+#include "platform/NetworkFetch.h"
 #include "platform/SecurityAlertWindow.h"
 #include "state/ApplicationState.h"
 #include "state/Hosts.h"
@@ -79,7 +80,6 @@ private:
     void connectMenus();
     void connectDatabase();
     void connectSkin();
-    [[nodiscard]] HostTls tlsOf(const QString& authority) const;
     void openSettings();
     void openWeb();
     void showRaw();
@@ -113,6 +113,7 @@ private:
     SecurityAlertWindow m_alert;
     AutoAlert m_autoAlert;
     NetworkBrowser m_browser;
+    NetworkFetch m_fetch; ///< files of any kind, for whoever waits for one
     Lookup m_lookup;
     DownloadWindows m_downloads;
     DownloadPlanner m_planner;

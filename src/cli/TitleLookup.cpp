@@ -8,6 +8,7 @@
 #include "platform/MessagePump.h"
 #include "platform/NetworkBrowser.h"
 #include "platform/SoundPlayer.h"
+#include "state/HostAccess.h"
 #include "state/Sounds.h"
 
 #include <cmath>
@@ -25,12 +26,6 @@ class NoSound : public SoundPlayer
 public:
     int play(const QString&) override { return 0; }
 };
-
-HostTls tlsOf(const Hosts& hosts, const QString& authority)
-{
-    const HostEntry* const entry = findHost(hosts, authority);
-    return entry == nullptr ? HostTls{} : HostTls{entry->certificateFile, entry->allowsOldTls};
-}
 
 QList<Package> packagesOf(const UpdateList& list)
 {

@@ -36,12 +36,13 @@ class FileFetch
 public:
     virtual ~FileFetch() = default;
     /// Hands on each piece of the body of an answer 200 as it arrives; false from the sink ends the fetch as
-    /// too large. Bodies of other answers are dropped.
+    /// too large, and what the sink throws ends it and comes out of here. Bodies of other answers are not
+    /// waited for. An answer that packs its body, which was not asked for, counts as broken.
     virtual FetchResult fetch(const QString& url, const FetchLimits& limits,
                               const std::function<bool(QByteArrayView)>& sink) = 0;
     /// Head only: asks plainly, reads the answer's head and drops the connection.
     virtual FetchResult head(const QString& url, const FetchLimits& limits) = 0;
-    /// Ends what is under way, as a time-out; nothing otherwise.
+    /// Ends all that is under way, as a time-out; nothing otherwise. The program's end does the same.
     virtual void cancel() = 0;
 };
 

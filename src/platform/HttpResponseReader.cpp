@@ -98,8 +98,6 @@ void HttpResponseReader::parseHead()
             m_state = State::Broken;
         else if (m_length == 0)
             m_state = State::Complete;
-        else
-            m_body.reserve(m_length);
     }
 }
 
@@ -107,8 +105,8 @@ void HttpResponseReader::takeBodyBytes(QByteArrayView bytes)
 {
     switch (m_framing) {
     case Framing::Length:
-        append(bytes.first(std::min(bytes.size(), m_length - m_body.size())));
-        if (m_body.size() == m_length)
+        append(bytes.first(std::min(bytes.size(), m_length - m_received)));
+        if (m_received == m_length)
             m_state = State::Complete;
         break;
     case Framing::UntilClose:
@@ -171,10 +169,12 @@ void HttpResponseReader::takeChunkLine()
 
 void HttpResponseReader::append(QByteArrayView bytes)
 {
-    if (m_body.size() + bytes.size() > m_largestBody)
+    if (m_received + bytes.size() > m_largestBody) {
         m_state = State::Broken;
-    else
-        m_body.append(bytes);
+        return;
+    }
+    m_received += bytes.size();
+    m_body.append(bytes);
 }
 
 } // namespace varnhold

@@ -9,7 +9,7 @@
 namespace varnhold {
 
 /// Reads one HTTP/1.x answer from bytes as they come, however they are cut. Everything is bounded: the head
-/// to 64 KiB, the body to what the caller allows.
+/// to 64 KiB, the body to what the caller allows. The body can be taken piece by piece while it comes.
 class HttpResponseReader
 {
 public:
@@ -32,7 +32,8 @@ public:
     [[nodiscard]] QByteArray header(QByteArrayView name) const;
     /// Bytes of the body as its length was told; -1 when it was not.
     [[nodiscard]] qint64 bodyLength() const { return m_length; }
-    [[nodiscard]] qint64 bodyReceived() const { return m_body.size(); }
+    [[nodiscard]] qint64 bodyReceived() const { return m_received; }
+    /// What has come of the body and was not taken yet.
     [[nodiscard]] QByteArray takeBody() { return std::exchange(m_body, {}); }
 
 private:
@@ -52,6 +53,7 @@ private:
     qint64 m_largestBody;
     int m_status = 0;
     qint64 m_length = -1;
+    qint64 m_received = 0;
     qint64 m_chunkLeft = 0;
     QByteArray m_pending; ///< the head, or a line between chunks, as far as it has come
     std::vector<std::pair<QByteArray, QByteArray>> m_headers;

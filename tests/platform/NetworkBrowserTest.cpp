@@ -36,7 +36,7 @@ protected:
         make();
     }
 
-    void make(const BrowserLimits& limits = {})
+    void make(const HttpWalkLimits& limits = {})
     {
         browser = std::make_unique<NetworkBrowser>(
             alert, [this](const QString& authority) { return tls(authority); }, nullptr, limits);
