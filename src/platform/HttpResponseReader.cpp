@@ -10,6 +10,10 @@ namespace {
 
 constexpr qsizetype longestHead = 64 * 1024;
 constexpr qsizetype longestChunkLine = 4096;
+// What may stand between the bytes of a body in chunks: so much for each of them, which is room for chunks of
+// a single byte, and so much besides.
+constexpr qint64 framingPerByte = 16;
+constexpr qint64 framingBesides = 64 * 1024;
 
 /// Digits alone; -1 for anything else and for what does not fit.
 qint64 wholeNumber(QByteArrayView text, int base)
@@ -54,14 +58,15 @@ QByteArrayView HttpResponseReader::takeHead(QByteArrayView bytes)
 {
     // The end may have begun in the bytes before: up to three of its four.
     const qsizetype known = m_pending.size();
-    m_pending.append(bytes.first(std::min(bytes.size(), longestHead - known + 1)));
+    m_pending.append(bytes.first(std::min(bytes.size(), longestHead - m_headBytes - known + 1)));
     const qsizetype end = m_pending.indexOf("\r\n\r\n", std::max<qsizetype>(known - 3, 0));
     if (end < 0) {
-        if (m_pending.size() > longestHead)
+        if (m_headBytes + m_pending.size() > longestHead)
             m_state = State::Broken;
         return {};
     }
     const qsizetype headLength = end + 4;
+    m_headBytes += headLength;
     m_pending.truncate(end);
     parseHead();
     m_pending.clear();
@@ -134,11 +139,18 @@ void HttpResponseReader::takeChunks(QByteArrayView bytes)
         const qsizetype taken = feed < 0 ? bytes.size() : feed + 1;
         m_pending.append(bytes.first(taken));
         bytes = bytes.sliced(taken);
-        if (m_pending.size() > longestChunkLine)
+        m_framingBytes += taken;
+        if (m_pending.size() > longestChunkLine || m_framingBytes > framingLimit())
             m_state = State::Broken;
         else if (feed >= 0)
             takeChunkLine();
     }
+}
+
+/// A trailer brings no bytes of the body, and gets what is allowed besides.
+qint64 HttpResponseReader::framingLimit() const
+{
+    return framingBesides + (m_part == Part::Trailer ? 0 : framingPerByte * bodyReceived());
 }
 
 void HttpResponseReader::takeChunkLine()
@@ -151,6 +163,8 @@ void HttpResponseReader::takeChunkLine()
             m_state = State::Broken;
         else
             m_part = m_chunkLeft == 0 ? Part::Trailer : Part::ChunkData;
+        if (m_part == Part::Trailer)
+            m_framingBytes = 0;
         break;
     case Part::ChunkEnd:
         if (line.isEmpty())

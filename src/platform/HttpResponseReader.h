@@ -9,7 +9,8 @@
 namespace varnhold {
 
 /// Reads one HTTP/1.x answer from bytes as they come, however they are cut. Everything is bounded: the head
-/// to 64 KiB, the body to what the caller allows. The body can be taken piece by piece while it comes.
+/// to 64 KiB, interim answers before it included; the body to what the caller allows; what stands between and
+/// behind its chunks. The body can be taken piece by piece while it comes.
 class HttpResponseReader
 {
 public:
@@ -44,6 +45,7 @@ private:
     void parseHead();
     void takeBodyBytes(QByteArrayView bytes);
     void takeChunks(QByteArrayView bytes);
+    [[nodiscard]] qint64 framingLimit() const;
     void takeChunkLine();
     void append(QByteArrayView bytes);
 
@@ -55,7 +57,9 @@ private:
     qint64 m_length = -1;
     qint64 m_received = 0;
     qint64 m_chunkLeft = 0;
-    QByteArray m_pending; ///< the head, or a line between chunks, as far as it has come
+    qint64 m_headBytes = 0;    ///< of heads that are whole
+    qint64 m_framingBytes = 0; ///< of the lines between chunks, or of the trailer
+    QByteArray m_pending;      ///< the head, or a line between chunks, as far as it has come
     std::vector<std::pair<QByteArray, QByteArray>> m_headers;
     QByteArray m_body;
 };

@@ -57,6 +57,19 @@ const Case cases[] = {
      ""},
     {"body over the limit", "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(101, 'x'), State::Broken, State::Broken,
      ""},
+    {"endless interim answers", QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(3000), State::Broken,
+     State::Broken, ""},
+    {"endless trailer",
+     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n" + QByteArray("A: b\r\n").repeated(12000),
+     State::Broken, State::Broken, ""},
+    {"chunks that are mostly extensions",
+     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" +
+         ("1;" + QByteArray(4000, 'e') + "\r\nx\r\n").repeated(20),
+     State::Broken, State::Broken, ""},
+    {"chunks of one byte",
+     "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + QByteArray("1\r\nx\r\n").repeated(100) +
+         "0\r\n\r\n",
+     State::Complete, State::Complete, QByteArray(100, 'x')},
     {"endless line", "HTTP/1.1 200 OK\r\nA: " + QByteArray(70000, 'x'), State::Broken, State::Broken, ""},
 };
 
