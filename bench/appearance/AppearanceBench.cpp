@@ -104,7 +104,7 @@ void applySkin(benchmark::State& state)
     QCoreApplication::processEvents();
     int turn = 0;
     for (auto _ : state) {
-        Q_EMIT program.menus().mnuSkin_Click(1 + turn++ % 3);
+        program.commands().run(QStringLiteral("mnuSkin(%1)").arg(1 + turn++ % 3));
         QCoreApplication::processEvents();
         program.mainWindow().repaint();
         program.settingsWindow().repaint();

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "app/Program.h"
+#include "platform/QtClipboard.h"
+#include "platform/QtColorDialog.h"
 #include "platform/QtFileDialogs.h"
+#include "platform/QtFontDialog.h"
 #include "platform/QtMessageBoxes.h"
 #include "platform/QtScreen.h"
 #include "platform/QtShell.h"
@@ -24,10 +27,13 @@ public:
     };
 
     /// Refers to this object, which must outlive the program.
-    [[nodiscard]] Program::World world(Instance instance, std::function<Hosts()> findHosts)
+    [[nodiscard]] World world(Instance instance, std::function<Hosts()> findHosts)
     {
         return {.boxes = m_boxes,
                 .dialogs = m_dialogs,
+                .colors = m_colors,
+                .fonts = m_fonts,
+                .clipboard = m_clipboard,
                 .shell = m_shell,
                 .player = m_player,
                 .sockets = m_sockets,
@@ -38,7 +44,7 @@ public:
                 .endProcess = [] { std::_Exit(0); }};
     }
     /// Of the only program on the desktop, without hosts.
-    [[nodiscard]] Program::World lonelyWorld()
+    [[nodiscard]] World lonelyWorld()
     {
         return world({[] { return true; }, [] { return false; }}, [] { return Hosts(); });
     }
@@ -46,6 +52,9 @@ public:
 private:
     QtMessageBoxes m_boxes;
     QtFileDialogs m_dialogs;
+    QtColorDialog m_colors;
+    QtFontDialog m_fonts;
+    QtClipboard m_clipboard;
     QtShell m_shell;
     SdlSoundPlayer m_player;
     TcpSocketMaker m_sockets;

@@ -9,7 +9,11 @@
 #include "lookup/UpdateList.h"
 #include "state/ErrorReport.h"
 
+#include <QAction>
+
 namespace varnhold {
+
+using namespace Qt::StringLiterals;
 
 void GameListOnWindows::showBusy(bool busy)
 {
@@ -68,12 +72,12 @@ void GameListOnWindows::selectGame(int row)
 
 void GameListOnWindows::checkIconsEntry(bool checked)
 {
-    m_windows.menu.checkIconsEntry(checked);
+    m_windows.menu.entry(u"mnuLBIcons"_s).setChecked(checked);
 }
 
 bool GameListOnWindows::iconsEntryChecked() const
 {
-    return m_windows.menu.iconsEntryChecked();
+    return m_windows.menu.entry(u"mnuLBIcons"_s).isChecked();
 }
 
 void GameListOnWindows::setShowItemImages(bool show)

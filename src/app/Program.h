@@ -1,29 +1,21 @@
 #pragma once
 
-#include "app/DownloadWindows.h"
-#include "app/GameListOnWindows.h"
-#include "app/SkinnedWindows.h"
+#include "app/AppearanceOwner.h"
+#include "app/CoverOwner.h"
+#include "app/DatabaseOwner.h"
+#include "app/DownloadOwner.h"
+#include "app/LookupOwner.h"
+#include "app/World.h"
 #include "app/main/frmMain.h"
+#include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
 #include "app/settings/frmSettings.h"
-#include "app/start/AutoAlert.h"
 #include "app/start/ExitPath.h"
 #include "app/start/StartUp.h"
-#include "appearance/Skin.h"
 #include "appearance/SkinPage.h"
-#include "appearance/TransForm.h"
-#include "covers/CoverCommands.h"
-#include "download/DiskFiles.h"
-#include "download/DownloadPlanner.h"
-#include "gamedb/GameList.h"
-#include "gamedb/SharedDatabase.h"
-#include "lookup/Lookup.h"
 #include "lookup/UpdateList.h"
-#include "platform/Clock.h"
 #include "platform/MessagePump.h"
-#include "platform/NetworkBrowser.h"
 #include "platform/NetworkFetch.h"
-#include "platform/SecurityAlertWindow.h"
 #include "state/ApplicationState.h"
 #include "state/Hosts.h"
 #include "state/Paths.h"
@@ -35,34 +27,17 @@
 
 namespace varnhold {
 
-class FileDialogs;
-class MessageBoxes;
-class Screen;
-class Shell;
-class SocketMaker;
-class SoundPlayer;
-
-/// The whole program, put together: the one place that knows all windows and hands each what it needs.
+/// The whole program, put together: ground, windows that stay, and one owner for each subsystem.
+///
+/// A new window comes with its subsystem's owner, or brings one: a class beside this one that is made from
+/// `Common` and the owners that it leans on, holds the window, connects what it hears and binds its menu
+/// entries under their names. Here that is one include, one member and one line in the constructor. A page of
+/// the settings window is added by its owner, too.
 class Program : public QObject, private ExitHost
 {
     Q_OBJECT
 
 public:
-    /// The world outside; a test gives it what it likes.
-    struct World
-    {
-        MessageBoxes& boxes;
-        FileDialogs& dialogs;
-        Shell& shell;
-        SoundPlayer& player;
-        SocketMaker& sockets;
-        const Screen& screen;
-        std::function<bool()> isFirst;
-        std::function<bool()> activatePrevious;
-        std::function<Hosts()> findHosts;
-        std::function<void()> endProcess; ///< at once, exit code 0
-    };
-
     Program(const Paths& paths, World world);
     ~Program() override;
 
@@ -74,15 +49,11 @@ public:
     [[nodiscard]] frmMain& mainWindow() { return m_main; }
     [[nodiscard]] frmSettings& settingsWindow() { return m_settingsWindow; }
     [[nodiscard]] frmMenu& menus() { return m_menu; }
+    [[nodiscard]] MenuCommands& commands() { return m_commands; }
 
 private:
     void connectMainWindow();
-    void connectMenus();
-    void connectDatabase();
-    void connectSkin();
     void openSettings();
-    void openWeb();
-    void showRaw();
 
     void enableExitButton() override;
     void setFadeOpacity(int value) override;
@@ -98,28 +69,20 @@ private:
     Settings m_settings;
     Sounds m_sounds;
     EventLoopPump m_pump;
-    MonotonicClock m_clock;
-    DiskFiles m_files;
     UpdateList m_list;
     std::unique_ptr<frmSplash> m_splash; ///< before the windows, so that it is up while they are built
     SkinPage m_skinPage;
+    NetworkFetch m_fetch; ///< files of any kind, for whoever waits for one
+    MenuCommands m_commands;
     frmMenu m_menu;
     frmMain m_main;
-    CoverCommands m_covers;
     frmSettings m_settingsWindow;
-    SkinnedWindows m_skinnedWindows;
-    clsTransForm m_transForm;
-    Skin m_skin;
-    SecurityAlertWindow m_alert;
-    AutoAlert m_autoAlert;
-    NetworkBrowser m_browser;
-    NetworkFetch m_fetch; ///< files of any kind, for whoever waits for one
-    Lookup m_lookup;
-    DownloadWindows m_downloads;
-    DownloadPlanner m_planner;
-    SharedDatabase m_database;
-    GameListOnWindows m_gameListView;
-    GameList m_gameList;
+    Common m_common;
+    AppearanceOwner m_appearance;
+    LookupOwner m_lookups;
+    DownloadOwner m_downloads;
+    DatabaseOwner m_database;
+    CoverOwner m_covers;
     StartUp m_startUp;
     ExitPath m_exitPath;
 };

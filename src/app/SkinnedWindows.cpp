@@ -67,7 +67,10 @@ void SkinnedWindows::takeColors(const SkinPage& page)
 
 void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
 {
-    m_menu.fill_mnuSkin(catalogue);
+    QStringList captions;
+    for (const SkinCatalogue::Entry& skin : catalogue.entries())
+        captions << skin.caption;
+    m_menu.fill("mnuSkin", captions);
 }
 
 void SkinnedWindows::askForSkinFolder()

@@ -86,6 +86,9 @@ public:
     void mnuSkin_Path_Click();
     void mnuSkin_Refresh_Click();
 
+    /// Gives each action of the window frmMenu its glyph, by its name.
+    void attachMenuGlyphs();
+
     [[nodiscard]] const SkinCatalogue& catalogue() const { return m_catalogue; }
 
 private:
@@ -95,7 +98,6 @@ private:
     void applyTargets(std::span<const SkinTarget> targets, SkinPictures& pictures);
     void applyBlank(SkinPictures& pictures);
     void loadGlyphs(SkinPictures& pictures);
-    void attachMenuGlyphs();
     void buildCatalogue();
     [[nodiscard]] QWidget* control(const char* window, const char* name) const;
     void pumpEvents();

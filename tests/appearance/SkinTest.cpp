@@ -1,4 +1,5 @@
 #include "app/SkinnedWindows.h"
+#include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
 #include "app/settings/frmSettings.h"
 #include "app/start/frmSplash.h"
@@ -67,7 +68,8 @@ protected:
     FakeFileDialogs dialogs;
     FakePump pump;
     SkinPage page;
-    frmMenu menu{sounds};
+    MenuCommands commands;
+    frmMenu menu{commands, sounds};
     frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
     frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), page}};
     std::unique_ptr<frmSplash> splash = std::make_unique<frmSplash>();
@@ -112,11 +114,8 @@ TEST(SkinTargets, GiveThreeButtonsTheHoverFaceWithTheFocus)
 
 TEST_F(SkinTest, PutsItsFileOnEachControl)
 {
-    QMenu covers;
-    covers.setObjectName("mnuCovers"_L1);
-    covers.menuAction()->setParent(&menu);
     ASSERT_TRUE(skin.ApplySkin());
-    EXPECT_FALSE(covers.icon().isNull()) << "a submenu goes by its own name";
+    EXPECT_FALSE(menu.findChild<QMenu*>("mnuCovers"_L1)->icon().isNull()) << "a submenu goes by its own name";
     SkinPictures pictures(root.path(u"skin/default"_s));
     int dressed = 0;
     for (const auto& targets : {normalTargets(), mainTargets(), settingsTargets()}) {

@@ -3,7 +3,10 @@
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "platform/TcpSocket.h"
+#include "support/FakeClipboard.h"
+#include "support/FakeColorDialog.h"
 #include "support/FakeFileDialogs.h"
+#include "support/FakeFontDialog.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/FakeScreen.h"
 #include "support/FakeShell.h"
@@ -45,16 +48,19 @@ protected:
         root.write(u"Settings.ini"_s, "[Settings]\r\nClick Sounds=0\r\nFade Out=0\r\nSaveDir Path=" +
                                           root.path(u"dl"_s).toUtf8() + "\r\n" + keys);
         root.makeFolder(u"dl"_s);
-        program.emplace(root.paths(), Program::World{.boxes = boxes,
-                                                     .dialogs = dialogs,
-                                                     .shell = shell,
-                                                     .player = player,
-                                                     .sockets = sockets,
-                                                     .screen = screen,
-                                                     .isFirst = [] { return true; },
-                                                     .activatePrevious = [] { return false; },
-                                                     .findHosts = [this] { return hosts(); },
-                                                     .endProcess = [this] { ended = true; }});
+        program.emplace(root.paths(), World{.boxes = boxes,
+                                            .dialogs = dialogs,
+                                            .colors = colors,
+                                            .fonts = fonts,
+                                            .clipboard = clipboard,
+                                            .shell = shell,
+                                            .player = player,
+                                            .sockets = sockets,
+                                            .screen = screen,
+                                            .isFirst = [] { return true; },
+                                            .activatePrevious = [] { return false; },
+                                            .findHosts = [this] { return hosts(); },
+                                            .endProcess = [this] { ended = true; }});
         ASSERT_TRUE(program->start());
     }
     [[nodiscard]] Hosts hosts() const
@@ -101,6 +107,9 @@ protected:
     TestDatabase database{root.path(u"GameDB.mdb"_s)};
     FakeMessageBoxes boxes;
     FakeFileDialogs dialogs;
+    FakeColorDialog colors;
+    FakeFontDialog fonts;
+    FakeClipboard clipboard;
     FakeShell shell;
     FakeSoundPlayer player;
     TcpSocketMaker sockets;
@@ -163,7 +172,7 @@ TEST_F(Journey, EndsWhileALookupWaitsAndADownloadRuns)
     service.misbehave(u"*BLES00256*"_s, u"slow-drip:1"_s);
     auto& view = control<UpdateListView>("ListView1");
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, rowCentre(4));
-    program->menus().mnuDLoad_Click();
+    program->commands().run(u"mnuDLoad"_s);
     ASSERT_EQ(downloadWindows(), 1);
 
     boxes.expect(u"Are you sure you want to exit?"_s, u"Exit?"_s, BoxAnswer::No);
@@ -194,9 +203,9 @@ TEST_F(Journey, ShowsTheRawDocumentAndOpensItInTheBrowser)
 {
     start("Exit=0\r\n");
     lookUp(u"BLUS30443"_s);
-    program->menus().mnuRaw_Click();
+    program->commands().run(u"mnuRaw"_s);
     EXPECT_TRUE(window().showsPage());
-    program->menus().mnuWebOpen_Click();
+    program->commands().run(u"mnuWebOpen"_s);
     EXPECT_EQ(shell.opened, QStringList{u"https://"_s + service.httpsAuthority() +
                                         u"/tpl/np/BLUS30443/BLUS30443-ver.xml"_s});
     EXPECT_FALSE(ended);
@@ -249,9 +258,9 @@ TEST_F(Journey, ReloadsAndClearsFromTheFootAndTheMenu)
     EXPECT_EQ(window().games().ListCount(), 2);
 
     EXPECT_TRUE(window().games().ShowItemImages());
-    program->menus().mnuLBIcons_Click();
+    program->commands().run(u"mnuLBIcons"_s);
     EXPECT_FALSE(window().games().ShowItemImages());
-    EXPECT_FALSE(program->menus().iconsEntryChecked());
+    EXPECT_FALSE(program->menus().entry(u"mnuLBIcons"_s).isChecked());
     EXPECT_TRUE(program->settingsWindow().findChild<QCheckBox*>(u"chk_Icons"_s)->isChecked());
 }
 

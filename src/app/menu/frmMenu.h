@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QWidget>
 
-#include <vector>
+#include <functional>
 
 class QAction;
 class QLabel;
@@ -10,60 +11,41 @@ class QMenu;
 
 namespace varnhold {
 
-class SkinCatalogue;
+class MenuCommands;
 class Sounds;
 
-/// Owner of every popup menu; never shown itself.
+/// Owner of every popup menu, built from the menu tree; never shown itself.
 class frmMenu : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit frmMenu(Sounds& sounds);
+    frmMenu(const MenuCommands& commands, Sounds& sounds);
 
-    /// These play the menu sound first.
-    void popUp_mnuMenu(const QPoint& globalPosition);
-    void popUp_mnuLBox(const QPoint& globalPosition);
-    void popUp_mnuImage(const QPoint& globalPosition);
-    void popUp_mnuLView(const QPoint& globalPosition); ///< without a sound
+    enum class WithSound { No, Menu };
+    /// Opens a popup by its name ("mnuLView").
+    void popUp(const char* name, const QPoint& globalPosition, WithSound sound = WithSound::No);
 
-    void popUp_mnuSkins(const QPoint& globalPosition); ///< without a sound
-    /// The entries mnuSkin(1) and on.
-    void fill_mnuSkin(const SkinCatalogue& catalogue);
-    /// The check mark of mnuLBIcons; choosing the entry leaves it as it is.
-    [[nodiscard]] bool iconsEntryChecked() const;
-    void checkIconsEntry(bool checked);
+    /// An entry, submenu or separator by its name, index included ("mnuSkin(2)"): to show, hide or check it.
+    [[nodiscard]] QAction& entry(const QString& name) const;
+    /// Entries 1 and on of an array, behind its hidden entry 0. A "&" in a caption shows as it stands.
+    void fill(const char* array, const QStringList& captions);
+    /// Gives all entries the skin's glyphs anew; runs after entries change.
+    void menu_ImgCheck();
+    void setGlyphs(std::function<void()> attach) { m_attachGlyphs = std::move(attach); }
+
     [[nodiscard]] const QLabel& imgBlank() const { return *m_imgBlank; }
 
-Q_SIGNALS:
-    void mnuSettings_Click();
-    void mnuWebOpen_Click();
-    void mnuRaw_Click();
-    void mnuExit_Click();
-    void mnuLBIcons_Click();
-    void mnuDLoad_Click();
-    void mnuImageView_Click();
-    void mnuImageExplore_Click();
-    void mnuImageOpen_Click();
-    void mnuSkinDL_Click();
-    void mnuSkin_Refresh_Click();
-    void mnuSkin_Path_Click();
-    void mnuSkin_Click(int index); ///< from 1
-
 private:
-    QMenu* addMenu(const char* name);
-    void addEntry(QMenu& menu, const char* name, const QString& caption, void (frmMenu::*signal)());
-    void popUp(QMenu& menu, const QPoint& globalPosition);
+    void build();
+    void prepare(QAction& entry, const QString& name);
 
+    const MenuCommands& m_commands;
     Sounds& m_sounds;
-    QMenu* m_mnuMenu;
-    QMenu* m_mnuLBox;
-    QMenu* m_mnuLView;
-    QMenu* m_mnuSkins;
-    QMenu* m_mnuImage;
-    QAction* m_mnuLBIcons;
+    QHash<QString, QMenu*> m_menus;
+    QHash<QString, QAction*> m_entries;
+    std::function<void()> m_attachGlyphs;
     QLabel* m_imgBlank; ///< picture of a title without a cover
-    std::vector<QAction*> m_skinEntries;
 };
 
 } // namespace varnhold

@@ -3,6 +3,7 @@
 #include "StartUpWorld.h"
 
 #include "app/GameListOnWindows.h"
+#include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "gamedb/ChooseDatabase.h"
@@ -10,6 +11,7 @@
 #include "gamedb/SharedDatabase.h"
 #include "support/TestDatabase.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -59,7 +61,8 @@ protected:
         EXPECT_EQ(ids(), QStringList());
     }
 
-    frmMenu menu{sounds};
+    MenuCommands commands;
+    frmMenu menu{commands, sounds};
     SharedDatabase database{settings, boxes};
     GameListOnWindows view{{main, menu, settingsWindow, list, splash}};
     GameList games{{database, state, settings, view, sounds, boxes}};
@@ -76,7 +79,7 @@ TEST_F(StartWithDatabase, ShowsTheGamesOfTheDefaultDatabase)
     EXPECT_EQ(ids(), (QStringList{u"BLUS30443 Ashgrove Circuit"_s, u"BLES00256 Brine & Lantern"_s,
                                   u"NPEB00001 Ember Coast"_s}));
     EXPECT_EQ(child<QLabel>(main, "lblBlank").text(), u"List Count: 3"_s);
-    EXPECT_TRUE(menu.iconsEntryChecked());
+    EXPECT_TRUE(menu.entry(u"mnuLBIcons"_s).isChecked());
     EXPECT_TRUE(main.games().ShowItemImages());
     EXPECT_EQ(main.games().ImageIndex(2), 5);
     EXPECT_EQ(splashMessage, u"Found Default Database\nGameDB.mdb"_s);

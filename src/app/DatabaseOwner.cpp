@@ -1,0 +1,34 @@
+#include "app/DatabaseOwner.h"
+
+#include "app/main/frmMain.h"
+#include "app/menu/MenuCommands.h"
+#include "app/settings/frmSettings.h"
+#include "gamedb/ChooseDatabase.h"
+#include "gamedb/EntryDetails.h"
+#include "gamedb/UpdateLinks.h"
+#include "lookup/Lookup.h"
+#include "platform/Shell.h"
+
+namespace varnhold {
+
+DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup)
+    : m_database(common.settings, common.world.boxes),
+      m_view({common.main, common.menu, common.settingsWindow, common.list, common.splash}),
+      m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
+{
+    frmMain& main = common.main;
+    const auto loadEntry = [this, common] { loadGameDetails(m_database, common.settings, common.main); };
+    main.setEntryLoader(loadEntry);
+    lookup.setEntryLoader(loadEntry);
+    lookup.setLinkSaver([this, common] { saveUpdateLinks(m_database, common.list, common.main); });
+    connect(&main, &frmMain::linkActivated, this,
+            [common](const QString& link) { common.world.shell.open(link); });
+    connect(&main, &frmMain::refreshRequested, this, [this] { m_gameList.CmdRefresh_Click(); });
+    connect(&main, &frmMain::clearRequested, this, [this] { m_gameList.cmdClear_Click(); });
+    connect(&common.settingsWindow, &frmSettings::btnOpen_Click, this, [this, common] {
+        btnOpen_Click(common.settings, common.world.dialogs, common.sounds, common.world.boxes, m_gameList);
+    });
+    common.commands.bind("mnuLBIcons", [this] { m_gameList.mnuLBIcons_Click(); });
+}
+
+} // namespace varnhold

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/Common.h"
+#include "app/GameListOnWindows.h"
+#include "gamedb/GameList.h"
+#include "gamedb/SharedDatabase.h"
+
+#include <QObject>
+
+namespace varnhold {
+
+class Lookup;
+
+/// The game database: the list of games, the chosen entry, and the choice of another file.
+class DatabaseOwner : public QObject
+{
+    Q_OBJECT
+
+public:
+    DatabaseOwner(const Common& common, Lookup& lookup);
+
+    [[nodiscard]] GameList& gameList() { return m_gameList; }
+
+private:
+    SharedDatabase m_database;
+    GameListOnWindows m_view;
+    GameList m_gameList;
+};
+
+} // namespace varnhold
