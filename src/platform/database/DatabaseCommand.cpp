@@ -24,8 +24,8 @@ int DatabaseCommand::Execute()
     const RowSnapshot rows(file, table, statement);
     for (std::size_t i = 0; i < rows.count(); ++i) {
         EngineStatement remove =
-            file.statement("DELETE FROM " + table->quoted + " WHERE " + table->rowId + " = ?1");
-        remove.bindInteger(1, rows.rowId(i));
+            file.statement("DELETE FROM " + table->quoted + " WHERE " + table->rows.condition(1));
+        table->rows.bind(remove, 1, rows.number(i));
         remove.step();
     }
     transaction.commit();

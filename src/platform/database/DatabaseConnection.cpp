@@ -32,7 +32,7 @@ QString dataSource(const QString& connectionString)
 
 } // namespace
 
-DatabaseConnection::DatabaseConnection() = default;
+DatabaseConnection::DatabaseConnection(DatabaseWatch* watch) : m_watch(watch) {}
 
 DatabaseConnection::~DatabaseConnection()
 {
@@ -44,7 +44,7 @@ void DatabaseConnection::Open(const QString& connectionString)
 {
     if (isOpen())
         throw databaseError(errors::database::objectOpen);
-    m_file = std::make_shared<DatabaseFile>(dataSource(connectionString));
+    m_file = std::make_shared<DatabaseFile>(dataSource(connectionString), m_watch);
 }
 
 void DatabaseConnection::Close()

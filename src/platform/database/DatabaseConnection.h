@@ -7,14 +7,17 @@
 namespace varnhold {
 
 class DatabaseFile;
+class DatabaseWatch;
 
 /// One open database file. Never made by this program: a file that is absent, empty or no database is
 /// refused, and left as it is. Every write is on its own and outlives a kill of the process; while files are
-/// open a write-ahead log may stand beside them, and closing leaves a single file that can be copied.
+/// open a write-ahead log may stand beside them, and closing leaves a single file that can be copied; a file
+/// whose owner keeps it with such a log stays so. A statement that works for seconds without a row fails.
 class DatabaseConnection
 {
 public:
-    DatabaseConnection();
+    /// `watch`, which may be null, is there as long as the connection.
+    explicit DatabaseConnection(DatabaseWatch* watch = nullptr);
     ~DatabaseConnection();
     DatabaseConnection(const DatabaseConnection&) = delete;
     DatabaseConnection& operator=(const DatabaseConnection&) = delete;
@@ -31,6 +34,7 @@ public:
     [[nodiscard]] const std::shared_ptr<DatabaseFile>& file() const;
 
 private:
+    DatabaseWatch* m_watch;
     std::shared_ptr<DatabaseFile> m_file;
 };
 

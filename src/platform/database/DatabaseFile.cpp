@@ -18,6 +18,8 @@ namespace {
 
 /// How long another program's lock is waited for: the windows stand still meanwhile.
 constexpr int patienceMilliseconds = 250;
+/// Bytes of the longest value that the engine makes or reads; a stored picture may well have 200 million.
+constexpr int longestValue = 256 * 1024 * 1024;
 
 /// Bytes 18 and 19 of a file that wants a write-ahead log both to be written and to be read.
 bool wantsWriteAheadLog(const QString& path)
@@ -41,7 +43,7 @@ void DatabaseFile::EngineCloser::operator()(sqlite3* engine) const
     sqlite3_close(engine);
 }
 
-DatabaseFile::DatabaseFile(const QString& path)
+DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patience(watch)
 {
     // A folder, a pipe or an empty file are no databases, though the engine would take the last for one.
     const QFileInfo info(path);
@@ -67,6 +69,7 @@ DatabaseFile::DatabaseFile(const QString& path)
     default:
         throw databaseError(errors::database::cannotOpen, path);
     }
+    m_patience.watchOver(m_engine.get());
     m_readOnly = sqlite3_db_readonly(m_engine.get(), "main") != 0;
 }
 
@@ -101,6 +104,7 @@ void DatabaseFile::configure(sqlite3* engine)
     sqlite3_extended_result_codes(engine, 1);
     sqlite3_busy_timeout(engine, patienceMilliseconds);
     // The file comes from anywhere.
+    sqlite3_limit(engine, SQLITE_LIMIT_LENGTH, longestValue);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(engine, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
 }
@@ -122,7 +126,7 @@ void DatabaseFile::close() noexcept
     m_tables.clear();
     // Back to a single file that says so of itself: a copy on a medium that cannot be written can be read.
     // While another program reads, its own close folds the log in.
-    if (m_writeAhead && runOnce(m_engine.get(), "PRAGMA journal_mode = DELETE") != SQLITE_OK)
+    if (m_goesBehind && runOnce(m_engine.get(), "PRAGMA journal_mode = DELETE") != SQLITE_OK)
         sqlite3_wal_checkpoint_v2(m_engine.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
     m_engine.reset();
 }
@@ -131,14 +135,14 @@ EngineStatement DatabaseFile::statement(const QByteArray& sql)
 {
     const auto found = m_statements.find(sql);
     if (found != m_statements.end())
-        return EngineStatement(found->second.get());
+        return EngineStatement(found->second.get(), m_patience);
     sqlite3_stmt* prepared = nullptr;
     const int result = sqlite3_prepare_v3(m_engine.get(), sql.constData(), static_cast<int>(sql.size()),
                                           SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
     if (result != SQLITE_OK)
         fail(result);
     m_statements.emplace(sql, PreparedStatement(prepared, &sqlite3_finalize));
-    return EngineStatement(prepared);
+    return EngineStatement(prepared, m_patience);
 }
 
 void DatabaseFile::fail(int result) const
@@ -164,14 +168,22 @@ void DatabaseFile::useWriteAheadLog()
     // the file's own journal, which loses nothing either.
     sqlite3_busy_timeout(m_engine.get(), 0);
     try {
-        EngineStatement mode = statement("PRAGMA journal_mode = WAL");
-        m_writeAhead = mode.step() && mode.text(0) == QByteArrayView("wal");
+        // A file whose owner keeps it so stays so.
+        m_writeAhead = isWriteAhead("PRAGMA journal_mode");
+        if (!m_writeAhead)
+            m_writeAhead = m_goesBehind = isWriteAhead("PRAGMA journal_mode = WAL");
     } catch (const RunTimeError&) {
         m_writeAhead = false;
     }
     sqlite3_busy_timeout(m_engine.get(), patienceMilliseconds);
     if (m_writeAhead)
         execute("PRAGMA synchronous = NORMAL");
+}
+
+bool DatabaseFile::isWriteAhead(const QByteArray& pragma)
+{
+    EngineStatement mode = statement(pragma);
+    return mode.step() && mode.text(0) == QByteArrayView("wal");
 }
 
 qint64 DatabaseFile::lastInsertRowId() const
@@ -219,35 +231,39 @@ std::shared_ptr<const TableSchema> DatabaseFile::table(const QString& name)
     throw databaseError(errors::database::missingTable, name);
 }
 
-sqlite3_blob* DatabaseFile::openValue(const TableSchema& table, int column, qint64 rowId)
+sqlite3_blob* DatabaseFile::openValue(const TableSchema& table, int column, qint64 row)
 {
     const QByteArray name = table.columns[static_cast<std::size_t>(column)].name.toUtf8();
-    if (m_value && m_value->rowId == rowId && m_value->column == name && m_value->table == table.unquotedName)
+    if (m_value && m_value->row == row && m_value->column == name && m_value->table == table.unquotedName)
         return m_value->handle.get();
     m_value.reset();
     sqlite3_blob* handle = nullptr;
     const int result = sqlite3_blob_open(m_engine.get(), "main", table.unquotedName.constData(),
-                                         name.constData(), rowId, 0, &handle);
+                                         name.constData(), row, 0, &handle);
     if (result == SQLITE_ERROR)
         return nullptr; // NULL, a number, or no such row
     if (result != SQLITE_OK)
         fail(result);
-    m_value.reset(new OpenValue{{handle, &sqlite3_blob_close}, name, table.unquotedName, rowId});
+    m_value.reset(new OpenValue{{handle, &sqlite3_blob_close}, name, table.unquotedName, row});
     return handle;
 }
 
-qint64 DatabaseFile::valueSize(const TableSchema& table, int column, qint64 rowId)
+qint64 DatabaseFile::valueSize(const TableSchema& table, int column, qint64 row)
 {
-    sqlite3_blob* const handle = openValue(table, column, rowId);
+    if (!table.rows.areRowIds())
+        return selectSize(table, column, row);
+    sqlite3_blob* const handle = openValue(table, column, row);
     const qint64 size = handle ? sqlite3_blob_bytes(handle) : 0;
     m_value.reset();
     return size;
 }
 
-QByteArray DatabaseFile::readValue(const TableSchema& table, int column, qint64 rowId, qint64 offset,
+QByteArray DatabaseFile::readValue(const TableSchema& table, int column, qint64 row, qint64 offset,
                                    qint64 length)
 {
-    sqlite3_blob* const handle = openValue(table, column, rowId);
+    if (!table.rows.areRowIds())
+        return selectBytes(table, column, row, offset, length);
+    sqlite3_blob* const handle = openValue(table, column, row);
     if (!handle)
         return {};
     const qint64 size = sqlite3_blob_bytes(handle);
@@ -259,6 +275,27 @@ QByteArray DatabaseFile::readValue(const TableSchema& table, int column, qint64 
     if (result != SQLITE_OK)
         fail(result);
     return bytes;
+}
+
+qint64 DatabaseFile::selectSize(const TableSchema& table, int column, qint64 row)
+{
+    const ColumnSchema& schema = table.columns[static_cast<std::size_t>(column)];
+    EngineStatement size = statement("SELECT length(CAST(" + schema.quoted + " AS BLOB)) FROM " +
+                                     table.quoted + " WHERE " + table.rows.condition(1));
+    table.rows.bind(size, 1, row);
+    return size.step() ? size.integer(0) : 0;
+}
+
+QByteArray DatabaseFile::selectBytes(const TableSchema& table, int column, qint64 row, qint64 offset,
+                                     qint64 length)
+{
+    const ColumnSchema& schema = table.columns[static_cast<std::size_t>(column)];
+    EngineStatement part = statement("SELECT substr(CAST(" + schema.quoted + " AS BLOB), ?1, ?2) FROM " +
+                                     table.quoted + " WHERE " + table.rows.condition(3));
+    part.bindInteger(1, offset + 1);
+    part.bindInteger(2, length);
+    table.rows.bind(part, 3, row);
+    return part.step() ? part.binary(0).toByteArray() : QByteArray();
 }
 
 Transaction::Transaction(DatabaseFile& file) : m_file(file)

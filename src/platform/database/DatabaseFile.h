@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/EnginePatience.h"
 #include "platform/database/EngineStatement.h"
 #include "platform/database/TableSchema.h"
 
@@ -15,13 +16,15 @@ struct sqlite3;
 
 namespace varnhold {
 
+class DatabaseWatch;
+
 /// One file open in the engine: statements kept prepared, the schema as first read, the journal's state. All
 /// classes of the layer work on it; nothing outside the layer does.
 class DatabaseFile
 {
 public:
     /// RunTimeError as DatabaseConnection::Open.
-    explicit DatabaseFile(const QString& path);
+    explicit DatabaseFile(const QString& path, DatabaseWatch* watch = nullptr);
     ~DatabaseFile();
     DatabaseFile(const DatabaseFile&) = delete;
     DatabaseFile& operator=(const DatabaseFile&) = delete;
@@ -50,10 +53,10 @@ public:
     std::shared_ptr<const TableSchema> table(const QString& name);
     void forgetSchema() { m_tables.clear(); }
 
-    /// Bytes of one value, without reading it whole; kept open between calls for the same value, and closed
-    /// when it was read to its end, by another value and by prepareWrite.
-    [[nodiscard]] qint64 valueSize(const TableSchema& table, int column, qint64 rowId);
-    QByteArray readValue(const TableSchema& table, int column, qint64 rowId, qint64 offset, qint64 length);
+    /// Bytes of one value of the row of that number, without reading it whole; kept open between calls for
+    /// the same value, and closed when it was read to its end, by another value and by prepareWrite.
+    [[nodiscard]] qint64 valueSize(const TableSchema& table, int column, qint64 row);
+    QByteArray readValue(const TableSchema& table, int column, qint64 row, qint64 offset, qint64 length);
 
 private:
     struct EngineCloser
@@ -66,7 +69,7 @@ private:
         std::unique_ptr<sqlite3_blob, int (*)(sqlite3_blob*)> handle;
         QByteArray column;
         QByteArray table;
-        qint64 rowId;
+        qint64 row;
     };
 
     std::vector<QString> names(const QByteArray& condition);
@@ -75,16 +78,21 @@ private:
     static int probe(sqlite3* engine);
     static void configure(sqlite3* engine);
     [[noreturn]] void fail(int result) const;
-    sqlite3_blob* openValue(const TableSchema& table, int column, qint64 rowId);
+    sqlite3_blob* openValue(const TableSchema& table, int column, qint64 row);
+    qint64 selectSize(const TableSchema& table, int column, qint64 row);
+    QByteArray selectBytes(const TableSchema& table, int column, qint64 row, qint64 offset, qint64 length);
     void useWriteAheadLog();
+    bool isWriteAhead(const QByteArray& pragma);
 
+    EnginePatience m_patience;
     Engine m_engine;
     std::unordered_map<QByteArray, PreparedStatement> m_statements;
     std::unordered_map<std::string, std::shared_ptr<const TableSchema>> m_tables; ///< by folded name
     std::unique_ptr<OpenValue> m_value;
     bool m_readOnly = false;
     quint64 m_writes = 0;
-    bool m_writeAhead = false; ///< this connection switched the file to a write-ahead log
+    bool m_writeAhead = false; ///< the file has a write-ahead log
+    bool m_goesBehind = false; ///< which its owner did not want: it goes at the close
 };
 
 /// A group of writes that takes place as a whole or not at all.

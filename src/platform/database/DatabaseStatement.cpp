@@ -75,11 +75,14 @@ private:
     Token m_token;
 };
 
-DatabaseStatement::Condition readCondition(Reader& reader)
+DatabaseStatement::Condition readCondition(Reader& reader, bool likeAllowed)
 {
     DatabaseStatement::Condition condition;
     condition.column = reader.expect(Token::Kind::Word);
-    Reader::require(reader.takeSign(u"="));
+    if (likeAllowed && reader.takeWord(u"LIKE"))
+        condition.comparison = DatabaseStatement::Comparison::Like;
+    else
+        Reader::require(reader.takeSign(u"="));
     condition.value = reader.expect(Token::Kind::Value);
     return condition;
 }
@@ -107,7 +110,7 @@ DatabaseStatement readStatement(QStringView text)
     Reader::require(reader.takeSign(u"*") && reader.takeWord(u"FROM"));
     statement.table = reader.expect(Token::Kind::Word);
     if (reader.takeWord(u"WHERE"))
-        statement.condition = readCondition(reader);
+        statement.condition = readCondition(reader, statement.kind == DatabaseStatement::Kind::Select);
     if (statement.kind == DatabaseStatement::Kind::Delete)
         Reader::require(statement.condition.has_value()); // no statement empties a table
     else if (reader.takeWord(u"ORDER")) {

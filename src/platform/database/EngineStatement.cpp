@@ -31,9 +31,15 @@ void EngineStatement::bindBinary(int index, QByteArrayView bytes)
                                 static_cast<sqlite3_uint64>(bytes.size()), SQLITE_STATIC));
 }
 
+void EngineStatement::bindValue(int index, const sqlite3_value* value)
+{
+    require(sqlite3_bind_value(m_statement, index, value));
+}
+
 bool EngineStatement::step()
 {
     const int result = sqlite3_step(m_statement);
+    m_patience.progressed();
     if (result == SQLITE_ROW)
         return true;
     if (result == SQLITE_DONE)
@@ -58,6 +64,19 @@ QByteArrayView EngineStatement::text(int column) const
     if (text == nullptr && sqlite3_errcode(sqlite3_db_handle(m_statement)) == SQLITE_NOMEM)
         throw RunTimeError(errors::outOfMemory);
     return {text, sqlite3_column_bytes(m_statement, column)};
+}
+
+QByteArrayView EngineStatement::binary(int column) const
+{
+    const auto* const bytes = static_cast<const char*>(sqlite3_column_blob(m_statement, column));
+    if (bytes == nullptr && sqlite3_errcode(sqlite3_db_handle(m_statement)) == SQLITE_NOMEM)
+        throw RunTimeError(errors::outOfMemory);
+    return {bytes, sqlite3_column_bytes(m_statement, column)};
+}
+
+sqlite3_value* EngineStatement::value(int column) const
+{
+    return sqlite3_column_value(m_statement, column);
 }
 
 void EngineStatement::require(int result) const
@@ -90,6 +109,10 @@ void throwEngineError(int result, const char* message)
         throw RunTimeError(db::locked, u"The database is damaged."_s);
     case SQLITE_FULL:
         throw RunTimeError(db::locked, u"The disk is full."_s);
+    case SQLITE_INTERRUPT:
+        throw RunTimeError(db::locked, u"The database gave no answer for some seconds."_s);
+    case SQLITE_TOOBIG:
+        throw RunTimeError(db::locked, u"The database holds a value of more than 256 MB."_s);
     case SQLITE_CANTOPEN:
         throw RunTimeError(db::locked, u"The database's folder cannot be written."_s);
     default:

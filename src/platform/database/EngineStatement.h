@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/database/EnginePatience.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -17,7 +19,11 @@ using PreparedStatement = std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)>;
 class EngineStatement
 {
 public:
-    explicit EngineStatement(sqlite3_stmt* statement) : m_statement(statement) {}
+    EngineStatement(sqlite3_stmt* statement, EnginePatience& patience)
+        : m_statement(statement), m_patience(patience)
+    {
+        patience.progressed();
+    }
     ~EngineStatement();
     EngineStatement(const EngineStatement&) = delete;
     EngineStatement& operator=(const EngineStatement&) = delete;
@@ -27,6 +33,7 @@ public:
     void bindInteger(int index, qint64 value);
     void bindText(int index, QByteArrayView utf8);
     void bindBinary(int index, QByteArrayView bytes);
+    void bindValue(int index, const sqlite3_value* value); ///< copied, of whatever type
 
     /// True with a row, false when done. RunTimeError by the engine's result.
     bool step();
@@ -35,11 +42,14 @@ public:
     [[nodiscard]] qint64 integer(int column) const;
     /// Valid until the next step.
     [[nodiscard]] QByteArrayView text(int column) const;
+    [[nodiscard]] QByteArrayView binary(int column) const;
+    [[nodiscard]] sqlite3_value* value(int column) const;
 
 private:
     void require(int result) const;
 
     sqlite3_stmt* m_statement;
+    EnginePatience& m_patience;
 };
 
 /// A failure of the engine as the layer's error. `result` is the extended code.

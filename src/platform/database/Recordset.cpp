@@ -64,7 +64,7 @@ public:
         requireCurrent();
         if (!m_onAdded && m_position < rows().count())
             return rows().text(m_position, column);
-        std::optional<QString> text = lookUpText(*m_file, *m_table, currentRowId(), column);
+        std::optional<QString> text = lookUpText(*m_file, *m_table, currentRow(), column);
         if (!text)
             throw databaseError(db::noCurrentRecord);
         return *std::move(text);
@@ -78,7 +78,7 @@ public:
         if (m_adding)
             return 0;
         requireCurrent();
-        return m_file->valueSize(*m_table, column, currentRowId());
+        return m_file->valueSize(*m_table, column, currentRow());
     }
 
     QByteArray getChunk(const QString& name, qint64 length)
@@ -89,7 +89,7 @@ public:
         requireCurrent();
         if (m_chunk.column != column)
             m_chunk = {column, 0};
-        QByteArray bytes = m_file->readValue(*m_table, column, currentRowId(), m_chunk.offset, length);
+        QByteArray bytes = m_file->readValue(*m_table, column, currentRow(), m_chunk.offset, length);
         m_chunk.offset += bytes.size();
         return bytes;
     }
@@ -120,7 +120,7 @@ public:
             requireCurrent();
             if (m_pending.empty())
                 return;
-            m_writer.update(currentRowId(), m_pending);
+            m_writer.update(currentRow(), m_pending);
             for (const PendingValue& value : m_pending) {
                 if (!m_onAdded && m_rows && m_position < m_rows->count())
                     m_rows->forget(m_position, value.column);
@@ -161,12 +161,12 @@ private:
             throw databaseError(db::noCurrentRecord);
     }
 
-    qint64 currentRowId()
+    qint64 currentRow()
     {
         if (m_onAdded)
             return m_added.back();
         const std::size_t read = rows().count();
-        return m_position < read ? rows().rowId(m_position) : m_added[m_position - read];
+        return m_position < read ? rows().number(m_position) : m_added[m_position - read];
     }
 
     PendingValue* pending(int column)
@@ -197,11 +197,19 @@ void Recordset::Open(const QString& statement, const DatabaseConnection& connect
     if (isOpen())
         throw databaseError(db::objectOpen);
     m_state.reset();
+    (void)connection.file();
+    Open(readStatement(statement), connection);
+}
+
+void Recordset::Open(const DatabaseStatement& statement, const DatabaseConnection& connection)
+{
+    if (isOpen())
+        throw databaseError(db::objectOpen);
+    m_state.reset();
     const std::shared_ptr<DatabaseFile>& file = connection.file();
-    DatabaseStatement read = readStatement(statement);
-    if (read.kind != DatabaseStatement::Kind::Select)
+    if (statement.kind != DatabaseStatement::Kind::Select)
         throw databaseError(db::badSyntax);
-    m_state = std::make_unique<State>(file, std::move(read));
+    m_state = std::make_unique<State>(file, statement);
 }
 
 void Recordset::Close()

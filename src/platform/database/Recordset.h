@@ -8,6 +8,7 @@
 namespace varnhold {
 
 class DatabaseConnection;
+struct DatabaseStatement;
 
 /// A static cursor over one table with optimistic locks: the rows that answered the statement, however the
 /// table changes afterwards, with those stored through it behind them. Lazy: the table is read when something
@@ -16,7 +17,7 @@ class DatabaseConnection;
 ///
 /// Statements are the program's own shapes and nothing else; values stand between apostrophes and are bound,
 /// and an apostrophe inside a value is bad syntax, never a further condition:
-///   SELECT * FROM table [where column='value'] [ORDER BY column Asc|Desc] [;]
+///   SELECT * FROM table [where column='value' | where column LIKE 'pattern'] [ORDER BY column Asc|Desc] [;]
 /// Texts compare and sort without regard to case, beyond ASCII too.
 class Recordset
 {
@@ -29,6 +30,8 @@ public:
     /// RunTimeError 3705 when open, 3704 when the connection is closed, 0x80040E14 bad syntax, 0x80040E37 no
     /// such table, 0x80040E10 no such column in a condition or order.
     void Open(const QString& statement, const DatabaseConnection& connection);
+    /// The same with a statement that was never a text: its value may hold anything.
+    void Open(const DatabaseStatement& statement, const DatabaseConnection& connection);
     void Close(); ///< RunTimeError 3704 when not open; a record under way is dropped
     [[nodiscard]] bool isOpen() const;
 

@@ -4,6 +4,7 @@
 #include "platform/database/DatabaseFile.h"
 #include "platform/database/TextFolding.h"
 #include "platform/database/TextOrder.h"
+#include "platform/database/TextPattern.h"
 
 #include <algorithm>
 #include <limits>
@@ -36,28 +37,73 @@ const QByteArray& quoted(const TableSchema& table, int column)
 }
 
 /// The first rows of a table, by which a walk over all of it is planned.
-std::vector<qint64> firstRowIds(DatabaseFile& file, const TableSchema& table)
+std::vector<qint64> firstRows(DatabaseFile& file, const TableSchema& table)
 {
-    EngineStatement row = file.statement("SELECT " + table.rowId + " FROM " + table.quoted + " LIMIT 32");
-    std::vector<qint64> ids;
+    EngineStatement row =
+        file.statement("SELECT " + table.rows.list() + " FROM " + table.quoted + " LIMIT 32");
+    std::vector<qint64> rows;
     while (row.step())
-        ids.push_back(row.integer(0));
-    return ids;
+        rows.push_back(table.rows.number(row));
+    return rows;
 }
 
 /// Whether a column's values are, by the look of those rows, mostly there and short. A wrong guess costs time
 /// and nothing else.
-bool looksShort(DatabaseFile& file, const TableSchema& table, int column, const std::vector<qint64>& rowIds)
+bool looksShort(DatabaseFile& file, const TableSchema& table, int column, const std::vector<qint64>& rows)
 {
     std::size_t filled = 0;
-    for (const qint64 rowId : rowIds) {
-        const qint64 size = file.valueSize(table, column, rowId);
+    for (const qint64 row : rows) {
+        const qint64 size = file.valueSize(table, column, row);
         if (size > TextColumn::longest)
             return false;
         filled += size > 0 ? 1 : 0;
     }
-    return 2 * filled > rowIds.size();
+    return 2 * filled > rows.size();
 }
+
+/// Rows that may be equal as texts, however they are stored: to the engine a number in a column without a type
+/// is no text, and a blob nowhere is one. Blobs stand behind all texts and numbers before, so an index finds
+/// these too; that they are rare keeps the engine from reading everything.
+QByteArray equalInAnyType(const QByteArray& column, const QString& value)
+{
+    QByteArray condition = column + " = ?1 COLLATE NOCASE OR likelihood(" + column + " >= x'', 0.00001)";
+    bool isInteger = false;
+    if (QString::number(value.toLongLong(&isInteger)) == value && isInteger)
+        condition += " OR " + column + " = CAST(?1 AS INTEGER)";
+    else if (!value.isEmpty() && u"0123456789-+.IN"_s.contains(value.front()))
+        condition += " OR likelihood(" + column + " < '', 0.00001)";
+    return condition;
+}
+
+/// Whether a row answers a condition, by the text of the compared column.
+class Answer
+{
+public:
+    explicit Answer(const std::optional<DatabaseStatement::Condition>& condition)
+    {
+        if (!condition)
+            return;
+        if (condition->comparison == DatabaseStatement::Comparison::Like)
+            m_pattern.emplace(condition->value.toUtf8());
+        else
+            m_text.emplace(condition->value.toUtf8());
+    }
+
+    [[nodiscard]] bool operator()(QByteArrayView text, bool null) const
+    {
+        if (m_pattern)
+            return null ? m_pattern->matchesNull() : m_pattern->matches(text);
+        return !null && m_text->matches(text);
+    }
+    /// The engine can be asked for the rows: its index knows the case of ASCII letters.
+    [[nodiscard]] bool isInIndex() const { return m_text && m_text->hasAsciiCaseOnly(); }
+    /// Only a comparison answers with few rows.
+    [[nodiscard]] bool expectsFew() const { return m_text.has_value(); }
+
+private:
+    std::optional<FoldedText> m_text;
+    std::optional<TextPattern> m_pattern;
+};
 
 } // namespace
 
@@ -116,54 +162,61 @@ void RowSnapshot::scan(const DatabaseStatement& statement, const std::vector<qin
 {
     const int compared = statement.condition ? m_table->column(statement.condition->column) : -1;
     const int sorted = statement.order ? m_table->column(statement.order->column) : -1;
-    const QByteArray wantedText = statement.condition ? statement.condition->value.toUtf8() : QByteArray();
-    const FoldedText wanted(wantedText);
+    const Answer answers(statement.condition);
+    const RowKeys& rows = m_table->rows;
 
-    const std::vector<qint64> first = compared < 0 ? firstRowIds(m_file, *m_table) : std::vector<qint64>();
-    std::vector<std::pair<int, TextColumn*>> kept;
-    QByteArray sql = "SELECT " + m_table->rowId;
+    // The compared column comes first, so that a row that does not answer costs no other.
+    std::vector<int> asked;
+    if (compared >= 0)
+        asked.push_back(compared);
+    const std::vector<qint64> first =
+        answers.expectsFew() ? std::vector<qint64>() : firstRows(m_file, *m_table);
     for (int column = 0; column < static_cast<int>(m_table->columns.size()); ++column) {
-        const ColumnSchema& schema = m_table->columns[static_cast<std::size_t>(column)];
-        const bool asked = column == compared || column == sorted;
-        if (!asked && (compared >= 0 || !(schema.unique || looksShort(m_file, *m_table, column, first))))
-            continue;
-        kept.emplace_back(column, &m_columns[static_cast<std::size_t>(column)].emplace());
-        sql += ", " + schema.quoted;
+        const bool wanted = column == sorted || (!answers.expectsFew() && isListed(column, first));
+        if (wanted && column != compared)
+            asked.push_back(column);
+    }
+    QByteArray sql = "SELECT " + rows.list();
+    std::vector<TextColumn*> kept;
+    for (const int column : asked) {
+        sql += ", " + quoted(*m_table, column);
+        kept.push_back(&m_columns[static_cast<std::size_t>(column)].emplace());
     }
     sql += " FROM " + m_table->quoted;
-    // The file's own index knows the case of ASCII letters. Where that is not enough all rows are looked at.
-    const bool byIndex = compared >= 0 && wanted.hasAsciiCaseOnly();
-    if (byIndex)
-        sql += " WHERE " + quoted(*m_table, compared) + " = ?1 COLLATE NOCASE";
+    const QByteArray value = statement.condition ? statement.condition->value.toUtf8() : QByteArray();
+    if (answers.isInIndex())
+        sql += " WHERE " + equalInAnyType(quoted(*m_table, compared), statement.condition->value);
     if (sorted < 0)
         sql += " ORDER BY 1";
 
     EngineStatement row = m_file.statement(sql);
-    if (byIndex)
-        row.bindText(1, wantedText);
+    if (answers.isInIndex())
+        row.bindText(1, value);
     TextOrder order;
-    std::vector<QByteArrayView> texts(kept.size());
-    std::vector<bool> nulls(kept.size());
+    const int firstColumn = rows.width();
     while (row.step()) {
-        const qint64 rowId = row.integer(0);
-        if (!left.empty() && std::binary_search(left.begin(), left.end(), rowId))
-            continue;
-        bool answers = true;
-        for (std::size_t i = 0; i < kept.size() && answers; ++i) {
-            const int column = static_cast<int>(i) + 1;
-            texts[i] = row.text(column);
-            nulls[i] = texts[i].isEmpty() && row.isNull(column);
-            answers = kept[i].first != compared || (!nulls[i] && wanted.matches(texts[i]));
-        }
-        if (!answers)
-            continue;
-        m_rowIds.push_back(rowId);
-        for (std::size_t i = 0; i < kept.size(); ++i) {
-            kept[i].second->append(nulls[i], texts[i]);
-            if (kept[i].first != sorted)
+        QByteArrayView text;
+        bool null = false;
+        const auto read = [&](std::size_t i) {
+            text = row.text(firstColumn + static_cast<int>(i));
+            null = text.isEmpty() && row.isNull(firstColumn + static_cast<int>(i));
+        };
+        if (compared >= 0) {
+            read(0);
+            if (!answers(text, null))
                 continue;
-            appendFolded(order.keys(), texts[i]);
-            if (nulls[i])
+        }
+        const qint64 number = rows.number(row);
+        if (!left.empty() && std::binary_search(left.begin(), left.end(), number))
+            continue;
+        m_numbers.push_back(number);
+        for (std::size_t i = 0; i < kept.size(); ++i) {
+            read(i);
+            kept[i]->append(null, text);
+            if (asked[i] != sorted)
+                continue;
+            appendFolded(order.keys(), text);
+            if (null)
                 order.finishNullRow();
             else
                 order.finishRow();
@@ -173,11 +226,18 @@ void RowSnapshot::scan(const DatabaseStatement& statement, const std::vector<qin
         arrange(order.sorted(statement.order->descending));
 }
 
+/// Whether a walk over many rows will ask for the column, by the look of the first ones.
+bool RowSnapshot::isListed(int column, const std::vector<qint64>& first) const
+{
+    return m_table->columns[static_cast<std::size_t>(column)].unique ||
+           looksShort(m_file, *m_table, column, first);
+}
+
 void RowSnapshot::arrange(const std::vector<quint32>& order)
 {
-    std::vector<qint64> rowIds(m_rowIds.size());
-    std::transform(order.begin(), order.end(), rowIds.begin(), [&](quint32 row) { return m_rowIds[row]; });
-    m_rowIds.swap(rowIds);
+    std::vector<qint64> numbers(m_numbers.size());
+    std::transform(order.begin(), order.end(), numbers.begin(), [&](quint32 row) { return m_numbers[row]; });
+    m_numbers.swap(numbers);
     for (std::optional<TextColumn>& column : m_columns) {
         if (column)
             column->arrange(order);
@@ -193,7 +253,7 @@ QString RowSnapshot::text(std::size_t position, int column)
         if (std::optional<QString> text = loaded->text(position))
             return *std::move(text);
     }
-    std::optional<QString> text = lookUpText(m_file, *m_table, rowId(position), column);
+    std::optional<QString> text = lookUpText(m_file, *m_table, number(position), column);
     if (!text)
         throw databaseError(errors::database::noCurrentRecord);
     return *std::move(text);
@@ -209,9 +269,9 @@ void RowSnapshot::loadWhenWorthIt(int column)
 {
     if (++m_lookUps[static_cast<std::size_t>(column)] != patience)
         return;
-    const auto [first, last] = std::minmax_element(m_rowIds.begin(), m_rowIds.end());
+    const auto [first, last] = std::minmax_element(m_numbers.begin(), m_numbers.end());
     const quint64 range = static_cast<quint64>(*last) - static_cast<quint64>(*first);
-    if (m_rowIds.size() > patience && range / sparsest < m_rowIds.size())
+    if (m_numbers.size() > patience && range / sparsest < m_numbers.size())
         load(column, *first, *last);
 }
 
@@ -219,34 +279,42 @@ void RowSnapshot::load(int column, qint64 first, qint64 last)
 {
     constexpr quint32 none = std::numeric_limits<quint32>::max();
     std::vector<quint32> positions(static_cast<std::size_t>(last - first) + 1, none);
-    for (std::size_t i = 0; i < m_rowIds.size(); ++i)
-        positions[static_cast<std::size_t>(m_rowIds[i] - first)] = static_cast<quint32>(i);
+    for (std::size_t i = 0; i < m_numbers.size(); ++i)
+        positions[static_cast<std::size_t>(m_numbers[i] - first)] = static_cast<quint32>(i);
 
     TextColumn texts;
     texts.appendLookUp(); // for rows that were deleted meanwhile
-    std::vector<quint32> order(m_rowIds.size(), 0);
-    EngineStatement row =
-        m_file.statement("SELECT " + m_table->rowId + ", " + quoted(*m_table, column) + " FROM " +
-                         m_table->quoted + " WHERE " + m_table->rowId + " BETWEEN ?1 AND ?2 ORDER BY 1");
-    row.bindInteger(1, first);
-    row.bindInteger(2, last);
+    std::vector<quint32> order(m_numbers.size(), 0);
+    const RowKeys& rows = m_table->rows;
+    QByteArray sql = "SELECT " + rows.list() + ", " + quoted(*m_table, column) + " FROM " + m_table->quoted;
+    if (rows.areRowIds())
+        sql += " WHERE " + rows.list() + " BETWEEN ?1 AND ?2 ORDER BY 1";
+    EngineStatement row = m_file.statement(sql);
+    if (rows.areRowIds()) {
+        row.bindInteger(1, first);
+        row.bindInteger(2, last);
+    }
+    const int textColumn = rows.width();
     while (row.step()) {
-        const quint32 position = positions[static_cast<std::size_t>(row.integer(0) - first)];
+        const qint64 number = rows.number(row);
+        if (number < first || number > last)
+            continue;
+        const quint32 position = positions[static_cast<std::size_t>(number - first)];
         if (position == none)
             continue;
         order[position] = static_cast<quint32>(texts.count());
-        const QByteArrayView text = row.text(1);
-        texts.append(text.isEmpty() && row.isNull(1), text);
+        const QByteArrayView text = row.text(textColumn);
+        texts.append(text.isEmpty() && row.isNull(textColumn), text);
     }
     texts.arrange(order);
     m_columns[static_cast<std::size_t>(column)] = std::move(texts);
 }
 
-std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 rowId, int column)
+std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 number, int column)
 {
     EngineStatement row = file.statement("SELECT " + quoted(table, column) + " FROM " + table.quoted +
-                                         " WHERE " + table.rowId + " = ?1");
-    row.bindInteger(1, rowId);
+                                         " WHERE " + table.rows.condition(1));
+    table.rows.bind(row, 1, number);
     if (!row.step())
         return {};
     const QByteArrayView text = row.text(0);

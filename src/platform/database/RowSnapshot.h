@@ -44,18 +44,19 @@ private:
     std::string m_texts;
 };
 
-/// The rows that answer a statement, as they were when it was made: row ids in their order, and the columns
-/// that such a list is read for (those compared, sorted by or unique), read in one pass. Other columns come
-/// from the file row by row, and as a whole once many rows were asked.
+/// The rows that answer a statement, as they were when it was made: their numbers in order, and the columns
+/// that such a list is read for, read in one pass. A comparison expects few rows: its own column and the
+/// sorted one. A whole table or a pattern expects many: also those that are unique or look short. Other
+/// columns come from the file row by row, and as a whole once many rows were asked.
 class RowSnapshot
 {
 public:
-    /// Rows whose id is in `left`, which is sorted, stay out. RunTimeError as the engine fails.
+    /// Rows whose number is in `left`, which is sorted, stay out. RunTimeError as the engine fails.
     RowSnapshot(DatabaseFile& file, std::shared_ptr<const TableSchema> table,
                 const DatabaseStatement& statement, const std::vector<qint64>& left = {});
 
-    [[nodiscard]] std::size_t count() const { return m_rowIds.size(); }
-    [[nodiscard]] qint64 rowId(std::size_t position) const { return m_rowIds[position]; }
+    [[nodiscard]] std::size_t count() const { return m_numbers.size(); }
+    [[nodiscard]] qint64 number(std::size_t position) const { return m_numbers[position]; }
     /// NULL as the null string. RunTimeError 3021 when the row was deleted meanwhile.
     QString text(std::size_t position, int column);
     /// The value was changed.
@@ -65,18 +66,19 @@ private:
     using Columns = std::vector<std::optional<TextColumn>>;
 
     void scan(const DatabaseStatement& statement, const std::vector<qint64>& left);
+    [[nodiscard]] bool isListed(int column, const std::vector<qint64>& first) const;
     void arrange(const std::vector<quint32>& order);
     void loadWhenWorthIt(int column);
     void load(int column, qint64 first, qint64 last);
 
     DatabaseFile& m_file;
     std::shared_ptr<const TableSchema> m_table;
-    std::vector<qint64> m_rowIds;
+    std::vector<qint64> m_numbers;
     Columns m_columns;
     std::vector<int> m_lookUps; ///< by column
 };
 
 /// One value from the file; nothing when the row is gone. NULL as the null string.
-std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 rowId, int column);
+std::optional<QString> lookUpText(DatabaseFile& file, const TableSchema& table, qint64 number, int column);
 
 } // namespace varnhold

@@ -4,6 +4,7 @@
 #include "platform/database/DatabaseFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varnhold {
 
@@ -19,10 +20,14 @@ QString textOf(const EngineStatement& row, int column)
 std::vector<ColumnSchema> readColumns(DatabaseFile& file, const QByteArray& table)
 {
     std::vector<ColumnSchema> columns;
-    EngineStatement row = file.statement("SELECT name FROM pragma_table_xinfo(?1)");
+    EngineStatement row = file.statement("SELECT name, pk FROM pragma_table_xinfo(?1)");
     row.bindText(1, table);
-    while (row.step())
-        columns.push_back({textOf(row, 0), quotedName(textOf(row, 0))});
+    while (row.step()) {
+        ColumnSchema& column = columns.emplace_back();
+        column.name = textOf(row, 0);
+        column.quoted = quotedName(column.name);
+        column.keyPlace = static_cast<int>(row.integer(1));
+    }
     return columns;
 }
 
@@ -57,6 +62,25 @@ QByteArray rowIdName(const std::vector<ColumnSchema>& columns)
     return {};
 }
 
+RowKeys primaryKey(const std::vector<ColumnSchema>& columns)
+{
+    std::vector<QByteArray> key;
+    for (int place = 1; place <= static_cast<int>(columns.size()); ++place) {
+        for (const ColumnSchema& column : columns) {
+            if (column.keyPlace == place)
+                key.push_back(column.quoted);
+        }
+    }
+    return RowKeys(std::move(key));
+}
+
+bool hasRowIds(DatabaseFile& file, const QByteArray& table)
+{
+    EngineStatement row = file.statement("SELECT wr FROM pragma_table_list(?1) WHERE schema = 'main'");
+    row.bindText(1, table);
+    return !row.step() || row.integer(0) == 0;
+}
+
 } // namespace
 
 int TableSchema::column(const QString& columnName) const
@@ -81,13 +105,14 @@ TableSchema readTableSchema(DatabaseFile& file, const QString& name)
     schema.quoted = quotedName(name);
     schema.columns = readColumns(file, schema.unquotedName);
     markUniqueColumns(file, schema.unquotedName, schema.columns);
-    schema.rowId = rowIdName(schema.columns);
-
-    EngineStatement withoutRowIds =
-        file.statement("SELECT wr FROM pragma_table_list(?1) WHERE schema = 'main'");
-    withoutRowIds.bindText(1, schema.unquotedName);
-    if (schema.rowId.isEmpty() || (withoutRowIds.step() && withoutRowIds.integer(0) != 0))
+    if (!hasRowIds(file, schema.unquotedName)) {
+        schema.rows = primaryKey(schema.columns);
+        return schema;
+    }
+    const QByteArray rowId = rowIdName(schema.columns);
+    if (rowId.isEmpty())
         throw RunTimeError(errors::database::locked, u"The table '%1' has no row ids."_s.arg(name));
+    schema.rows = RowKeys(rowId);
     return schema;
 }
 

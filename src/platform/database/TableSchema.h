@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/database/RowKeys.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -15,6 +17,7 @@ struct ColumnSchema
     QByteArray quoted;             ///< for the engine's own statements
     bool unique = false;           ///< alone, not together with others
     bool uniqueIndexFolds = false; ///< its unique index ignores the case of ASCII letters
+    int keyPlace = 0;              ///< from 1 in the primary key
 };
 
 /// What the layer needs to know of a table.
@@ -23,7 +26,7 @@ struct TableSchema
     QString name;
     QByteArray unquotedName;
     QByteArray quoted;
-    QByteArray rowId; ///< a name of the row id that no column bears
+    RowKeys rows;
     std::vector<ColumnSchema> columns;
 
     /// Index of the column of that name in any case. RunTimeError 0x80040E10 when there is none.

@@ -38,6 +38,19 @@ TEST_F(DatabaseJournalTest, WritesAheadAndLeavesOneFile)
     EXPECT_TRUE(file.isSound());
 }
 
+TEST_F(DatabaseJournalTest, LeavesTheLogToAnOwnerWhoWantsOne)
+{
+    file.execute(u"PRAGMA journal_mode = WAL"_s);
+    open(u"SELECT * FROM PS3Games"_s);
+    for (int i = 0; i < 10; ++i) {
+        records.AddNew();
+        records.Update();
+    }
+    connection.Close();
+    EXPECT_EQ(filesBeside(), QStringList{QFileInfo(file.path()).fileName()});
+    EXPECT_EQ(journalMode(), u"wal"_s);
+}
+
 TEST_F(DatabaseJournalTest, ReadingLeavesTheBytesAlone)
 {
     file.addGames(u"PS3Games"_s, {{u"A"_s, u"x"_s}});

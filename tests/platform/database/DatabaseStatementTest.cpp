@@ -25,6 +25,10 @@ TEST(DatabaseStatementTest, ReadsTheShapesAsTheyAreWritten)
     read = readStatement(u"SELECT * FROM PS3Games where GameID='';");
     EXPECT_EQ(read.condition->value, u""_s);
 
+    read = readStatement(u"SELECT * FROM PS3Games where GameName LIKE '%a_[%' ORDER BY GameName Desc");
+    EXPECT_EQ(read.condition->comparison, DatabaseStatement::Comparison::Like);
+    EXPECT_EQ(read.condition->value, u"%a_[%"_s);
+
     read = readStatement(u"DELETE * FROM PS3Links WHERE Link='http://host/a?b=c'");
     EXPECT_EQ(read.kind, DatabaseStatement::Kind::Delete);
     EXPECT_EQ(read.condition->column, u"Link"_s);
@@ -46,7 +50,9 @@ TEST(DatabaseStatementTest, RefusesEverythingElse)
              u"SELECT * FROM PS3Games where GameID=x"_s,
              u"SELECT * FROM PS3Games where GameID='x' where GameID='y'"_s,
              u"DELETE FROM PS3Games WHERE GameID='x'"_s,
+             u"SELECT * FROM PS3Games where GameID LIKE = 'x'"_s,
              u"DELETE * FROM PS3Games"_s,
+             u"DELETE * FROM PS3Games WHERE GameID LIKE '%'"_s,
              u"DELETE * FROM PS3Games WHERE GameID='x' ORDER BY GameID Asc"_s,
              u"DROP TABLE PS3Games"_s,
          })

@@ -2,6 +2,7 @@
 
 #include "platform/database/DatabaseCatalog.h"
 #include "platform/database/DatabaseCommand.h"
+#include "platform/database/DatabaseStatement.h"
 
 #include <QFileInfo>
 
@@ -227,6 +228,109 @@ TEST_F(RecordsetTest, GivesEveryTypeAsText)
     EXPECT_EQ(records.ActualSize(u"GameImage"_s), 0);
     EXPECT_EQ(records.GetChunk(u"GameImage"_s, 10), QByteArray());
     EXPECT_EQ(ids(u"SELECT * FROM Odd where GameID='07'"_s), QStringList{});
+}
+
+TEST_F(RecordsetTest, FindsEveryTypeAsText)
+{
+    file.execute(u"CREATE TABLE Bare (GameID UNIQUE, GameName); CREATE INDEX Names ON Bare (GameName); "
+                 "INSERT INTO Bare VALUES (7, 0.1 + 0.2), (x'424C', 'seven'), ('text', x'534556454E'), "
+                 "(2.5, 7.0); INSERT INTO PS3Games (GameID) VALUES (x'424C5553'), ('BCES')"_s);
+    const struct
+    {
+        QString table, id;
+        int count;
+    } lookUps[] = {{u"Bare"_s, u"7"_s, 1},        {u"Bare"_s, u"07"_s, 0},   {u"Bare"_s, u"7.0"_s, 0},
+                   {u"Bare"_s, u"2.5"_s, 1},      {u"Bare"_s, u"bl"_s, 1},   {u"Bare"_s, u"TEXT"_s, 1},
+                   {u"PS3Games"_s, u"blus"_s, 1}, {u"Bare"_s, u"x'42'"_s, 0}};
+    for (const auto& [table, id, count] : lookUps) {
+        DatabaseStatement statement;
+        statement.table = table;
+        statement.condition = {u"GameID"_s, id};
+        connection.isOpen() ? connection.Close() : void();
+        connection.Open(connectionTo(file.path()));
+        records.Open(statement, connection);
+        EXPECT_EQ(records.RecordCount(), count) << qPrintable(id);
+        if (count == 0)
+            continue;
+        // Known is what is found: the same value is refused.
+        records.AddNew();
+        records.setValue(u"GameID"_s, id);
+        EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate) << qPrintable(id);
+    }
+    EXPECT_EQ(ids(u"SELECT * FROM Bare where GameName='Seven' ORDER BY GameID Asc"_s),
+              (QStringList{u"BL"_s, u"text"_s}));
+    EXPECT_EQ(ids(u"SELECT * FROM Bare where GameName='0.3'"_s), QStringList{u"7"_s});
+    EXPECT_EQ(ids(u"SELECT * FROM Bare ORDER BY GameID Asc"_s),
+              (QStringList{u"2.5"_s, u"7"_s, u"BL"_s, u"text"_s}));
+}
+
+TEST_F(RecordsetTest, WorksOnATableWithoutRowIds)
+{
+    file.execute(
+        u"CREATE TABLE Own (GameImage BLOB, GameName TEXT, GameID TEXT COLLATE NOCASE, Part INTEGER, "
+        "GameNotes TEXT, PRIMARY KEY (GameID, Part)) WITHOUT ROWID"_s);
+    file.execute(
+        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 300) "
+        "INSERT INTO Own SELECT zeroblob(i), 'Title ' || (i * 7 % 301), 'ID' || i, 1, 'n' || i FROM n"_s);
+    open(u"SELECT * FROM Own ORDER BY GameName Desc"_s);
+    ASSERT_EQ(records.RecordCount(), 300);
+    for (; !records.atEnd(); records.MoveNext()) {
+        const int i = records.value(u"GameID"_s).mid(2).toInt();
+        EXPECT_EQ(records.value(u"GameName"_s), u"Title %1"_s.arg(i * 7 % 301));
+        EXPECT_EQ(records.value(u"GameNotes"_s), u"n%1"_s.arg(i));
+        EXPECT_EQ(records.ActualSize(u"GameImage"_s), i);
+        EXPECT_EQ(records.GetChunk(u"GameImage"_s, 5).size() + records.GetChunk(u"GameImage"_s, 1'000).size(),
+                  i);
+    }
+    records.AddNew();
+    for (const auto& column : {u"GameID"_s, u"GameName"_s, u"Part"_s})
+        records.setValue(column, u"9"_s);
+    records.Update();
+    records.setValue(u"GameID"_s, u"New"_s); // the key itself
+    records.Update();
+    records.setValue(u"GameName"_s, u"named"_s);
+    records.Update();
+    EXPECT_EQ(records.value(u"GameName"_s), u"named"_s);
+    records.AddNew();
+    records.setValue(u"GameID"_s, u"NEW"_s);
+    records.setValue(u"Part"_s, u"9"_s);
+    EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate);
+    EXPECT_EQ(ids(u"SELECT * FROM Own where GameID='id7'"_s), QStringList{u"ID7"_s});
+    DatabaseCommand command;
+    command.setActiveConnection(connection);
+    command.setCommandText(u"DELETE * FROM Own WHERE GameID='id8'"_s);
+    EXPECT_EQ(command.Execute(), 1);
+    EXPECT_EQ(stored(u"SELECT GameID || Part || GameName FROM Own WHERE GameID IN ('ID8', 'New')"_s),
+              QStringList{u"New9named"_s});
+}
+
+TEST_F(RecordsetTest, SearchesByPattern)
+{
+    file.addGames(u"PS3Games"_s, {{u"A1"_s, u"100% ÄRGER's"_s},
+                                  {u"A2"_s, QString()},
+                                  {u"B1"_s, u"[a] ärger"_s},
+                                  {u"B_2"_s, u"ärgerlich"_s, QString(300, u'n')}});
+    const auto found = [&](const QString& pattern, const QString& column = u"GameName"_s) {
+        DatabaseStatement statement;
+        statement.table = u"PS3Games"_s;
+        statement.condition = {column, pattern, DatabaseStatement::Comparison::Like};
+        statement.order = {column, true};
+        open(u"SELECT * FROM PS3Links"_s);
+        records.Close();
+        records.Open(statement, connection);
+        QString all;
+        for (; !records.atEnd(); records.MoveNext())
+            all += records.value(u"GameID"_s) + u'=' + records.value(u"GameName"_s) + u';';
+        return all;
+    };
+    EXPECT_EQ(found(u"%Ärger"_s), u"B1=[a] ärger;"_s);
+    EXPECT_EQ(found(u"%ärger'%"_s), u"A1=100% ÄRGER's;"_s);
+    EXPECT_EQ(found(u"%"_s, u"GameID"_s), u"B_2=ärgerlich;B1=[a] ärger;A2=;A1=100% ÄRGER's;"_s);
+    EXPECT_EQ(found(u"%%"_s).count(u';'), 4) << "what has no name, too";
+    EXPECT_EQ(found(u"%_%"_s).count(u';'), 3);
+    EXPECT_EQ(ids(u"SELECT * FROM PS3Games where GameID LIKE 'b%' ORDER BY GameID Asc"_s),
+              (QStringList{u"B1"_s, u"B_2"_s}));
+    EXPECT_EQ(ids(u"SELECT * FROM PS3Games where GameName like '[a]%'"_s), QStringList{u"B1"_s});
 }
 
 TEST_F(RecordsetTest, HoldsLongAndOddValues)
