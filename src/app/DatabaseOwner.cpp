@@ -12,8 +12,8 @@
 namespace varnhold {
 
 DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup)
-    : m_database(common.settings, common.world.boxes),
-      m_view({common.main, common.menu, common.settingsWindow, common.list, common.splash}),
+    : m_database(common.settings, common.world.boxes, &m_painter),
+      m_view({common.main, common.menu, common.settingsWindow, common.list, common.splash}, m_painter),
       m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
 {
     frmMain& main = common.main;

@@ -2,6 +2,7 @@
 
 #include "app/Common.h"
 #include "app/GameListOnWindows.h"
+#include "app/WindowPainter.h"
 #include "gamedb/GameList.h"
 #include "gamedb/SharedDatabase.h"
 
@@ -22,6 +23,7 @@ public:
     [[nodiscard]] GameList& gameList() { return m_gameList; }
 
 private:
+    WindowPainter m_painter;
     SharedDatabase m_database;
     GameListOnWindows m_view;
     GameList m_gameList;

@@ -3,10 +3,12 @@
 #include "app/main/frmMain.h"
 #include "app/menu/frmMenu.h"
 #include "app/settings/frmSettings.h"
+#include "app/start/SplashEars.h"
 #include "app/start/frmSplash.h"
 #include "appearance/SkinPictures.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "lookup/UpdateList.h"
+#include "platform/database/DatabaseWatch.h"
 #include "state/ErrorReport.h"
 
 #include <QAction>
@@ -15,8 +17,28 @@ namespace varnhold {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int paintInterval = 100; // ms
+
+} // namespace
+
+bool GameListOnWindows::goesOn()
+{
+    if (!m_painted.isValid())
+        m_painted.start();
+    if (m_painted.elapsed() < paintInterval)
+        return true;
+    m_painter.keepPainted();
+    if (m_windows.splash)
+        SplashEars(*m_windows.splash).listen();
+    m_painted.start();
+    return !m_windows.splash || !m_windows.splash->isAbandoned();
+}
+
 void GameListOnWindows::showBusy(bool busy)
 {
+    m_painted.start();
     m_windows.main.showBusy(busy);
     // The choice of another database starts from there.
     if (busy)

@@ -2,10 +2,13 @@
 
 #include "gamedb/GameListView.h"
 
+#include <QElapsedTimer>
+
 #include <memory>
 
 namespace varnhold {
 
+class DatabaseWatch;
 class UpdateList;
 class frmMain;
 class frmMenu;
@@ -25,9 +28,12 @@ public:
         const std::unique_ptr<frmSplash>& splash; ///< null once the program has started
     };
 
-    explicit GameListOnWindows(const Windows& windows) : m_windows(windows) {}
+    GameListOnWindows(const Windows& windows, DatabaseWatch& painter) : m_windows(windows), m_painter(painter)
+    {
+    }
 
     void showBusy(bool busy) override;
+    bool goesOn() override;
 
     void clearGames() override;
     void clearTitles() override;
@@ -69,6 +75,8 @@ public:
 
 private:
     Windows m_windows;
+    DatabaseWatch& m_painter;
+    QElapsedTimer m_painted;
 };
 
 } // namespace varnhold

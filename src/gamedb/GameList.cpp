@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of all ids and names: a file may hold few bytes and tell texts without end.
+constexpr qsizetype mostCharacters = 256 * 1024 * 1024;
+
 /// Back on every way out, and before a report shows.
 auto busyPointer(GameListView& view)
 {
@@ -75,13 +78,15 @@ void GameList::renameOldTables()
     SharedDatabase& database = m_services.database;
     database.DBConnFile = m_services.settings.idList().tag;
     for (const QString& name : {u"Games"_s, u"Personal"_s, u"Links"_s}) {
-        if (dbTableExists(database.DBConnFile, name))
-            dbRenameTable(database.DBConnFile, name, u"PS3"_s + name);
+        if (dbTableExists(database.DBConnFile, name, database.watch()))
+            dbRenameTable(database.DBConnFile, name, u"PS3"_s + name, database.watch());
     }
 }
 
 void GameList::reload(bool renaming)
 {
+    // Also after a failure: what is there then is what came before it.
+    const auto counted = qScopeGuard([this] { showCount(); });
     {
         m_services.view.showListProgress(0);
         const auto hideBar = qScopeGuard([this] { m_services.view.hideListProgress(); });
@@ -90,7 +95,6 @@ void GameList::reload(bool renaming)
         walk(true);
     }
     showIcons(true);
-    showCount();
 }
 
 void GameList::walk(bool withProgress)
@@ -107,10 +111,14 @@ void GameList::walk(bool withProgress)
             view.setListProgressMaximum(records.RecordCount());
         const QString idColumn = u"GameID"_s;
         const QString nameColumn = u"GameName"_s;
-        while (!records.atEnd()) {
+        qsizetype characters = 0;
+        while (!records.atEnd() && view.goesOn()) {
             // Both are read before either is added: a failure must not leave the lists out of step.
             const QString gameId = records.value(idColumn);
             const QString name = records.value(nameColumn);
+            characters += gameId.size() + name.size();
+            if (characters > mostCharacters)
+                throw RunTimeError(errors::outOfMemory);
             view.addGame(gameId);
             view.addTitle(name);
             if (withProgress)
@@ -190,7 +198,7 @@ void GameList::Load_LBIcons()
         view.addImage(m_services.state.SkinPath + file);
     view.setRedrawFlag(false);
     // One past the last row, which is meant; the list takes no notice of it.
-    for (int row = 0; row <= view.gameCount(); ++row)
+    for (int row = 0; row <= view.gameCount() && view.goesOn(); ++row)
         view.setImageIndex(row, regionImage(view.game(row)));
     view.setStatus(u"0"_s);
     view.setRedrawFlag(true);

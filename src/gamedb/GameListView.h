@@ -11,6 +11,9 @@ public:
     virtual ~GameListView() = default;
 
     virtual void showBusy(bool busy) = 0; ///< the mouse pointer: 11, 0
+    /// Called in every walk over many rows: the windows stay painted, and at the start the splash hears its
+    /// double click; nothing else happens. False when the program is to end.
+    virtual bool goesOn() = 0;
 
     virtual void clearGames() = 0;                   ///< MorphListBox1.Clear
     virtual void clearTitles() = 0;                  ///< List1.Clear

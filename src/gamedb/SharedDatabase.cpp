@@ -7,8 +7,8 @@ namespace varnhold {
 
 using namespace Qt::StringLiterals;
 
-SharedDatabase::SharedDatabase(const Settings& settings, MessageBoxes& boxes)
-    : m_settings(settings), m_boxes(boxes)
+SharedDatabase::SharedDatabase(const Settings& settings, MessageBoxes& boxes, DatabaseWatch* watch)
+    : DBConn(watch), m_watch(watch), m_settings(settings), m_boxes(boxes)
 {
 }
 

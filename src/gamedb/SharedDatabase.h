@@ -12,6 +12,7 @@
 
 namespace varnhold {
 
+class DatabaseWatch;
 class MessageBoxes;
 class Settings;
 
@@ -20,7 +21,8 @@ class Settings;
 class SharedDatabase
 {
 public:
-    SharedDatabase(const Settings& settings, MessageBoxes& boxes);
+    /// `watch`, which may be null, watches over every connection.
+    SharedDatabase(const Settings& settings, MessageBoxes& boxes, DatabaseWatch* watch = nullptr);
 
     QString DBConnFile;   ///< the tag of txt_IDList at the last connect
     QString DBConnString; ///< of the last connect
@@ -51,8 +53,11 @@ public:
     void report(const RunTimeError& error);
     /// Closes what is open, without failing.
     void release();
+    /// For who opens a connection of its own.
+    [[nodiscard]] DatabaseWatch* watch() const { return m_watch; }
 
 private:
+    DatabaseWatch* m_watch;
     const Settings& m_settings;
     MessageBoxes& m_boxes;
 };

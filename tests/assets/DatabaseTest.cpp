@@ -131,11 +131,13 @@ TEST_F(DatabaseTest, HoldsTitlesOfAllRegionsAndOfTheSampleService)
     const Table all = games();
     EXPECT_GE(all.size(), 190U);
     QSet<int> regions;
+    QSet<QString> prefixes;
     for (const auto& [id, row] : all) {
         EXPECT_EQ(id.size(), 9) << qPrintable(id);
         EXPECT_EQ(row.name, row.name.trimmed()) << qPrintable(id);
         EXPECT_FALSE(row.name.isEmpty()) << qPrintable(id);
         regions << regionImage(id);
+        prefixes << id.left(4);
     }
     EXPECT_EQ(regions.size(), 7) << "one row at least with each of the flags";
     for (const host::SampleTitle& sample : host::sampleTitles()) {
@@ -151,7 +153,10 @@ TEST_F(DatabaseTest, HoldsTitlesOfAllRegionsAndOfTheSampleService)
         EXPECT_EQ(all.at(id).name, row.name);
         EXPECT_EQ(all.at(id).image, row.image) << qPrintable(id);
         ownNotes += all.at(id).notes != row.notes ? 1 : 0;
+        prefixes.remove(id.left(4));
     }
+    EXPECT_TRUE(prefixes.isEmpty()) << "the user's own of every region: "
+                                    << qPrintable(QStringList(prefixes.values()).join(u' '));
     EXPECT_GE(ownNotes, 8);
 }
 

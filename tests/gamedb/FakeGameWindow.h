@@ -11,6 +11,7 @@ namespace varnhold::test {
 class FakeGameWindow : public GameListView, public EntryView
 {
 public:
+    bool goesOn() override { return true; }
     void showBusy(bool busy) override { note(busy ? "busy" : "idle"); }
 
     void clearGames() override

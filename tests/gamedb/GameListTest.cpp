@@ -100,7 +100,8 @@ TEST_F(GameListTest, ShowsAnotherDatabase)
 
     choose(root.path(u"gone.mdb"_s));
     list.loadChosenDatabase();
-    EXPECT_EQ(window.taken(), emptied + QStringList({u"busy"_s, u"bar 0"_s, u"no bar"_s, u"idle"_s}));
+    EXPECT_EQ(window.taken(), emptied + QStringList({u"busy"_s, u"bar 0"_s, u"no bar"_s,
+                                                     u"blank List Count: 0"_s, u"idle"_s}));
     EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::cannotOpen)});
 }
 

@@ -89,6 +89,8 @@ void StartUp::load()
     m_services.main.games().setRedrawFlag(true);
     showStatus(u"Loading: List"_s);
     m_services.loadGameList();
+    if (m_services.splash->isAbandoned())
+        throw Ending();
     showStatus(u"Loading: Form Transparency"_s);
     m_services.shape(m_services.main);
     m_services.sounds.play(Sound::Open);

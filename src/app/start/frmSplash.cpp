@@ -65,6 +65,7 @@ void frmSplash::setMessage(const QString& text)
 bool frmSplash::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_warning && event->type() == QEvent::MouseButtonDblClick) {
+        m_abandoned = true;
         Q_EMIT abandoned();
         return true;
     }

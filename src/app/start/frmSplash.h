@@ -17,6 +17,7 @@ public:
 
     void setStatus(const QString& text);  ///< lblLoading
     void setMessage(const QString& text); ///< lblMessage
+    [[nodiscard]] bool isAbandoned() const { return m_abandoned; }
 
 Q_SIGNALS:
     /// The user does not want to wait: the program is to end.
@@ -32,6 +33,7 @@ private:
     QLabel* m_loading;
     QLabel* m_message;
     QLabel* m_warning;
+    bool m_abandoned = false;
 };
 
 } // namespace varnhold

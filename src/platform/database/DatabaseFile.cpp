@@ -1,5 +1,6 @@
 #include "platform/database/DatabaseFile.h"
 
+#include "platform/ReadFile.h"
 #include "platform/database/DatabaseErrors.h"
 #include "platform/database/TextFolding.h"
 
@@ -47,7 +48,7 @@ DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patien
 {
     // A folder, a pipe or an empty file are no databases, though the engine would take the last for one.
     const QFileInfo info(path);
-    if (path.isEmpty() || path.contains(QChar(u'\0')) || !info.isFile() || info.size() == 0)
+    if (path.isEmpty() || path.contains(QChar(u'\0')) || !isRegularFile(path) || info.size() == 0)
         throw databaseError(errors::database::cannotOpen, path);
     const QString fullPath = info.absoluteFilePath();
     m_engine = open(fullPath);

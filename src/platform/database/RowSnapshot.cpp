@@ -61,9 +61,9 @@ bool looksShort(DatabaseFile& file, const TableSchema& table, int column, const 
     return 2 * filled > rows.size();
 }
 
-/// Rows that may be equal as texts, however they are stored: to the engine a number in a column without a type
-/// is no text, and a blob nowhere is one. Blobs stand behind all texts and numbers before, so an index finds
-/// these too; that they are rare keeps the engine from reading everything.
+/// Rows that may be equal as texts, however they are stored: to the engine a number in a column without a
+/// type is no text, and a blob nowhere is one. Blobs stand behind all texts and numbers before, so an index
+/// finds these too; that they are rare keeps the engine from reading everything.
 QByteArray equalInAnyType(const QByteArray& column, const QString& value)
 {
     QByteArray condition = column + " = ?1 COLLATE NOCASE OR likelihood(" + column + " >= x'', 0.00001)";

@@ -3,6 +3,7 @@
 #include "StartUpWorld.h"
 
 #include "app/GameListOnWindows.h"
+#include "app/WindowPainter.h"
 #include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
 #include "controls/MorphListBox/MorphListBox.h"
@@ -14,6 +15,11 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
+
+#include <utility>
 
 namespace varnhold::test {
 
@@ -64,7 +70,8 @@ protected:
     MenuCommands commands;
     frmMenu menu{commands, sounds};
     SharedDatabase database{settings, boxes};
-    GameListOnWindows view{{main, menu, settingsWindow, list, splash}};
+    WindowPainter painter;
+    GameListOnWindows view{{main, menu, settingsWindow, list, splash}, painter};
     GameList games{{database, state, settings, view, sounds, boxes}};
     QString splashStatus;
     QString splashMessage;
@@ -121,6 +128,32 @@ TEST_F(StartWithDatabase, AsksForTheNamesOfTables)
     made.execute(u"ALTER TABLE Titles RENAME TO Games"_s);
     games.loadChosenDatabase();
     EXPECT_EQ(main.games().ListCount(), 3) << "repaired, and nothing is left open";
+}
+
+TEST_F(StartWithDatabase, HearsTheSplashAndNothingElseInALongLoad)
+{
+    makeDatabase().execute(
+        u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 200000) "
+        "INSERT INTO PS3Games (GameID, GameName) SELECT 'BL' || i, 'Title ' || i FROM n"_s);
+    const auto load = std::exchange(loadGameList, [] {});
+    int others = 0;
+    loadGameList = [&] {
+        const auto press = [](QWidget& on) {
+            QCoreApplication::postEvent(&on, new QMouseEvent(QEvent::MouseButtonDblClick, QPointF(2, 2),
+                                                             on.mapToGlobal(QPointF(2, 2)), Qt::LeftButton,
+                                                             Qt::LeftButton, Qt::NoModifier));
+        };
+        auto* const button = new QPushButton(&main);
+        QObject::connect(button, &QPushButton::pressed, button, [&] { ++others; });
+        QTimer::singleShot(1, button, [&] { ++others; });
+        press(*button);
+        press(child<QLabel>(*splash, "lblWarning"));
+        load();
+        delete button;
+    };
+    EXPECT_EQ(startUp.run(), StartUp::Outcome::Ended);
+    EXPECT_LT(main.games().ListCount(), 200'000);
+    EXPECT_EQ(others, 0);
 }
 
 TEST_F(StartWithDatabase, LoadsAnotherDatabaseOnlyWhenTheUserWants)
