@@ -1,6 +1,9 @@
 #include "platform/XmlTreeText.h"
 
+#include "platform/XmlBounds.h"
+
 #include <QStringBuilder>
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -134,6 +137,22 @@ private:
     bool m_openElement = false;
 };
 
+/// The text that a reader which has just begun with the document will see of it. It began as the first bytes
+/// suggest, and began again with the encoding that the declaration names, going on behind the declaration.
+QString remainingText(const QXmlStreamReader& reader, const QByteArray& document)
+{
+    const QByteArray named = reader.documentEncoding().toUtf8();
+    QStringDecoder decoder =
+        named.isEmpty()
+            ? QStringDecoder(
+                  QStringConverter::encodingForData(document, u'<').value_or(QStringConverter::Utf8))
+            : QStringDecoder(named.constData());
+    QString text = decoder.decode(document);
+    if (!named.isEmpty())
+        text.remove(0, reader.characterOffset());
+    return text;
+}
+
 } // namespace
 
 std::optional<QString> xmlTreeText(const QByteArray& document)
@@ -141,12 +160,13 @@ std::optional<QString> xmlTreeText(const QByteArray& document)
     QXmlStreamReader reader(document);
     // Names are shown as they are written, name space declarations among the attributes.
     reader.setNamespaceProcessing(false);
+    if (reader.readNext() != QXmlStreamReader::StartDocument ||
+        !withinXmlBounds(remainingText(reader, document)))
+        return std::nullopt;
     TreeWriter tree(document.size() + document.size() / 8);
+    tree.declaration(reader);
     while (!reader.atEnd() && !tree.tooLong()) {
         switch (reader.readNext()) {
-        case QXmlStreamReader::StartDocument:
-            tree.declaration(reader);
-            break;
         case QXmlStreamReader::StartElement:
             tree.startElement(reader);
             break;

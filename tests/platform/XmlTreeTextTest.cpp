@@ -70,6 +70,54 @@ TEST(XmlTreeText, RefusesWhatIsNotWellFormed)
         EXPECT_EQ(xmlTreeText(one), std::nullopt) << one.left(40).constData();
 }
 
+TEST(XmlTreeText, BoundsWhatATagAndADocumentTypeMakeTheReaderCompare)
+{
+    const auto repeated = [](const char* before, int count, const char* after = "=''") {
+        QByteArray text;
+        for (int i = 0; i < count; ++i)
+            text += before + QByteArray::number(i) + after;
+        return text;
+    };
+    const auto withType = [](const QByteArray& subset, const QByteArray& content = "") {
+        return QByteArray("<!DOCTYPE a [" + subset + "]><a>" + content + "</a>");
+    };
+    const auto wide = [](QByteArray text, const QByteArray& declaration) {
+        text.prepend(declaration);
+        QByteArray out;
+        for (const char c : text)
+            out.append(c).append('\0');
+        return out;
+    };
+    const QByteArray parameter = "<!ENTITY % p '<!ATTLIST a b CDATA \"\">'>";
+    const QByteArray large(2'000'000, '=');
+    const struct
+    {
+        const char* name;
+        QByteArray document;
+        bool isShown;
+    } cases[] = {
+        {"a tag", "<a" + repeated(" b", 256) + "/>", true},
+        {"a fuller tag", "<a><b/><c" + repeated(" b", 257) + "/></a>", false},
+        {"name spaces", "<a" + repeated(" xmlns:b", 257) + "/>", false},
+        {"in wide characters",
+         wide("<a" + repeated(" b", 257) + "/>", "<?xml version='1.0' encoding='UTF-16LE'?>"), false},
+        {"defaults", withType("<!ATTLIST a" + repeated(" b", 64, " CDATA #FIXED ''") + ">"), true},
+        {"more defaults", withType(repeated("<!ATTLIST a b", 257, " CDATA #IMPLIED>")), false},
+        {"brought by a parameter", withType(parameter + "%p;"), true},
+        {"brought often", withType(parameter + QByteArray("%p;").repeated(257)), false},
+        {"a tag in an entity", withType("<!ENTITY e '<a" + repeated(" b", 257, "=\"\"") + "/>'>", "&e;"),
+         false},
+        {"references", withType("<!ENTITY e 'x'>", QByteArray("&e;").repeated(4096)), true},
+        {"more references", withType("<!ENTITY e ''>", "<b c='" + QByteArray("&e;").repeated(4097) + "'/>"),
+         false},
+        {"what is no reference", "<a>" + QByteArray("&amp;&#65;").repeated(5000) + "</a>", true},
+        {"signs in text",
+         "<a><!--" + large + "--><![CDATA[" + large + "]]>" + large + "<?p " + large + "?></a>", true},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(xmlTreeText(one.document).has_value(), one.isShown) << one.name;
+}
+
 TEST(XmlTreeText, StaysBoundedWhereTheTreeIsDeep)
 {
     constexpr int depth = 100000;
