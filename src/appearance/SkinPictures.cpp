@@ -2,13 +2,12 @@
 
 #include "platform/Files.h"
 #include "platform/RunTimeError.h"
+#include "platform/pictures/PictureHeader.h"
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QtEndian>
 
 #include <cstdlib>
-#include <optional>
 
 namespace varnhold {
 
@@ -17,52 +16,16 @@ namespace {
 constexpr qint64 mostPixels = qint64(128) << 18; // 128 MB at four bytes each
 constexpr int iconSide = 16;
 
-/// What a bitmap's header tells. The toolkit's reader keeps silent about one that it finds too large, and
-/// takes one that ends too early for whole.
-struct BitmapHeader
-{
-    qint64 pixelsAt;
-    qint64 width;
-    qint64 height;
-    int bits;
-    bool packed; ///< how many bytes its pixels take cannot be told
-};
-
-template <typename Number> Number numberAt(const QByteArray& bytes, qsizetype at)
-{
-    return qFromLittleEndian<Number>(bytes.constData() + at);
-}
-
-std::optional<BitmapHeader> bitmapHeader(const QByteArray& bytes)
-{
-    constexpr qsizetype least = 34; // up to the kind of packing
-    constexpr quint32 oldHeader = 12;
-    if (!bytes.startsWith("BM") || bytes.size() < least)
-        return std::nullopt;
-    const auto pixelsAt = numberAt<quint32>(bytes, 10);
-    if (numberAt<quint32>(bytes, 14) == oldHeader)
-        return BitmapHeader{pixelsAt, numberAt<quint16>(bytes, 18), numberAt<quint16>(bytes, 20),
-                            numberAt<quint16>(bytes, 24), false};
-    constexpr quint32 bitFields = 3;
-    const auto packing = numberAt<quint32>(bytes, 30);
-    return BitmapHeader{pixelsAt, numberAt<qint32>(bytes, 18), std::abs(qint64{numberAt<qint32>(bytes, 22)}),
-                        numberAt<quint16>(bytes, 28), packing != 0 && packing != bitFields};
-}
-
 /// Throws for a picture whose header asks for too much, or for more than there is.
 void checkHeader(const QByteArray& bytes, const QImageReader& reader)
 {
-    const std::optional<BitmapHeader> bitmap = bitmapHeader(bytes);
-    const QSize told = reader.size();
-    const qint64 pixels =
-        bitmap ? bitmap->width * bitmap->height : qint64{told.width()} * qint64{told.height()};
-    if (pixels > mostPixels)
+    // The toolkit's reader keeps silent about a bitmap that it finds too large, and takes one that ends too
+    // early for whole.
+    const PictureHeader header = pictureHeader(bytes);
+    const QSize told = header.kind == PictureKind::Bitmap ? header.size : reader.size();
+    if (qint64{told.width()} * qint64{told.height()} > mostPixels)
         throw RunTimeError(errors::outOfMemory);
-    if (!bitmap || bitmap->packed)
-        return;
-    const qint64 row = (bitmap->width * bitmap->bits + 31) / 32 * 4;
-    const qint64 lastRow = (bitmap->width * bitmap->bits + 7) / 8; // some writers leave its padding out
-    if (bitmap->pixelsAt + row * (bitmap->height - 1) + lastRow > bytes.size())
+    if (header.kind == PictureKind::Bitmap && !hasAllRows(bytes))
         throw RunTimeError(errors::invalidPicture);
 }
 

@@ -8,9 +8,9 @@
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
-#include "covers/CoverPicture.h"
 #include "gamedb/NotesBox.h"
 #include "platform/ElidedLabel.h"
+#include "platform/pictures/PictureReader.h"
 
 #include <QPixmap>
 
@@ -117,13 +117,13 @@ void frmMain::Make_Links()
 
 void frmMain::showStoredPicture(const QByteArray& bytes)
 {
-    if (!m_picPreview->setPictureFrom([bytes](const QSize& most) { return coverPicture(bytes, most); }))
+    if (!m_picPreview->setPictureFrom([bytes](const QSize& most) { return readPicture(bytes, most); }))
         showBlankPicture();
 }
 
 void frmMain::showCoverFile(const QString& path)
 {
-    if (!m_picPreview->setPictureFrom([path](const QSize& most) { return coverPictureFile(path, most); }))
+    if (!m_picPreview->setPictureFrom([path](const QSize& most) { return readPictureFile(path, most); }))
         showBlankPicture();
 }
 
