@@ -48,8 +48,8 @@ public:
     [[nodiscard]] const QString& databaseSize() const { return m_values.databaseSize; } ///< lblFSize
 
     [[nodiscard]] const QString& unwantedStrings() const { return m_values.unwantedStrings; }
-    /// Line ends are CR LF, and are written as they are: reading takes the first line only, until the box of
-    /// RemoveUnw is clicked.
+    /// Line ends are CR LF and are kept here; the file takes the first line only, until the box of RemoveUnw
+    /// is clicked.
     void setUnwantedStrings(const QString& text);
 
     /// Both can be off after a start without keys; a click sets one and clears the other.

@@ -1,7 +1,6 @@
 #include "state/SettingsFile.h"
 
 #include "platform/Files.h"
-#include "platform/IniFile.h"
 #include "platform/Trim.h"
 #include "state/ApplicationState.h"
 #include "state/Paths.h"
@@ -18,49 +17,76 @@ constexpr int longBufferSize = 1500;
 
 } // namespace
 
-SettingsFile::SettingsFile(const Paths& paths, const ApplicationState& state) : m_paths(paths), m_state(state)
+SettingsFile::SettingsFile(const Paths& paths, const ApplicationState& state)
+    : m_paths(paths), m_state(state), m_settings(paths.settingsIni()), m_skin(QString())
 {
 }
 
 QString SettingsFile::INI_Read(const QString& section, const QString& key, const QString& fallback) const
 {
-    return IniFile(m_paths.settingsIni()).read(section, key, fallback, bufferSize);
+    return settings().read(section, key, fallback, bufferSize);
 }
 
 QString SettingsFile::INI_Read_Long(const QString& section, const QString& key, const QString& fallback) const
 {
-    return IniFile(m_paths.settingsIni()).read(section, key, fallback, longBufferSize);
+    return settings().read(section, key, fallback, longBufferSize);
 }
 
 void SettingsFile::INI_Write(const QString& section, const QString& key, const QString& value)
 {
-    IniFile(m_paths.settingsIni()).write(section, key, trimBlanks(value));
+    settings().write(section, key, trimBlanks(value));
 }
 
 void SettingsFile::INI_Delete_Section(const QString& section)
 {
-    IniFile(m_paths.settingsIni()).deleteSection(section);
+    settings().deleteSection(section);
 }
 
 QString SettingsFile::Skin_Read(const QString& section, const QString& key, const QString& fallback) const
 {
-    return IniFile(skinIni()).read(section, key, fallback, bufferSize);
+    return skin().read(section, key, fallback, bufferSize);
 }
 
 void SettingsFile::Skin_Write(const QString& section, const QString& key, const QString& value)
 {
-    IniFile(skinIni()).write(section, key, value);
+    skin().write(section, key, value);
 }
 
 void SettingsFile::Skin_Delete_Section(const QString& section)
 {
-    IniFile(skinIni()).deleteSection(section);
+    skin().deleteSection(section);
 }
 
-QString SettingsFile::skinIni() const
+QList<IniEntry> SettingsFile::readSection(const QString& section) const
+{
+    return settings().readSection(section, bufferSize);
+}
+
+bool SettingsFile::replaceSections(const QList<IniSection>& sections)
+{
+    QList<IniSection> trimmed = sections;
+    for (IniSection& section : trimmed) {
+        for (IniEntry& entry : section.entries)
+            entry.value = trimBlanks(entry.value);
+    }
+    return settings().replaceSections(trimmed);
+}
+
+IniFile& SettingsFile::settings() const
+{
+    const QString path = m_paths.settingsIni();
+    if (m_settings.path() != path)
+        m_settings = IniFile(path);
+    return m_settings;
+}
+
+IniFile& SettingsFile::skin() const
 {
     // Skins come from systems that take no notice of case.
-    return foldedFile(m_state.SkinPath, u"Skin.ini"_s);
+    const QString path = foldedFile(m_state.SkinPath, u"Skin.ini"_s);
+    if (m_skin.path() != path)
+        m_skin = IniFile(path);
+    return m_skin;
 }
 
 } // namespace varnhold

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/IniFile.h"
+
+#include <QList>
 #include <QString>
 
 namespace varnhold {
@@ -7,10 +10,10 @@ namespace varnhold {
 struct ApplicationState;
 struct Paths;
 
-/// The routines by which the program reads and writes Settings.ini, and Skin.ini of the skin in use. There is
-/// no cache, the file name is worked out on each call, and no call reports a failure: reading gives the
-/// default, a write that fails leaves the file as it was. A key that is there with an empty value reads as
-/// empty, not as the default.
+/// The routines by which the program reads and writes Settings.ini, and Skin.ini of the skin in use. What
+/// another hand wrote counts at once, the file name is worked out on each call, and no call reports a
+/// failure: reading gives the default, a write that fails leaves the file as it was. A key that is there with
+/// an empty value reads as empty, not as the default.
 class SettingsFile
 {
 public:
@@ -25,6 +28,12 @@ public:
     void INI_Write(const QString& section, const QString& key, const QString& value);
     void INI_Delete_Section(const QString& section);
 
+    /// All keys of a section of Settings.ini in their order, each value at most 254 characters.
+    [[nodiscard]] QList<IniEntry> readSection(const QString& section) const;
+    /// Replaces whole sections of Settings.ini in one write, so that a kill leaves all the old ones or all
+    /// the new. Blanks round the values are cut off. False where the write failed and the old ones stand.
+    bool replaceSections(const QList<IniSection>& sections);
+
     [[nodiscard]] QString Skin_Read(const QString& section, const QString& key,
                                     const QString& fallback) const;
     /// The value is written as it is.
@@ -32,10 +41,13 @@ public:
     void Skin_Delete_Section(const QString& section);
 
 private:
-    [[nodiscard]] QString skinIni() const;
+    [[nodiscard]] IniFile& settings() const;
+    [[nodiscard]] IniFile& skin() const;
 
     const Paths& m_paths;
     const ApplicationState& m_state;
+    mutable IniFile m_settings;
+    mutable IniFile m_skin;
 };
 
 } // namespace varnhold

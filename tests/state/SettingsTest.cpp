@@ -46,8 +46,8 @@ TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)
          },
          "Remove Unwanted=1\r\nUnwanted Strings=a,b\r\n"},
         {[](Settings& s) { s.setUnwantedStrings(u"  a, b  "_s); }, "Unwanted Strings=a, b\r\n"},
-        // A line end goes out as it was typed.
-        {[](Settings& s) { s.setUnwantedStrings(u"a,\r\nb"_s); }, "Unwanted Strings=a,\r\nb\r\n"},
+        // The file's value ends where it would end on reading.
+        {[](Settings& s) { s.setUnwantedStrings(u"a,\r\nb\r\n[Position]"_s); }, "Unwanted Strings=a,\r\n"},
         {[](Settings& s) { s.setUnwantedStrings(QString(1600, u'x')); },
          "Unwanted Strings=" + QByteArray(1600, 'x') + "\r\n"},
         {[](Settings& s) { s.chooseCertOption(1); }, "Opt0 Cert=False\r\nOpt1 Cert=True\r\n"},

@@ -206,7 +206,7 @@ bool frmSettings::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_unwanted && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        // The key itself goes its way: a line break is written, and stripped by the next click of the box.
+        // The key itself goes its way: the file takes the first line, until a click of RemoveUnw joins all.
         if (key == Qt::Key_Control || key == Qt::Key_Return || key == Qt::Key_Enter)
             m_warnLater.start();
     }
