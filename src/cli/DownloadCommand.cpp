@@ -6,6 +6,7 @@
 #include "cli/TitleLookup.h"
 #include "lookup/MarkRows.h"
 #include "platform/Files.h"
+#include "platform/MessagePump.h"
 #include "platform/RunTimeError.h"
 
 #include <QDir>
@@ -19,27 +20,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestFileName = 255; ///< bytes, on all usual file systems
-
 [[noreturn]] void fail(const QString& sentence)
 {
     throw RunTimeError(errors::pathFileAccess, sentence);
 }
 
-/// Where the packages go. Throws RunTimeError with a sentence.
-QString folderFor(const Arguments& arguments, const Session& session, const QString& gameId,
+/// Where the packages go by the settings; empty when they name no folder. Throws RunTimeError with a
+/// sentence.
+QString folderOfSettings(const Settings& settings, const QString& gameId, const QString& title)
+{
+    if (!settings.isChecked(Check::UseDLD))
+        return {};
+    if (settings.saveDir().tag.isEmpty())
+        fail(u"The settings use a download folder and name none; name one with --to."_s);
+    if (settings.isChecked(Check::CGNFolder) && !isOneName(titleFolderName(gameId, title)))
+        fail(u"The settings ask for a folder of the title's name, and no folder can be called \"%1\"; name "
+             u"one "
+             "with --to."_s.arg(titleFolderName(gameId, title)));
+    return titleFolder(settings, gameId, title);
+}
+
+/// Where the packages go, made when it is missing. Throws RunTimeError with a sentence.
+QString folderFor(const Arguments& arguments, const Settings& settings, const QString& gameId,
                   const QString& title)
 {
-    const Settings& settings = session.settings();
     QString folder = arguments.value(u"to"_s);
-    if (folder.isEmpty() && settings.isChecked(Check::UseDLD)) {
-        if (settings.saveDir().tag.isEmpty())
-            fail(u"The settings use a download folder and name none; name one with --to."_s);
-        folder = titleFolder(settings, gameId, title);
-    }
     if (folder.isEmpty())
-        folder = QDir::currentPath();
-    folder = QDir::cleanPath(QDir(folder).absolutePath());
+        folder = folderOfSettings(settings, gameId, title);
+    folder = QDir::cleanPath(QDir(folder.isEmpty() ? QDir::currentPath() : folder).absolutePath());
     // A download makes its other names by replacing these, wherever they stand in the path.
     if (folder.contains(u".pkg"_s) || folder.contains(u".temp"_s))
         fail(u"Packages cannot be kept in \"%1\": its name holds \".pkg\" or \".temp\"."_s.arg(folder));
@@ -51,20 +59,6 @@ QString folderFor(const Arguments& arguments, const Session& session, const QStr
         }
     }
     return folder;
-}
-
-/// The last part of the package's address, as far as a file may have that name. Throws RunTimeError.
-QString fileNameOf(const Package& package)
-{
-    if (package.url.isEmpty())
-        fail(u"The document gives no address for package %1."_s.arg(package.version));
-    const QString name = package.url.sliced(package.url.lastIndexOf(u'/') + 1);
-    const bool odd = std::ranges::any_of(name, [](QChar character) { return !character.isPrint(); });
-    if (odd || !name.endsWith(u".pkg"_s) || name == u".pkg"_s || name.contains(u".temp"_s) ||
-        name.toUtf8().size() > longestFileName)
-        fail(u"The address of package %1 does not end in the name of a .pkg file: %2"_s.arg(package.version,
-                                                                                            package.url));
-    return name;
 }
 
 QList<Package> chosen(const Arguments& arguments, const QList<Package>& packages)
@@ -88,34 +82,59 @@ ExitCode report(Terminal& terminal, const QString& line, SumAgreement agreement)
     return ExitCode::Fine;
 }
 
+/// No value when nothing stands at the target, or something that is to be replaced. Throws RunTimeError with
+/// a sentence when it is in the way.
+std::optional<ExitCode> standsAlready(Terminal& terminal, const Package& package, const PackageTarget& target)
+{
+    const QFileInfo there(target.path);
+    if (!there.exists() && !there.isSymLink())
+        return std::nullopt;
+    if (!there.isFile() && !(there.isSymLink() && target.overwrite))
+        fail(u"%1 is there already and is no file."_s.arg(target.path));
+    if (target.overwrite)
+        return std::nullopt;
+    const SumAgreement agreement = compareSum(target.path, package.sha1);
+    if (agreement == SumAgreement::WholeFile || agreement == SumAgreement::AllButTail)
+        return report(terminal, printable(u"%1  %2  is there already"_s.arg(package.version, target.path)),
+                      agreement);
+    fail(u"%1 is there already and is not that package; --overwrite replaces it."_s.arg(target.path));
+}
+
+/// Shows its progress and waits for its end.
+void waitFor(PackageFetch& fetch, const Package& package, Terminal& terminal)
+{
+    EventLoopPump pump;
+    QObject::connect(&fetch, &PackageFetch::progress, &fetch,
+                     [&] { terminal.showProgress(progressLine(package.version, fetch.labels())); });
+    fetch.start();
+    while (!fetch.isEnded())
+        pump.pumpNext();
+    terminal.clearProgress();
+}
+
 /// Throws RunTimeError with a sentence for what cannot be downloaded.
 ExitCode downloadOne(const Arguments& arguments, Session& session, const Package& package,
                      const QString& folder)
 {
     Terminal& terminal = session.terminal();
-    const QString target = (folder.endsWith(u'/') ? folder : folder + u'/') + fileNameOf(package);
-    if (QFileInfo::exists(target) && !arguments.has(u"overwrite"_s)) {
-        const bool isFile = QFileInfo(target).isFile();
-        const SumAgreement agreement = isFile ? compareSum(target, package.sha1) : SumAgreement::Neither;
-        if (agreement == SumAgreement::WholeFile || agreement == SumAgreement::AllButTail)
-            return report(terminal, printable(u"%1  %2  is there already"_s.arg(package.version, target)),
-                          agreement);
-        fail(isFile ? u"%1 is there already and is not that package; --overwrite replaces it."_s.arg(target)
-                    : u"%1 is there already and is no file."_s.arg(target));
-    }
-    if (const std::optional<QString> problem = fetchPackage(session, package, target)) {
-        if (!problem->isEmpty())
-            terminal.complain(printable(*problem));
-        return ExitCode::Failed;
-    }
-    const qint64 size = QFileInfo(target).size();
-    const std::optional<qint64> wanted = package.size();
-    if (wanted && *wanted != size)
-        fail(u"%1 has %2 bytes, and the document says %3; --overwrite fetches it again."_s.arg(target)
-                 .arg(size)
-                 .arg(*wanted));
-    return report(terminal, printable(u"%1  %2  %3 bytes"_s.arg(package.version, target).arg(size)),
-                  compareSum(target, package.sha1));
+    if (package.url.isEmpty())
+        fail(u"The document gives no address for package %1."_s.arg(package.version));
+    if (const QString fault = addressFault(package.url); !fault.isEmpty())
+        fail(u"The address of package %1 %2: %3"_s.arg(package.version, fault, package.url));
+    const PackageTarget target{(folder.endsWith(u'/') ? folder : folder + u'/') +
+                                   packageFileName(package.url),
+                               package.size(), arguments.has(u"overwrite"_s)};
+    if (const std::optional<ExitCode> already = standsAlready(terminal, package, target))
+        return *already;
+
+    PackageFetch fetch(package.url, target, session.patience());
+    waitFor(fetch, package, terminal);
+    if (!fetch.hasArrived())
+        fail(fetch.problem());
+    return report(
+        terminal,
+        printable(u"%1  %2  %3 bytes"_s.arg(package.version, target.path).arg(QFileInfo(target.path).size())),
+        compareSum(target.path, package.sha1));
 }
 
 ExitCode run(const Arguments& arguments, Terminal& terminal)
@@ -137,7 +156,7 @@ ExitCode run(const Arguments& arguments, Terminal& terminal)
                                                                 : u"%1 has no packages."_s.arg(gameId)));
         return ExitCode::NoSuchTitle;
     }
-    const QString folder = folderFor(arguments, session, gameId, updates.title);
+    const QString folder = folderFor(arguments, session.settings(), gameId, updates.title);
     ExitCode worst = ExitCode::Fine;
     for (const Package& package : packages) {
         ExitCode one = ExitCode::Failed;
@@ -167,7 +186,8 @@ Command downloadCommand()
           "is in use, else the current folder."_s,
           u"folder"_s},
          {u"overwrite"_s, u"Replace files that are there."_s},
-         serverOption()},
+         serverOption(),
+         timeoutOption()},
         run};
 }
 

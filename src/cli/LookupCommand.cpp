@@ -48,7 +48,7 @@ void printJson(Terminal& terminal, const QString& gameId, const TitleUpdates& up
         });
     }
     const QJsonObject object{{u"id"_s, gameId}, {u"title"_s, updates.title}, {u"packages"_s, packages}};
-    terminal.printRaw(QJsonDocument(object).toJson());
+    terminal.printJson(QJsonDocument(object));
 }
 
 ExitCode run(const Arguments& arguments, Terminal& terminal)
@@ -73,7 +73,7 @@ Command lookupCommand()
     return {u"lookup"_s,
             u"ID"_s,
             u"Lists the packages of a title."_s,
-            {{u"json"_s, u"Print JSON instead of a table."_s}, serverOption()},
+            {{u"json"_s, u"Print JSON instead of a table."_s}, serverOption(), timeoutOption()},
             run};
 }
 

@@ -16,6 +16,25 @@ QString printable(QString text)
     return text;
 }
 
+namespace {
+
+/// JSON itself leaves U+007F to U+009F and the marks of direction as they are.
+QByteArray safeJson(const QJsonDocument& document)
+{
+    QString text;
+    for (const QChar character : QString::fromUtf8(document.toJson())) {
+        const bool steers =
+            character.category() == QChar::Other_Control || character.category() == QChar::Other_Format;
+        if (steers && character != u'\n')
+            text += u"\\u%1"_s.arg(character.unicode(), 4, 16, QChar(u'0'));
+        else
+            text += character;
+    }
+    return text.toUtf8();
+}
+
+} // namespace
+
 Terminal::Terminal() : m_showsProgress(::isatty(STDERR_FILENO) == 1) {}
 
 void Terminal::print(const QString& text)
@@ -28,6 +47,11 @@ void Terminal::printRaw(const QByteArray& bytes)
     clearProgress();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
     std::fflush(stdout);
+}
+
+void Terminal::printJson(const QJsonDocument& document)
+{
+    printRaw(safeJson(document));
 }
 
 void Terminal::complain(const QString& text)
@@ -54,24 +78,31 @@ void Terminal::clearProgress()
     m_progressLength = 0;
 }
 
-BoxAnswer TerminalBoxes::show(const MessageBox& box)
+QString oneLine(const QString& text)
 {
-    if (box.icon == BoxIcon::Critical || box.icon == BoxIcon::Exclamation)
-        ++m_failures;
-    // A box has lines and tabs, a complaint is one line.
-    const QStringList lines = QString(box.text).replace(u'\t', u' ').split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = QString(text).replace(u'\t', u' ').split(u'\n', Qt::SkipEmptyParts);
     QStringList parts;
     for (const QString& line : lines)
         if (const QString part = line.simplified(); !part.isEmpty())
             parts.append(part);
-    m_terminal.complain(printable(parts.join(u"; "_s)));
+    return parts.join(u"; "_s);
+}
+
+BoxAnswer TerminalBoxes::show(const MessageBox& box)
+{
+    if (box.icon == BoxIcon::Critical || box.icon == BoxIcon::Exclamation)
+        ++m_failures;
+    m_terminal.complain(printable(oneLine(box.text)));
     return box.buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Ok;
 }
 
 bool TerminalAlert::accept(const QString& host, const QStringList& problems)
 {
-    m_terminal.complain(printable(u"The certificate of %1 is not good: %2 Nothing was fetched. To trust its "
-                                  "authority, name it in hosts.ini."_s.arg(host, problems.join(u' '))));
+    QString reasons;
+    for (const QString& problem : problems)
+        reasons += problem.endsWith(u'.') ? u' ' + problem : u' ' + problem + u'.';
+    m_terminal.complain(printable(u"The certificate of %1 is not good.%2 Nothing was fetched. To trust its "
+                                  "authority, name it in hosts.ini."_s.arg(host, reasons)));
     return false;
 }
 

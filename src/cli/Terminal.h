@@ -3,12 +3,15 @@
 #include "platform/MessageBoxes.h"
 #include "platform/NetworkBrowser.h"
 
+#include <QJsonDocument>
 #include <QString>
 
 namespace varnhold::cli {
 
 /// The text without what would steer a terminal: control characters become "?". Documents come from outside.
 QString printable(QString text);
+/// A box has lines and tabs, a complaint is one line.
+QString oneLine(const QString& text);
 
 /// The three things that reach the user: results on standard output, complaints on standard error, and one
 /// line of progress on standard error, which appears on a terminal only and is gone at the next complaint.
@@ -21,6 +24,8 @@ public:
     void print(const QString& text);
     /// As it is.
     void printRaw(const QByteArray& bytes);
+    /// What would steer a terminal is escaped.
+    void printJson(const QJsonDocument& document);
     void complain(const QString& text);
 
     void showProgress(const QString& line);

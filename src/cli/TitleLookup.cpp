@@ -72,7 +72,8 @@ TitleUpdates lookUp(Session& session, const QString& gameId)
     }
 
     TerminalAlert alert(session.terminal());
-    NetworkBrowser browser(alert, [&](const QString& asked) { return tlsOf(session.hosts(), asked); });
+    NetworkBrowser browser(alert, [&](const QString& asked) { return tlsOf(session.hosts(), asked); },
+                           nullptr, {.silence = session.patience()});
     UpdateList list;
     UnseenLookupView view(gameId);
     NoSound player;

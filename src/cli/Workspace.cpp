@@ -1,6 +1,7 @@
 #include "cli/Workspace.h"
 
 #include "cli/Arguments.h"
+#include "platform/Files.h"
 #include "platform/RunTimeError.h"
 #include "state/Hosts.h"
 #include "state/SettingsLoad.h"
@@ -42,6 +43,9 @@ QString defaultListUrl(const Paths& paths)
 
 Paths pathsFor(const Arguments& arguments)
 {
+    // The window makes it; here it is more likely a slip of the pen.
+    if (!arguments.root.isEmpty() && !FolderExists(arguments.root))
+        throw RunTimeError(errors::pathNotFound, u"There is no folder \"%1\"."_s.arg(arguments.root));
     const QString folder = QCoreApplication::applicationDirPath();
     return findPaths(arguments.root, folder, folder + u"/../share/varnhold"_s);
 }

@@ -17,6 +17,14 @@ namespace varnhold {
 
 namespace {
 
+/// A NUL would cut the path short, and another file would be meant.
+QByteArray systemPath(const QString& path)
+{
+    if (path.contains(QChar::Null))
+        throw RunTimeError(errors::badFileName);
+    return QFile::encodeName(path);
+}
+
 class DiskFile : public DownloadFile
 {
 public:
@@ -28,7 +36,7 @@ public:
     void open(const QString& path) override
     {
         close();
-        m_descriptor = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+        m_descriptor = ::open(systemPath(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
         if (m_descriptor < 0)
             throw errorFromErrno(errno);
     }
@@ -96,14 +104,14 @@ bool DiskFiles::exists(const QString& path)
 
 void DiskFiles::remove(const QString& path)
 {
-    if (::unlink(QFile::encodeName(path).constData()) != 0)
+    if (::unlink(systemPath(path).constData()) != 0)
         throw errorFromErrno(errno, errors::fileNotFound);
 }
 
 void DiskFiles::rename(const QString& from, const QString& to)
 {
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
+    const QByteArray source = systemPath(from);
+    const QByteArray target = systemPath(to);
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return;
     // Some file systems know no such flag; there the look and the rename are two steps.
@@ -119,7 +127,7 @@ void DiskFiles::rename(const QString& from, const QString& to)
 void DiskFiles::createEmpty(const QString& path)
 {
     const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+        ::open(systemPath(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (descriptor < 0)
         throw errorFromErrno(errno);
     ::close(descriptor);

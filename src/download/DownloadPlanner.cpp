@@ -218,8 +218,12 @@ QString DownloadPlanner::folderFor(const Route& route, const Request& request)
     if (route.where == Route::Where::Batch)
         return m_services.state.DLFolder;
     const QString folder = titleFolder(m_services.settings, request.gameId, request.name);
-    if (m_services.settings.isChecked(Check::UseDLD) && m_services.settings.isChecked(Check::CGNFolder))
+    if (m_services.settings.isChecked(Check::UseDLD) && m_services.settings.isChecked(Check::CGNFolder)) {
+        // As the system has it, but where folders that are there would let it lead elsewhere.
+        if (titleFolderName(request.gameId, request.name).contains(u'/'))
+            throw RunTimeError(errors::pathNotFound);
         m_services.files.makeFolder(folder);
+    }
     return folder;
 }
 

@@ -51,14 +51,21 @@ QString titleFolder(const Settings& settings, const QString& gameId, const QStri
     const QString& base = settings.saveDir().tag;
     if (!settings.isChecked(Check::CGNFolder))
         return base;
-    return base + u'/' + gameId + u"-["_s + name + u']';
+    return base + u'/' + titleFolderName(gameId, name);
+}
+
+QString titleFolderName(const QString& gameId, const QString& name)
+{
+    return gameId + u"-["_s + name + u']';
 }
 
 void Mark_Rows(UpdateList& list, const Settings& settings, ApplicationState& state, const QString& gameIdText,
                const QString& info)
 {
     const QString folder = titleFolder(settings, gameIdText, info);
-    const bool folderMissing = !folder.isEmpty() && !FolderExists(folder);
+    const bool leadsElsewhere = !folder.isEmpty() && settings.isChecked(Check::CGNFolder) &&
+                                !isOneName(titleFolderName(gameIdText, info));
+    const bool folderMissing = !folder.isEmpty() && (leadsElsewhere || !FolderExists(folder));
     for (int row = 1; row <= list.count(); ++row) {
         state.IniValue = list.subItem(row, UpdateList::Url);
         if (folderMissing)

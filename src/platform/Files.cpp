@@ -11,6 +11,8 @@
 
 namespace varnhold {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The mode of what the path names, links followed; no value on any error.
@@ -46,6 +48,13 @@ QString foldedFile(const QString& folder, const QString& name)
             return walk.filePath();
     }
     return exact;
+}
+
+bool isOneName(const QString& name)
+{
+    constexpr qsizetype longestName = 255; // bytes, on all usual file systems
+    return !name.isEmpty() && name != u"."_s && name != u".."_s && !name.contains(u'/') &&
+           !name.contains(QChar::Null) && QFile::encodeName(name).size() <= longestName;
 }
 
 bool FolderExists(const QString& path)

@@ -12,6 +12,11 @@ bool FileExists(const QString& path);
 /// none. One that matches exactly goes first.
 QString foldedFile(const QString& folder, const QString& name);
 
+/// True for a text that can stand for one name in a folder, and leads nowhere else: not empty, no ".", no
+/// "..", no "/" and no NUL in it, at most 255 bytes. What comes from outside (titles, addresses, ids) is
+/// asked so before it becomes a part of a path.
+bool isOneName(const QString& name);
+
 /// True for a folder, with or without a "/" at its end; any error is false.
 bool FolderExists(const QString& path);
 

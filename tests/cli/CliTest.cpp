@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QProcess>
 
 namespace varnhold::test {
@@ -164,6 +165,16 @@ TEST_F(Cli, GoesToTheFolderOfTheSettings)
     EXPECT_TRUE(QFileInfo::exists(
         root.path(u"down/NPUB30055-[Kite Harbor]/"_s + package(u"NPUB30055"_s, u"0101"_s))));
     EXPECT_TRUE(service.requests().first().startsWith("/tppkg/np/'"));
+
+    for (const QString& title : {u"../../../out"_s, u"AC/DC"_s, QString(300, u'x')}) {
+        service.with([&](host::SampleService& running) {
+            running.site().addTitle({u"NPUB30055"_s, title, {}, false, {{u"01.01"_s, {}, 20000}}});
+        });
+        const Ran ran = cli({u"download"_s, u"NPUB30055"_s});
+        EXPECT_EQ(ran.code, 1);
+        EXPECT_TRUE(ran.err.contains("no folder can be called")) << ran.err.constData();
+    }
+    EXPECT_EQ(QDir(root.path(u"down"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
 
 TEST_F(Cli, FailuresHaveCodesAndSentences)
@@ -186,6 +197,10 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
         document(u"ODDD00006"_s, "size=\"four\"");
         document(u"ODDD00007"_s, "sha1sum=\"00\"");
         document(u"ODDD00008"_s, "size=\"1e300\" url=\"" + origin + "/four.temp.pkg\"");
+        document(u"ODDD00009"_s, "size=\"4\" url=\"" + origin + "/five.pkg\"");
+        document(u"ODDD00010"_s, "url=\"" + origin + '/' + QByteArray(251, 'n') + ".pkg\"");
+        document(u"ODDD00011"_s, "url=\"" + origin + "/\xf0\x9f\x98\x80.pkg\"");
+        running.site().addPage(u"/five.pkg"_s, "application/octet-stream", "fives");
         running.site().addPage(u"/four.pkg"_s, "application/octet-stream", "four");
     });
     service.misbehave(u"*/'BCUS10001/*"_s, u"not-xml"_s);
@@ -194,6 +209,9 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
     service.misbehave(u"*BLES00256*A0101*"_s, u"404"_s);
     service.misbehave(u"*BLES00256*A0102*"_s, u"early-close:500000"_s);
     service.misbehave(u"*BCUS10244*.pkg"_s, u"reset"_s);
+    service.misbehave(u"*BCJS30042*.pkg"_s, u"endless-redirect"_s);
+    service.misbehave(u"*NPUB30781*.pkg"_s, u"stall:1000"_s);
+    service.misbehave(u"*NPJB00094*"_s, u"stall"_s);
     const QStringList server2 = {u"--server"_s, u"2"_s};
     const struct
     {
@@ -227,14 +245,22 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
         {{u"download"_s, u"BLES00256"_s, u"--package"_s, u"01.01"_s},
          1,
          "the server answered \"404 Not Found\""},
-        {{u"download"_s, u"BLES00256"_s}, 1, "has 500000 bytes, and the document says 2000000"},
+        {{u"download"_s, u"BLES00256"_s}, 1, "500000 bytes came, and the document says 2000000"},
         {{u"download"_s, u"BCUS10244"_s}, 1, "reset by remote side"},
         {QStringList{u"download"_s, u"ODDD00001"_s} + server2, 4, "SHA-1 does not agree"},
         {QStringList{u"download"_s, u"ODDD00002"_s} + server2, 1, "is there already"},
         {QStringList{u"download"_s, u"ODDD00002"_s, u"--overwrite"_s} + server2, 1, "the document says 5"},
         {QStringList{u"download"_s, u"ODDD00003"_s} + server2, 1, "does not end in the name of a .pkg file"},
-        {QStringList{u"download"_s, u"ODDD00004"_s, u"--overwrite"_s} + server2, 1, "URL is not valid"},
-        {QStringList{u"download"_s, u"ODDD00005"_s, u"--overwrite"_s} + server2, 1, "rejected"},
+        {QStringList{u"download"_s, u"ODDD00004"_s, u"--overwrite"_s} + server2, 1, "begins with https"},
+        {QStringList{u"download"_s, u"ODDD00005"_s, u"--overwrite"_s} + server2, 1,
+         "127.0.0.1:1: Connection"},
+        {QStringList{u"download"_s, u"ODDD00009"_s} + server2, 1, "more comes than the 4 bytes"},
+        {QStringList{u"download"_s, u"ODDD00010"_s} + server2, 1, "a name of 255 bytes"},
+        {QStringList{u"download"_s, u"ODDD00011"_s} + server2, 1, "a request cannot carry"},
+        {{u"download"_s, u"BCJS30042"_s}, 1, "sent on from one address to the next"},
+        {{u"download"_s, u"NPUB30781"_s, u"--timeout"_s, u"1"_s}, 1, "nothing came for 1 s"},
+        {{u"lookup"_s, u"NPJB00094"_s, u"--timeout"_s, u"1"_s}, 1, "timed out"},
+        {{u"lookup"_s, u"NPJB00094"_s, u"--timeout"_s, u"0"_s}, 2, "1 to 86400"},
         {QStringList{u"lookup"_s, u"ODDD00007"_s, u"--json"_s} + server2, 0, ""},
         {QStringList{u"download"_s, u"ODDD00007"_s} + server2, 1, "gives no address"},
         {QStringList{u"lookup"_s, u"ODDD00008"_s, u"--json"_s} + server2, 0, ""},
@@ -252,7 +278,84 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
                                                 << ran.err.constData();
         EXPECT_FALSE(ran.err.contains('\t'));
     }
-    EXPECT_EQ(downloaded().filter(u".temp"_s), QStringList());
+    // Nothing stays but what has arrived, and its marker.
+    EXPECT_EQ(downloaded(), (QStringList{u"four.pkg"_s, u"four.txt"_s}));
+    const Ran rootless = run({u"hosts"_s, u"--root"_s, root.path(u"nowhere"_s)});
+    EXPECT_TRUE(rootless.code == 1 && rootless.err.contains("There is no folder"))
+        << rootless.err.constData();
+    EXPECT_FALSE(QFileInfo::exists(root.path(u"nowhere"_s)));
+}
+
+/// What stands beside a package before and after, each by the ending of its name; "->" begins what a link
+/// points at.
+TEST_F(Cli, LeavesAloneWhatIsNotItsOwn)
+{
+    using Files = QMap<QString, QByteArray>;
+    const QByteArray notes = root.path(u"notes"_s).toUtf8();
+    service.misbehave(u"*NPEB00112*.pkg"_s, u"early-close"_s);
+    const struct
+    {
+        QString id;
+        Files before;
+        QStringList options;
+        int code;
+        QByteArray says;
+        Files after; ///< "*": the package
+    } cases[] = {
+        {u"NPUB30055"_s, {{u"txt"_s, "mine"}}, {}, 1, "no empty file", {{u"txt"_s, "mine"}}},
+        {u"NPUB30055"_s,
+         {{u"txt"_s, "mine"}, {u"pkg"_s, "old"}},
+         {u"--overwrite"_s},
+         1,
+         "no empty file",
+         {{u"txt"_s, "mine"}, {u"pkg"_s, "old"}}},
+        {u"NPUB30055"_s, {{u"txt"_s, "->" + notes}}, {}, 1, "no empty file", {{u"txt"_s, "->" + notes}}},
+        {u"NPUB30055"_s, {{u"temp"_s, "mine"}}, {}, 1, "no rest of an earlier", {{u"temp"_s, "mine"}}},
+        {u"NPUB30055"_s,
+         {{u"txt"_s, ""}, {u"temp"_s, "->" + notes}},
+         {},
+         1,
+         "no rest of an earlier",
+         {{u"txt"_s, ""}, {u"temp"_s, "->" + notes}}},
+        {u"NPUB30055"_s, {{u"txt"_s, ""}, {u"temp"_s, "rest"}}, {}, 0, "", {{u"txt"_s, ""}, {u"pkg"_s, "*"}}},
+        {u"NPUB30055"_s,
+         {{u"pkg"_s, "->" + notes}},
+         {u"--overwrite"_s},
+         0,
+         "",
+         {{u"txt"_s, ""}, {u"pkg"_s, "*"}}},
+        // A new one that does not arrive takes neither the old one with it nor its marker.
+        {u"NPEB00112"_s,
+         {{u"txt"_s, ""}, {u"pkg"_s, "old"}},
+         {u"--overwrite"_s},
+         1,
+         "bytes came",
+         {{u"txt"_s, ""}, {u"pkg"_s, "old"}}},
+    };
+    for (const auto& row : cases) {
+        const QString folder = root.path(u"down"_s);
+        QDir(folder).removeRecursively();
+        root.makeFolder(u"down"_s);
+        root.write(u"notes"_s, "notes");
+        const QString base = folder + u'/' + QString(package(row.id, u"0101"_s)).chopped(3);
+        for (auto file = row.before.cbegin(); file != row.before.cend(); ++file) {
+            if (file.value().startsWith("->"))
+                QFile::link(QString::fromUtf8(file.value().sliced(2)), base + file.key());
+            else
+                root.write(u"down/"_s + QFileInfo(base + file.key()).fileName(), file.value());
+        }
+        const Ran ran = download(QStringList{row.id} + row.options);
+        SCOPED_TRACE(testing::Message() << row.says.constData() << ": " << ran.err.constData());
+        EXPECT_EQ(ran.code, row.code);
+        EXPECT_TRUE(ran.err.contains(row.says));
+        Files after;
+        for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::System))
+            after.insert(file.suffix(), file.isSymLink()       ? "->" + file.symLinkTarget().toUtf8()
+                                        : file.size() == 20000 ? QByteArray("*")
+                                                               : root.read(u"down/"_s + file.fileName()));
+        EXPECT_EQ(after, row.after);
+        EXPECT_EQ(root.read(u"notes"_s), "notes");
+    }
 }
 
 TEST_F(Cli, DocumentsCannotSteerTheTerminal)
@@ -265,6 +368,8 @@ TEST_F(Cli, DocumentsCannotSteerTheTerminal)
     const Ran ran = cli({u"lookup"_s, u"ODDD00001"_s, u"--server"_s, u"2"_s});
     EXPECT_EQ(ran.code, 0) << ran.err.constData();
     EXPECT_TRUE(ran.out.contains("a?31mb")) << ran.out.constData();
+    const Ran json = cli({u"lookup"_s, u"ODDD00001"_s, u"--server"_s, u"2"_s, u"--json"_s});
+    EXPECT_TRUE(json.out.contains("a\\u009b31mb")) << json.out.constData();
 }
 
 TEST_F(Cli, ShowsHostsAndHelp)
