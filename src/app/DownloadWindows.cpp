@@ -82,4 +82,15 @@ int DownloadWindows::selectedRow() const
     return m_main.selectedUpdateRow();
 }
 
+QStringList DownloadWindows::filesInUse() const
+{
+    QStringList paths;
+    for (const QPointer<frm_Winsock>& window : m_windows) {
+        const QString path = window ? window->client().openPath() : QString();
+        if (!path.isEmpty())
+            paths.append(path);
+    }
+    return paths;
+}
+
 } // namespace varnhold

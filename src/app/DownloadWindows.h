@@ -34,6 +34,7 @@ public:
     [[nodiscard]] QString gameIdText() const override;
     [[nodiscard]] QString info() const override;
     [[nodiscard]] int selectedRow() const override;
+    [[nodiscard]] QStringList filesInUse() const override;
 
 private:
     frm_Winsock::Services m_services;

@@ -92,6 +92,11 @@ void DownloadClient::setPath(const QString& folder)
     Q_EMIT labelsChanged();
 }
 
+QString DownloadClient::openPath() const
+{
+    return m_file->isOpen() ? m_tempPath : QString();
+}
+
 QString DownloadClient::finalPath() const
 {
     return QString(m_workPath).replace(u".temp"_s, u".pkg"_s);

@@ -58,6 +58,8 @@ public:
     void lblName_Click();
 
     [[nodiscard]] QString workPath() const { return m_workPath; }
+    /// The temporary file while it is open; empty otherwise, also for a window that stranded after its close.
+    [[nodiscard]] QString openPath() const;
     /// Where the finished file lies or would lie.
     [[nodiscard]] QString finalPath() const;
     [[nodiscard]] qint32 fileSize() const { return m_fileSize; } ///< -1: the server named none

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace varnhold {
 
@@ -32,6 +33,8 @@ public:
     [[nodiscard]] virtual QString gameIdText() const = 0; ///< frmMain.txtGameID
     [[nodiscard]] virtual QString info() const = 0;       ///< frmMain.lblInfo
     [[nodiscard]] virtual int selectedRow() const = 0;    ///< of ListView1, from 1; 0 when none
+    /// Paths of the temporary files that download windows hold open now.
+    [[nodiscard]] virtual QStringList filesInUse() const = 0;
 };
 
 } // namespace varnhold

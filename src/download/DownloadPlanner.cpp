@@ -3,6 +3,7 @@
 #include "download/DownloadClient.h"
 #include "download/NumericValue.h"
 #include "lookup/MarkRows.h"
+#include "lookup/PackageNames.h"
 #include "lookup/UpdateList.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
@@ -85,15 +86,6 @@ private:
     DownloadWindow* m_window = nullptr;
     QPointer<DownloadClient> m_client;
 };
-
-namespace {
-
-QString fileNameOf(const QString& url)
-{
-    return url.mid(url.lastIndexOf(u'/') + 1);
-}
-
-} // namespace
 
 DownloadPlanner::DownloadPlanner(Services services) : m_services(std::move(services)) {}
 
@@ -231,6 +223,9 @@ std::optional<DownloadPlanner::Target>
 DownloadPlanner::batchTarget(const Route& route, const Request& request, const QString& folder)
 {
     const QString path = folder + u'/' + request.fileName;
+    // Two rows of one target would write into one temporary file.
+    if (m_services.host.filesInUse().contains(folder + u'/' + packageNames(request.fileName).temporary))
+        return std::nullopt;
     if (m_services.files.exists(path)) {
         if (!m_services.settings.isChecked(Check::OWrite))
             return std::nullopt;

@@ -1,5 +1,6 @@
 #include "lookup/MarkRows.h"
 
+#include "lookup/PackageNames.h"
 #include "lookup/UpdateList.h"
 #include "platform/Files.h"
 #include "state/ApplicationState.h"
@@ -23,19 +24,16 @@ QString sizeTextOnDisk(const QString& path)
 
 void markRow(UpdateList& list, int row, const QString& folder, const QString& url)
 {
-    const QString name = url.mid(url.lastIndexOf(u'/') + 1);
-    const QString package = folder + u'/' + name;
-    const auto sibling = [&](const QString& extension) {
-        return QString(folder + u'/' + QString(name).replace(u".pkg"_s, extension));
-    };
+    const PackageNames names = packageNames(url);
+    const QString package = folder + u'/' + names.package;
     // Every mark needs the marker file, and most rows have none.
-    if (!FileExists(sibling(u".txt"_s)))
+    if (!FileExists(folder + u'/' + names.marker))
         return;
     if (FileExists(package)) {
-        if (!name.isEmpty())
+        if (!names.package.isEmpty())
             list.setIcon(row, sizeTextOnDisk(package) == list.subItem(row, UpdateList::Size) ? u"pkg-plus"_s
                                                                                              : u"pkg-red"_s);
-    } else if (FileExists(sibling(u".temp"_s))) {
+    } else if (FileExists(folder + u'/' + names.temporary)) {
         list.setIcon(row, u"pkg-red"_s);
     } else {
         list.setIcon(row, u"plus"_s);

@@ -116,6 +116,18 @@ void UpdateList::setSubItem(int row, SubItem item, QStringView text)
     tell(row, item);
 }
 
+void UpdateList::removeRow(int row)
+{
+    const auto index = static_cast<std::ptrdiff_t>(indexOf(row));
+    if (m_fills == 0)
+        beginRemoveRows({}, row - 1, row - 1);
+    for (std::vector<Cell>& column : m_cells)
+        column.erase(column.begin() + index);
+    m_marks.erase(m_marks.begin() + index);
+    if (m_fills == 0)
+        endRemoveRows();
+}
+
 void UpdateList::setReportIcon(int row, const QString& key)
 {
     m_marks[indexOf(row)].reportIcon = key;

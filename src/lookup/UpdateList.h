@@ -38,6 +38,7 @@ public:
     void addRow(QStringView text);
     /// Sets a sub-item though an earlier one may be missing. RunTimeError 35600 when row is not 1 to count().
     void setSubItem(int row, SubItem item, QStringView text);
+    void removeRow(int row);                         ///< 35600 out of range
     void setReportIcon(int row, const QString& key); ///< of sub-item 1
 
     [[nodiscard]] QString text(int row) const;                  ///< row text; 35600 out of range

@@ -1,29 +1,11 @@
 #include "download/DownloadPlanner.h"
-#include "download/DownloadClient.h"
+#include "PlannerWorld.h"
 #include "download/SkinDownloads.h"
-#include "lookup/UpdateList.h"
-#include "platform/RunTimeError.h"
-#include "state/ApplicationState.h"
 #include "state/Hosts.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
-#include "state/Sounds.h"
-#include "support/FakeClock.h"
-#include "support/FakeDownloadFiles.h"
-#include "support/FakeFileDialogs.h"
-#include "support/FakeMessageBoxes.h"
-#include "support/FakePump.h"
 #include "support/FakeShell.h"
-#include "support/FakeSocket.h"
-#include "support/FakeSoundPlayer.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
-
-#include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
-#include <vector>
 
 namespace varnhold::test {
 
@@ -31,87 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class FakeWindow : public DownloadWindow
+class DownloadPlannerTest : public testing::Test, public PlannerWorld
 {
-public:
-    FakeWindow(const DownloadClient::Services& services, QStringList& log) : m_client(services), m_log(log) {}
-
-    DownloadClient& client() override { return m_client; }
-    void place(double left, double top) override { m_log.append(u"place %1 %2"_s.arg(left).arg(top)); }
-    void loadSkin() override { m_log.append(u"skin"_s); }
-    void show() override { m_log.append(u"show"_s); }
-
-private:
-    DownloadClient m_client;
-    QStringList& m_log;
 };
 
-class DownloadPlannerTest : public testing::Test, public DownloadHost
-{
-protected:
-    DownloadPlannerTest()
-    {
-        settings.setSaveDir(u"/dl"_s);
-        settings.setDownloadMax(5);
-        settings.setChecked(Check::UseDLD, true);
-        settings.setChecked(Check::SoundsClick, true);
-        settings.setSound(1, {u"menu"_s, u"/menu.wav"_s});
-        for (const QString& name : {u"a.pkg"_s, u"b.pkg"_s, u"c.pkg"_s}) {
-            list.addRow(u"01.00"_s);
-            list.setSubItem(list.count(), UpdateList::Url, u"http://host/"_s + name);
-        }
-    }
-
-    DownloadWindow& makeWindow() override
-    {
-        windows.push_back(std::make_unique<FakeWindow>(
-            DownloadClient::Services{sockets, files, clock, pump, boxes, u"Title"_s}, log));
-        return *windows.back();
-    }
-    void drop(DownloadWindow& window) override
-    {
-        EXPECT_EQ(&window, windows.back().get());
-        windows.pop_back();
-    }
-    void showCount(int count) override { shownCount = count; }
-    [[nodiscard]] double mainLeft() const override { return 1000; }
-    [[nodiscard]] double mainTop() const override { return 2000; }
-    [[nodiscard]] QString gameIdText() const override { return u"BLUS30443"_s; }
-    [[nodiscard]] QString info() const override { return u"Game"_s; }
-    [[nodiscard]] int selectedRow() const override { return selected; }
-
-    const DownloadLabels& labels() { return windows.back()->client().labels(); }
-    QString cascade()
-    {
-        return QStringList(planner.downloadSlots().lstFrm.begin(), planner.downloadSlots().lstFrm.end())
-            .join(u' ');
-    }
-    void unload(std::size_t index)
-    {
-        planner.windowUnloaded(windows.at(index)->client());
-        windows.erase(windows.begin() + static_cast<std::ptrdiff_t>(index));
-    }
-    void expectLimitBox() { boxes.expect(u"Download Limit Reached\r\nPlease Wait"_s, u"Limit Reached"_s); }
-
-    TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
-    UpdateList list;
-    FakeDownloadFiles files;
-    FakeFileDialogs dialogs;
-    FakeMessageBoxes boxes;
-    FakeSoundPlayer player;
-    Sounds sounds{settings, player, state};
-    FakeSocketMaker sockets;
-    FakeClock clock;
-    FakePump pump;
-    QStringList log;
-    std::vector<std::unique_ptr<FakeWindow>> windows;
-    int shownCount = -1;
-    int selected = 1;
-    DownloadPlanner planner{{state, settings, list, *this, files, dialogs, boxes, sounds, u"Title"_s}};
-};
+} // namespace
 
 TEST_F(DownloadPlannerTest, startsEachRouteInItsOwnWay)
 {
@@ -379,7 +285,5 @@ TEST_F(DownloadPlannerTest, opensTheForumForSkins)
     EXPECT_EQ(shell.opened, QStringList{u"http://forum.test:81/forum/viewtopic.php?p=943#943"_s});
     EXPECT_EQ(player.played, QStringList{u"/menu.wav"_s});
 }
-
-} // namespace
 
 } // namespace varnhold::test
