@@ -3,6 +3,8 @@
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
+#include "app/settings/OpacityPage.h"
+#include "app/settings/SkinChoicePage.h"
 #include "app/settings/frmSettings.h"
 #include "appearance/ButtonSigns.h"
 #include "download/SkinDownloads.h"
@@ -11,14 +13,26 @@
 
 namespace varnhold {
 
-AppearanceOwner::AppearanceOwner(const Common& common, SkinPage& page)
-    : m_windows(common.main, common.settingsWindow, common.menu, common.splash),
+AppearanceOwner::AppearanceOwner(const Common& common)
+    : m_common(common),
+      m_choice(common.settingsWindow.add<SkinChoicePage>(common.settings, m_page, common.state)),
+      m_windows({common.main, common.settingsWindow, m_choice, common.menu, common.splash}),
       m_transForm(common.world.boxes),
-      m_skin({common.state, common.settings, common.file, common.paths, page, common.world.boxes,
+      m_skin({common.state, common.settings, common.file, common.paths, m_page, common.world.boxes,
               common.world.dialogs, common.sounds, common.pump, m_transForm, m_windows})
 {
-    connectWindows(common);
-    bindCommands(common);
+    connectWindows();
+    bindCommands();
+    const auto& opacity = common.settingsWindow.add<OpacityPage>(common.settings);
+    connect(&opacity, &OpacityPage::opacityMoved, this, &AppearanceOwner::opacityMoved);
+    connect(&opacity, &OpacityPage::opacityMoved, this, &AppearanceOwner::setOpacity);
+}
+
+void AppearanceOwner::applySkin()
+{
+    drawButtonSigns(m_common.main); // buttons without faces bear them too
+    drawButtonSigns(m_common.settingsWindow);
+    m_skin.ApplySkin();
 }
 
 void AppearanceOwner::dressDownload(QWidget& window)
@@ -27,13 +41,10 @@ void AppearanceOwner::dressDownload(QWidget& window)
     drawButtonSigns(window);
 }
 
-void AppearanceOwner::connectWindows(const Common& common)
+void AppearanceOwner::connectWindows()
 {
-    frmMain& main = common.main;
-    frmMenu& menu = common.menu;
-    frmSettings& settings = common.settingsWindow;
-    drawButtonSigns(main); // buttons without faces bear them too
-    drawButtonSigns(settings);
+    frmMain& main = m_common.main;
+    frmMenu& menu = m_common.menu;
     main.setLayoutPictures([this](int layout) { return m_skin.loadLayout(layout); });
     main.setBlankPicture([&menu] { return menu.imgBlank().pixmap(); });
     menu.setGlyphs([this] { m_skin.attachMenuGlyphs(); });
@@ -41,16 +52,15 @@ void AppearanceOwner::connectWindows(const Common& common)
         m_skin.shape(main);
         drawButtonSigns(main);
     });
-    connect(&settings, &frmSettings::skinMenuWanted, &menu,
+    connect(&m_choice, &SkinChoicePage::skinMenuWanted, &menu,
             [&menu](const QPoint& place) { menu.popUp("mnuSkins", place); });
-    connect(&settings, &frmSettings::opacityMoved, this, &AppearanceOwner::setOpacity);
 }
 
-void AppearanceOwner::bindCommands(const Common& common)
+void AppearanceOwner::bindCommands()
 {
-    MenuCommands& commands = common.commands;
+    MenuCommands& commands = m_common.commands;
     commands.bind("mnuSkinDL",
-                  [common] { mnuSkinDL_Click(common.sounds, common.world.shell, common.hosts); });
+                  [this] { mnuSkinDL_Click(m_common.sounds, m_common.world.shell, m_common.hosts); });
     commands.bind("mnuSkin_Refresh", [this] { m_skin.mnuSkin_Refresh_Click(); });
     commands.bind("mnuSkin_Path", [this] { m_skin.mnuSkin_Path_Click(); });
     commands.bindEach("mnuSkin", [this](int index) { m_skin.mnuSkin_Click(index); });

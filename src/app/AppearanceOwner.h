@@ -3,11 +3,14 @@
 #include "app/Common.h"
 #include "app/SkinnedWindows.h"
 #include "appearance/Skin.h"
+#include "appearance/SkinPage.h"
 #include "appearance/TransForm.h"
 
 #include <QObject>
 
 namespace varnhold {
+
+class SkinChoicePage;
 
 /// The program's looks: skins, opacity, and the commands and controls that change them.
 class AppearanceOwner : public QObject
@@ -15,19 +18,28 @@ class AppearanceOwner : public QObject
     Q_OBJECT
 
 public:
-    AppearanceOwner(const Common& common, SkinPage& page);
+    explicit AppearanceOwner(const Common& common);
 
-    void applySkin() { m_skin.ApplySkin(); } ///< to all windows; tells its failures itself
+    [[nodiscard]] const SkinPage& page() const { return m_page; }
+    /// To all windows; tells its failures itself.
+    void applySkin();
     void shape(QWidget& window) { m_skin.shape(window); }
     /// Of a window that stays; see SkinnedWindows.
     void setOpacity(OpacityOf which, int value) { m_windows.setOpacity(which, value); }
     /// Dresses and shapes a download window; failures are ignored.
     void dressDownload(QWidget& window);
 
-private:
-    void connectWindows(const Common& common);
-    void bindCommands(const Common& common);
+Q_SIGNALS:
+    /// The user moved a slider of the opacity page; its key is written.
+    void opacityMoved(varnhold::OpacityOf which, int value);
 
+private:
+    void connectWindows();
+    void bindCommands();
+
+    Common m_common;
+    SkinPage m_page;
+    SkinChoicePage& m_choice;
     SkinnedWindows m_windows;
     clsTransForm m_transForm;
     Skin m_skin;

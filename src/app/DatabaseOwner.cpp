@@ -2,6 +2,7 @@
 
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
+#include "app/settings/DatabasePage.h"
 #include "app/settings/frmSettings.h"
 #include "gamedb/ChooseDatabase.h"
 #include "gamedb/EntryDetails.h"
@@ -11,9 +12,11 @@
 
 namespace varnhold {
 
-DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup)
+DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, const SkinPage& skin)
     : m_database(common.settings, common.world.boxes, &m_painter),
-      m_view({common.main, common.menu, common.settingsWindow, common.list, common.splash}, m_painter),
+      m_page(common.settingsWindow.add<DatabasePage>(common.settings, skin)),
+      m_view({common.main, common.menu, common.settingsWindow, m_page, common.list, common.splash},
+             m_painter),
       m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
 {
     frmMain& main = common.main;
@@ -25,7 +28,7 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup)
             [common](const QString& link) { common.world.shell.open(link); });
     connect(&main, &frmMain::refreshRequested, this, [this] { m_gameList.CmdRefresh_Click(); });
     connect(&main, &frmMain::clearRequested, this, [this] { m_gameList.cmdClear_Click(); });
-    connect(&common.settingsWindow, &frmSettings::btnOpen_Click, this, [this, common] {
+    connect(&m_page, &DatabasePage::btnOpen_Click, this, [this, common] {
         btnOpen_Click(common.settings, common.world.dialogs, common.sounds, common.world.boxes, m_gameList);
     });
     common.commands.bind("mnuLBIcons", [this] { m_gameList.mnuLBIcons_Click(); });

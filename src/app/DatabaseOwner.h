@@ -10,7 +10,9 @@
 
 namespace varnhold {
 
+class DatabasePage;
 class Lookup;
+class SkinPage;
 
 /// The game database: the list of games, the chosen entry, and the choice of another file.
 class DatabaseOwner : public QObject
@@ -18,13 +20,14 @@ class DatabaseOwner : public QObject
     Q_OBJECT
 
 public:
-    DatabaseOwner(const Common& common, Lookup& lookup);
+    DatabaseOwner(const Common& common, Lookup& lookup, const SkinPage& skin);
 
     [[nodiscard]] GameList& gameList() { return m_gameList; }
 
 private:
     WindowPainter m_painter;
     SharedDatabase m_database;
+    DatabasePage& m_page;
     GameListOnWindows m_view;
     GameList m_gameList;
 };

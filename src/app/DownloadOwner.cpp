@@ -1,22 +1,22 @@
 #include "app/DownloadOwner.h"
 
+#include "app/AppearanceOwner.h"
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
-#include "app/settings/frmSettings.h"
 #include "lookup/Lookup.h"
 
 #include <QCoreApplication>
 
 namespace varnhold {
 
-DownloadOwner::DownloadOwner(const Common& common, Lookup& lookup, std::function<void(QWidget&)> dress)
+DownloadOwner::DownloadOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance)
     : m_windows({.client = {common.world.sockets, m_files, m_clock, common.pump, common.world.boxes,
                             QCoreApplication::applicationName()},
                  .state = common.state,
                  .settings = common.settings,
                  .sounds = common.sounds,
                  .screen = common.world.screen,
-                 .skin = std::move(dress)},
+                 .skin = [&appearance](QWidget& window) { appearance.dressDownload(window); }},
                 common.main),
       m_planner({common.state, common.settings, common.list, m_windows, m_files, common.world.dialogs,
                  common.world.boxes, common.sounds, QCoreApplication::applicationName()})
@@ -30,7 +30,7 @@ DownloadOwner::DownloadOwner(const Common& common, Lookup& lookup, std::function
         },
         Qt::QueuedConnection);
     connect(&common.main, &frmMain::updateRowActivated, this, [this] { m_planner.ListView1_DblClick(); });
-    connect(&common.settingsWindow, &frmSettings::opacityMoved, this, [this](OpacityOf which) {
+    connect(&appearance, &AppearanceOwner::opacityMoved, this, [this](OpacityOf which) {
         if (which == OpacityOf::Download)
             m_windows.followOpacity();
     });

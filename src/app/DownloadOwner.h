@@ -10,6 +10,7 @@
 
 namespace varnhold {
 
+class AppearanceOwner;
 class Lookup;
 
 /// Downloads: their windows, the planner, and the ways in which a user starts one.
@@ -18,8 +19,7 @@ class DownloadOwner : public QObject
     Q_OBJECT
 
 public:
-    /// `dress` gives a new window its skin.
-    DownloadOwner(const Common& common, Lookup& lookup, std::function<void(QWidget&)> dress);
+    DownloadOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance);
 
     [[nodiscard]] DownloadPlanner& planner() { return m_planner; }
     void unloadAll() { m_windows.unloadAll(); }

@@ -2,6 +2,7 @@
 
 #include "app/main/frmMain.h"
 #include "app/menu/frmMenu.h"
+#include "app/settings/DatabasePage.h"
 #include "app/settings/frmSettings.h"
 #include "app/start/SplashEars.h"
 #include "app/start/frmSplash.h"
@@ -182,7 +183,7 @@ void GameListOnWindows::showListViews()
 
 void GameListOnWindows::thankOnDatabasePage(const QString& text)
 {
-    m_windows.settings.thankForDatabase(text);
+    m_windows.databasePage.thankForDatabase(text);
 }
 
 bool GameListOnWindows::startupInProgress() const
@@ -204,12 +205,14 @@ void GameListOnWindows::showMessageOnSplash(const QString& text)
 
 void GameListOnWindows::askForDatabase(const QString& label9)
 {
-    m_windows.settings.askForDatabase(m_windows.main, label9);
+    m_windows.settings.showPageOver(m_windows.main, m_windows.databasePage);
+    m_windows.databasePage.askForDatabase(label9);
 }
 
 void GameListOnWindows::askForTables(const QString& caption)
 {
-    m_windows.settings.askForTables(m_windows.main, caption);
+    m_windows.settings.showPageOver(m_windows.main, m_windows.databasePage);
+    m_windows.settings.showCaption(caption);
 }
 
 } // namespace varnhold

@@ -8,6 +8,7 @@
 
 namespace varnhold {
 
+class DatabasePage;
 class DatabaseWatch;
 class UpdateList;
 class frmMain;
@@ -24,6 +25,7 @@ public:
         frmMain& main;
         frmMenu& menu;
         frmSettings& settings;
+        DatabasePage& databasePage; ///< of the settings
         UpdateList& updates;
         const std::unique_ptr<frmSplash>& splash; ///< null once the program has started
     };

@@ -2,7 +2,6 @@
 
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
-#include "app/settings/frmSettings.h"
 #include "lookup/UpdateServers.h"
 #include "platform/Shell.h"
 #include "state/HostAccess.h"
@@ -24,7 +23,6 @@ LookupOwner::LookupOwner(const Common& common)
     connect(&main, &frmMain::fetchRequested, &m_lookup, &Lookup::btnFetch_Click);
     connect(&main, &frmMain::gameRowDoubleClicked, &m_lookup, &Lookup::MorphListBox1_DblClick);
     main.setTipTitle([this] { return m_lookup.title(); });
-    connect(&common.settingsWindow, &frmSettings::autoSslReleased, this, [this] { certificates().start(); });
     connect(&m_browser, &BrowserControl::statusTextChanged, this, [this, &main] {
         if (main.showsPage())
             main.setPage(m_browser.bodyText());

@@ -37,8 +37,7 @@ Program::Program(const Paths& paths, World world)
           [this](const QString& url) { return reachableUrl(m_hosts, url); }),
       m_menu(m_commands, m_sounds),
       m_main({m_state, m_settings, m_list, m_world.boxes, m_sounds, m_world.screen, m_paths}),
-      m_settingsWindow(
-          {m_state, m_settings, m_sounds, m_world.dialogs, m_pump, m_world.screen, m_paths, m_skinPage}),
+      m_settingsWindow({m_state, m_settings, m_sounds, m_world.screen}),
       m_common{.world = m_world,
                .paths = m_paths,
                .hosts = m_hosts,
@@ -54,12 +53,12 @@ Program::Program(const Paths& paths, World world)
                .menu = m_menu,
                .main = m_main,
                .settingsWindow = m_settingsWindow},
-      m_appearance(m_common, m_skinPage),
+      m_appearance(m_common),
       m_lookups(m_common),
-      m_downloads(m_common, m_lookups.lookup(),
-                  [this](QWidget& window) { m_appearance.dressDownload(window); }),
-      m_database(m_common, m_lookups.lookup()),
+      m_downloads(m_common, m_lookups.lookup(), m_appearance),
+      m_database(m_common, m_lookups.lookup(), m_appearance.page()),
       m_covers(m_common),
+      m_settingsPages(m_common, m_lookups.certificates()),
       m_startUp({.state = m_state,
                  .settings = m_settings,
                  .file = m_file,
@@ -114,20 +113,9 @@ void Program::connectMainWindow()
     popUp(&frmMain::mnuLBoxWanted, "mnuLBox", frmMenu::WithSound::Menu);
     popUp(&frmMain::mnuImageWanted, "mnuImage", frmMenu::WithSound::Menu);
     popUp(&frmMain::mnuLViewWanted, "mnuLView", frmMenu::WithSound::No); // the list sounds at the release
-    connect(&m_main, &frmMain::settingsRequested, this, [this] {
-        m_sounds.play(Sound::Menu);
-        openSettings();
-    });
     connect(&m_main, &frmMain::exitRequested, this, [this] { m_exitPath.run(); });
     connect(&m_main, &frmMain::closedByDesktop, this, [this] { m_world.endProcess(); });
-    m_commands.bind("mnuSettings", [this] { openSettings(); });
     m_commands.bind("mnuExit", [this] { m_exitPath.run(); });
-}
-
-void Program::openSettings()
-{
-    constexpr QPoint offset(23, 8); // 340 and 120 twips
-    m_settingsWindow.open(m_main.pos() + offset);
 }
 
 void Program::enableExitButton()

@@ -5,6 +5,7 @@
 #include "app/DatabaseOwner.h"
 #include "app/DownloadOwner.h"
 #include "app/LookupOwner.h"
+#include "app/SettingsOwner.h"
 #include "app/World.h"
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
@@ -12,7 +13,6 @@
 #include "app/settings/frmSettings.h"
 #include "app/start/ExitPath.h"
 #include "app/start/StartUp.h"
-#include "appearance/SkinPage.h"
 #include "lookup/UpdateList.h"
 #include "platform/MessagePump.h"
 #include "platform/NetworkFetch.h"
@@ -53,7 +53,6 @@ public:
 
 private:
     void connectMainWindow();
-    void openSettings();
 
     void enableExitButton() override;
     void setFadeOpacity(int value) override;
@@ -71,8 +70,7 @@ private:
     EventLoopPump m_pump;
     UpdateList m_list;
     std::unique_ptr<frmSplash> m_splash; ///< before the windows, so that it is up while they are built
-    SkinPage m_skinPage;
-    NetworkFetch m_fetch; ///< files of any kind, for whoever waits for one
+    NetworkFetch m_fetch;                ///< files of any kind, for whoever waits for one
     MenuCommands m_commands;
     frmMenu m_menu;
     frmMain m_main;
@@ -83,6 +81,7 @@ private:
     DownloadOwner m_downloads;
     DatabaseOwner m_database;
     CoverOwner m_covers;
+    SettingsOwner m_settingsPages;
     StartUp m_startUp;
     ExitPath m_exitPath;
 };

@@ -2,6 +2,7 @@
 
 #include "app/main/frmMain.h"
 #include "app/menu/frmMenu.h"
+#include "app/settings/SkinChoicePage.h"
 #include "app/settings/frmSettings.h"
 #include "app/start/frmSplash.h"
 #include "appearance/ButtonSigns.h"
@@ -10,12 +11,6 @@
 #include <array>
 
 namespace varnhold {
-
-SkinnedWindows::SkinnedWindows(frmMain& main, frmSettings& settings, frmMenu& menu,
-                               std::unique_ptr<frmSplash>& splash)
-    : m_main(main), m_settings(settings), m_menu(menu), m_splash(splash)
-{
-}
 
 void SkinnedWindows::setOpacity(OpacityOf which, int value)
 {
@@ -26,19 +21,19 @@ void SkinnedWindows::setOpacity(OpacityOf which, int value)
 
 void SkinnedWindows::showStatus(const QString& text)
 {
-    if (m_splash)
-        m_splash->setStatus(text);
+    if (m_windows.splash)
+        m_windows.splash->setStatus(text);
 }
 
 void SkinnedWindows::showMessage(const QString& text)
 {
-    if (m_splash)
-        m_splash->setMessage(text);
+    if (m_windows.splash)
+        m_windows.splash->setMessage(text);
 }
 
 QWidget* SkinnedWindows::window(const char* name)
 {
-    QWidget* const windows[] = {&m_main, &m_settings, &m_menu};
+    QWidget* const windows[] = {&m_windows.main, &m_windows.settings, &m_windows.menu};
     for (QWidget* const each : windows) {
         if (each->objectName() == QLatin1StringView(name))
             return each;
@@ -49,17 +44,17 @@ QWidget* SkinnedWindows::window(const char* name)
 void SkinnedWindows::enlargeMainWindow()
 {
     // While loading the bars have not been read yet, and must not be written.
-    if (m_splash)
-        m_main.startLayout(2);
+    if (m_windows.splash)
+        m_windows.main.startLayout(2);
     else
-        m_main.EnlargeMainWindow();
+        m_windows.main.EnlargeMainWindow();
 }
 
 void SkinnedWindows::takeColors(const SkinPage& page)
 {
-    drawButtonSigns(m_main);
-    drawButtonSigns(m_settings);
-    for (CTooltip* const tip : m_main.findChildren<CTooltip*>()) {
+    drawButtonSigns(m_windows.main);
+    drawButtonSigns(m_windows.settings);
+    for (CTooltip* const tip : m_windows.main.findChildren<CTooltip*>()) {
         tip->setForeColor(page.Shape_Color[SkinPage::Fore]);
         tip->setBackColor(page.Shape_Color[SkinPage::Back]);
     }
@@ -70,12 +65,13 @@ void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
     QStringList captions;
     for (const SkinCatalogue::Entry& skin : catalogue.entries())
         captions << skin.caption;
-    m_menu.fill("mnuSkin", captions);
+    m_windows.menu.fill("mnuSkin", captions);
 }
 
 void SkinnedWindows::askForSkinFolder()
 {
-    m_settings.askForSkin(m_main);
+    m_windows.settings.showPageOver(m_windows.main, m_windows.skinPage);
+    m_windows.skinPage.askForSkin();
 }
 
 } // namespace varnhold

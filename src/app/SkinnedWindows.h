@@ -7,6 +7,7 @@
 
 namespace varnhold {
 
+class SkinChoicePage;
 class frmMain;
 class frmMenu;
 class frmSettings;
@@ -16,7 +17,16 @@ class frmSplash;
 class SkinnedWindows : public SkinHost
 {
 public:
-    SkinnedWindows(frmMain& main, frmSettings& settings, frmMenu& menu, std::unique_ptr<frmSplash>& splash);
+    struct Windows
+    {
+        frmMain& main;
+        frmSettings& settings;
+        SkinChoicePage& skinPage; ///< of the settings
+        frmMenu& menu;
+        std::unique_ptr<frmSplash>& splash; ///< null once the program has started
+    };
+
+    explicit SkinnedWindows(const Windows& windows) : m_windows(windows) {}
 
     /// Opacity 0 to 255 of a window that stays, kept at 20 or above. Without effect on one that is not made,
     /// and on download windows.
@@ -31,10 +41,7 @@ public:
     void askForSkinFolder() override;
 
 private:
-    frmMain& m_main;
-    frmSettings& m_settings;
-    frmMenu& m_menu;
-    std::unique_ptr<frmSplash>& m_splash;
+    Windows m_windows;
 };
 
 } // namespace varnhold

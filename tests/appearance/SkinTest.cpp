@@ -1,7 +1,6 @@
 #include "app/SkinnedWindows.h"
 #include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
-#include "app/settings/frmSettings.h"
 #include "app/start/frmSplash.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
@@ -17,7 +16,7 @@
 #include "support/FakePump.h"
 #include "support/FakeSocket.h"
 
-#include "../app/AppWorld.h"
+#include "../app/SettingsWindow.h"
 
 #include <QAction>
 #include <QDir>
@@ -71,9 +70,10 @@ protected:
     MenuCommands commands;
     frmMenu menu{commands, sounds};
     frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
-    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), page}};
+    SettingsWindow pages{*this, dialogs, pump, page};
+    frmSettings& settingsWindow = pages.window;
     std::unique_ptr<frmSplash> splash = std::make_unique<frmSplash>();
-    SkinnedWindows windows{main, settingsWindow, menu, splash};
+    SkinnedWindows windows{{main, settingsWindow, pages.skin, menu, splash}};
     clsTransForm transForm{boxes};
     Skin skin{{state, settings, file, root.paths(), page, boxes, dialogs, sounds, pump, transForm, windows}};
 };
@@ -371,7 +371,7 @@ TEST_F(SkinTest, KeepsColorsOfAWindowThatIsMadeOverAnother)
     QCoreApplication::processEvents(); // windows meet the toolkit's style before they have a skin
     for (const int index : {2, 1}) {
         ASSERT_TRUE(skin.ApplySkin());
-        settingsWindow.askForDatabase(main, {});
+        settingsWindow.showPageOver(main, pages.database);
         QCoreApplication::processEvents();
         auto& rows = child<QListWidget>(settingsWindow, "List1");
         EXPECT_EQ(rows.grab().toImage().pixelColor(50, 200).rgb(),

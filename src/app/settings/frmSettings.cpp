@@ -1,28 +1,23 @@
 #include "app/settings/frmSettings.h"
 
+#include "app/settings/SettingsPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
-#include "platform/MessagePump.h"
 #include "platform/Wayland.h"
 #include "state/ApplicationState.h"
 #include "state/Settings.h"
 #include "state/Sounds.h"
-#include "state/WaitLoop.h"
 
 #include <QCloseEvent>
 #include <QFontInfo>
-#include <QFrame>
 #include <QGuiApplication>
-#include <QHelpEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QWindow>
 
-#include <utility>
+#include <algorithm>
 
 namespace varnhold {
 
@@ -35,6 +30,17 @@ constexpr QRect listPlace{8, 28, 92, 212};
 constexpr int listRow = 20;
 constexpr QRect pagePlace{108, 28, 284, 212};
 
+// The pages in their order, whoever adds them first.
+constexpr const char* pageOrder[] = {"frm_Covers",   "frm_Database", "frm_Download", "frm_Listtext",
+                                     "frm_Opacity",  "frm_Options",  "frm_Skin(0)",  "frm_Sound",
+                                     "frm_Unwanted", "frm_About"};
+
+auto placeOf(const SettingsPage& page)
+{
+    return std::ranges::find_if(
+        pageOrder, [&](const char* name) { return page.objectName() == QLatin1StringView(name); });
+}
+
 } // namespace
 
 frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_services(services)
@@ -42,33 +48,12 @@ frmSettings::frmSettings(const Services& services) : ShapedWindow(nullptr), m_se
     setObjectName("frmSettings"_L1);
     setWindowTitle(u"Settings: "_s);
     setFixedSize(windowSize);
-    buildFrame();
-    buildDatabase();
-    buildDownload();
-    buildOpacity();
-    buildOptions();
-    buildSkin();
-    buildSounds();
-    buildUnwanted();
-    m_warnLater.setSingleShot(true);
-    connect(&m_warnLater, &QTimer::timeout, this, &frmSettings::warn);
-    m_list->setCurrentRow(0);
-    showPage(0);
-    connect(m_list, &QListWidget::itemClicked, this, [this] {
-        m_services.sounds.play(Sound::Click);
-        showPage(m_list->currentRow());
-    });
-    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
-        // By key; a click comes as itemClicked.
-        if (QGuiApplication::mouseButtons() == Qt::NoButton) {
-            m_services.sounds.play(Sound::Click);
-            showPage(row);
-        }
-    });
-    connect(&m_services.settings, &Settings::changed, this, &frmSettings::refresh);
+    buildCaption();
+    buildList();
+    connect(&services.settings, &Settings::changed, this, &frmSettings::refresh);
 }
 
-void frmSettings::buildFrame()
+void frmSettings::buildCaption()
 {
     auto* icon = new QLabel(u"⚙"_s, this);
     icon->setObjectName("img_Icon"_L1);
@@ -84,9 +69,18 @@ void frmSettings::buildFrame()
                          .keepWorkArea = [this](const WorkArea& area) { m_services.state.workArea = area; }});
     drag->addHandle(*icon);
     drag->addHandle(*m_caption);
-    ButtonEx* close = addButton(*this, "btn_WinState(1)", tr("Close"), {windowSize.width() - 22, 4, 14, 14});
+    auto* close = new ButtonEx(this);
+    close->setObjectName("btn_WinState(1)"_L1);
+    close->setCaption({});
+    close->setToolTip(tr("Close"));
+    close->setAccessibleName(tr("Close"));
+    close->setGeometry(windowSize.width() - 22, 4, 14, 14);
     close->setCancel(true);
     connect(close, &ButtonEx::Click, this, [this] { hide(); });
+}
+
+void frmSettings::buildList()
+{
     m_list = new QListWidget(this);
     m_list->setObjectName("List1"_L1);
     m_list->setAccessibleName(tr("Pages"));
@@ -95,29 +89,33 @@ void frmSettings::buildFrame()
     m_list->setMouseTracking(true);
     connect(m_list, &QListWidget::itemEntered, this,
             [this](const QListWidgetItem* item) { m_list->setToolTip(item->text()); });
+    connect(m_list, &QListWidget::itemClicked, this, [this] {
+        m_services.sounds.play(Sound::Click);
+        showPage(m_list->currentRow());
+    });
+    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
+        // By key; a click comes as itemClicked.
+        if (QGuiApplication::mouseButtons() == Qt::NoButton) {
+            m_services.sounds.play(Sound::Click);
+            showPage(row);
+        }
+    });
 }
 
-QFrame* frmSettings::addPage(const QString& row, const char* name, const QString& caption)
+void frmSettings::addPage(SettingsPage& page)
 {
-    auto* frame = new QFrame(this);
-    frame->setObjectName(QLatin1StringView(name));
-    frame->setGeometry(pagePlace);
-    frame->hide();
-    m_pages.push_back({caption, frame});
-    auto* item = new QListWidgetItem(row, m_list);
+    page.setParent(this);
+    page.setGeometry(pagePlace);
+    const auto next = std::ranges::find_if(
+        m_pages, [&](const SettingsPage* other) { return placeOf(*other) > placeOf(page); });
+    const auto row = static_cast<int>(next - m_pages.begin());
+    m_pages.insert(next, &page);
+    auto* const item = new QListWidgetItem(page.heading().row);
     item->setSizeHint({0, listRow});
-    return frame;
-}
-
-ButtonEx* frmSettings::addButton(QWidget& page, const char* name, const QString& toolTip, const QRect& place)
-{
-    auto* button = new ButtonEx(&page);
-    button->setObjectName(QLatin1StringView(name));
-    button->setCaption({});
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
-    button->setGeometry(place);
-    return button;
+    const QSignalBlocker silence(*m_list);
+    m_list->insertItem(row, item);
+    m_list->setCurrentRow(0);
+    showPage(0);
 }
 
 void frmSettings::showCaption(const QString& text)
@@ -135,9 +133,11 @@ void frmSettings::showPage(int row)
 {
     if (row < 0 || row >= static_cast<int>(m_pages.size()))
         return;
-    showCaption(m_pages.at(static_cast<std::size_t>(row)).caption);
-    for (std::size_t i = 0; i < m_pages.size(); ++i)
-        m_pages[i].frame->setVisible(static_cast<int>(i) == row);
+    SettingsPage* const shown = m_pages[static_cast<std::size_t>(row)];
+    showCaption(shown->heading().caption);
+    for (SettingsPage* const page : m_pages)
+        page->setVisible(page == shown);
+    Q_EMIT pageShown(shown);
 }
 
 void frmSettings::open(const QPoint& place)
@@ -154,7 +154,7 @@ void frmSettings::open(const QPoint& place)
     activateWindow();
 }
 
-void frmSettings::showPageOver(QWidget& owner, const char* name)
+void frmSettings::showPageOver(QWidget& owner, const SettingsPage& page)
 {
     // Window managers keep a dialog above its owner, but not a plain window.
     if (!isVisible())
@@ -165,13 +165,12 @@ void frmSettings::showPageOver(QWidget& owner, const char* name)
     if (!onWayland())
         move(owner.pos());
     refresh();
-    for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        if (m_pages[i].frame->objectName() == QLatin1StringView(name)) {
-            const QSignalBlocker silence(*m_list);
-            m_list->setCurrentRow(static_cast<int>(i));
-            showPage(static_cast<int>(i));
-        }
+    const auto row = static_cast<int>(std::ranges::find(m_pages, &page) - m_pages.begin());
+    {
+        const QSignalBlocker silence(*m_list);
+        m_list->setCurrentRow(row);
     }
+    showPage(row);
     m_awaitsOwner = true;
     if (owner.isVisible())
         followOwner();
@@ -190,34 +189,14 @@ bool frmSettings::followOwner()
 
 void frmSettings::refresh()
 {
-    m_refreshing = true;
-    for (const auto& refresher : m_refreshers)
-        refresher();
-    m_refreshing = false;
+    for (SettingsPage* const page : m_pages)
+        page->refresh();
 }
 
 void frmSettings::closeEvent(QCloseEvent* event)
 {
     event->ignore();
     hide();
-}
-
-bool frmSettings::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_unwanted && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        // The key itself goes its way: the file takes the first line, until a click of RemoveUnw joins all.
-        if (key == Qt::Key_Control || key == Qt::Key_Return || key == Qt::Key_Enter)
-            m_warnLater.start();
-    }
-    return ShapedWindow::eventFilter(watched, event);
-}
-
-void frmSettings::warn()
-{
-    m_warning->show();
-    Wait_Loop(1, m_services.pump);
-    m_warning->hide();
 }
 
 } // namespace varnhold

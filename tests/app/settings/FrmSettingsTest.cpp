@@ -1,7 +1,5 @@
-#include "../AppWorld.h"
+#include "../SettingsWindow.h"
 
-#include "app/settings/frmSettings.h"
-#include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/ucSlider/ucSlider.h"
 #include "support/FakeFileDialogs.h"
@@ -42,7 +40,8 @@ protected:
     FakeFileDialogs dialogs;
     FakePump pump;
     SkinPage skinPage;
-    frmSettings window{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
+    SettingsWindow all{*this, dialogs, pump, skinPage};
+    frmSettings& window = all.window;
 };
 
 } // namespace
@@ -134,7 +133,7 @@ TEST_F(FrmSettings, ShowsTheDatabaseAndAsksForOne)
     EXPECT_EQ(child<QLabel>(window, "lblFSize").text(), u"Before: 1.50 KB"_s);
 
     skinPage.Shape_Color[SkinPage::Highlight] = 0x0000FF;
-    window.thankForDatabase(u"Thank You!"_s);
+    all.database.thankForDatabase(u"Thank You!"_s);
     const auto& label = child<QLabel>(window, "Label9(1)");
     EXPECT_EQ(label.text(), u"Thank You!"_s);
     EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::red));
@@ -142,7 +141,8 @@ TEST_F(FrmSettings, ShowsTheDatabaseAndAsksForOne)
     openPage(u"Download"_s);
     player.played.clear();
     QWidget owner;
-    window.askForTables(owner, u"ReName"_s);
+    window.showPageOver(owner, all.database);
+    window.showCaption(u"ReName"_s);
     EXPECT_TRUE(child(window, "frm_Database").isVisible());
     EXPECT_EQ(child<QListWidget>(window, "List1").currentItem()->text(), u"Database"_s);
     EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), u"ReName"_s);
@@ -157,7 +157,7 @@ TEST_F(FrmSettings, WritesAnOpacityAsItsSliderMoves)
     EXPECT_EQ(child<QLabel>(window, "lbl_Opacity(0)").text(), u"10"_s) << "as it is stored";
     const QString keys[] = {u"Main Opacity"_s, u"Settings Opacity"_s, u"DL Opacity"_s, u"Search Opacity"_s,
                             u"DB Opacity"_s};
-    const QSignalSpy moved(&window, &frmSettings::opacityMoved);
+    const QSignalSpy moved(&all.opacity, &OpacityPage::opacityMoved);
     for (int i = 0; i < 5; ++i) {
         auto& slider = child<ucSlider>(window, qPrintable(u"ucSlider1(%1)"_s.arg(i)));
         EXPECT_EQ(slider.value(), settings.values().opacities.at(std::size_t(i)));
@@ -176,7 +176,7 @@ TEST_F(FrmSettings, WritesAnOpacityAsItsSliderMoves)
 TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
 {
     openPage(u"Options"_s);
-    const QSignalSpy released(&window, &frmSettings::autoSslReleased);
+    const QSignalSpy released(&all.options, &OptionsPage::autoSslReleased);
     const auto states = [this] {
         return std::pair(child<QCheckBox>(window, "chk_AutoSSL(0)").isChecked(),
                          child<QCheckBox>(window, "chk_AutoSSL(1)").isChecked());

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "../AppWorld.h"
+#include "../SettingsWindow.h"
 
-#include "app/settings/frmSettings.h"
 #include "app/start/StartUp.h"
-#include "appearance/SkinPage.h"
 #include "lookup/CertificateWatch.h"
 #include "state/Hosts.h"
 #include "support/FakeBrowser.h"
@@ -46,7 +44,8 @@ struct StartUpWorld : AppWorld
     CertificateWatch certificates{settings, certificateHost};
     frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
     SkinPage skinPage;
-    frmSettings settingsWindow{{state, settings, sounds, dialogs, pump, screen, root.paths(), skinPage}};
+    SettingsWindow pages{*this, dialogs, pump, skinPage};
+    frmSettings& settingsWindow = pages.window;
     bool first = true;
     bool previousAnswers = true;
     std::unique_ptr<frmSplash> splash;

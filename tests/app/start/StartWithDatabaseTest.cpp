@@ -71,7 +71,7 @@ protected:
     frmMenu menu{commands, sounds};
     SharedDatabase database{settings, boxes};
     WindowPainter painter;
-    GameListOnWindows view{{main, menu, settingsWindow, list, splash}, painter};
+    GameListOnWindows view{{main, menu, settingsWindow, pages.database, list, splash}, painter};
     GameList games{{database, state, settings, view, sounds, boxes}};
     QString splashStatus;
     QString splashMessage;

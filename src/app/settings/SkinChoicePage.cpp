@@ -1,6 +1,5 @@
-// The skin page of the settings window.
+#include "app/settings/SkinChoicePage.h"
 
-#include "app/settings/frmSettings.h"
 #include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/SystemColorsUi.h"
@@ -16,18 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int column = 8;
 constexpr int valueColumn = 140;
-constexpr int rowHeight = 20;
 constexpr QSize cellSize{28, 16};
-
-QLabel* addLabel(QFrame& page, const QString& name, const QString& text, const QRect& place)
-{
-    auto* label = new QLabel(text, &page);
-    label->setObjectName(name);
-    label->setGeometry(place);
-    return label;
-}
 
 QPixmap cell(ColorValue fill, ColorValue border)
 {
@@ -46,17 +35,17 @@ void setTextColor(QLabel& label, ColorValue color)
 
 } // namespace
 
-void frmSettings::buildSkin()
+SkinChoicePage::SkinChoicePage(Settings& settings, const SkinPage& skin, const ApplicationState& state)
+    : SettingsPage({"frm_Skin(0)", u"Skin"_s, u"Settings: Skin"_s}, settings), m_skin(skin)
 {
-    QFrame& page = *addPage(u"Skin"_s, "frm_Skin(0)", u"Settings: Skin"_s);
-    addLabel(page, u"lbl_Available_Skins(0)"_s, tr("Available skins"), {column, 6, 120, rowHeight});
-    addLabel(page, u"lbl_Available_Skins(1)"_s, u"0"_s, {valueColumn, 6, 60, rowHeight});
-    ButtonEx* choose = addButton(page, "btn_Skin_Path", tr("Skin"), {220, 8, 56, 16});
-    choose->setCaption(tr("Choose"));
-    connect(choose, &ButtonEx::MouseEnter, this,
-            [this, choose] { choose->setToolTip(u"Skin Patch: "_s + m_services.state.SkinPath); });
-    connect(choose, &ButtonEx::Click, this,
-            [this, choose] { Q_EMIT skinMenuWanted(choose->mapToGlobal(QPoint(0, choose->height()))); });
+    addLabel(u"lbl_Available_Skins(0)"_s, tr("Available skins"), {column, 6, 120, rowHeight});
+    addLabel(u"lbl_Available_Skins(1)"_s, u"0"_s, {valueColumn, 6, 60, rowHeight});
+    m_choose = addButton(u"btn_Skin_Path"_s, tr("Skin"), {220, 8, 56, 16});
+    m_choose->setCaption(tr("Choose"));
+    connect(m_choose, &ButtonEx::MouseEnter, this,
+            [this, &state] { m_choose->setToolTip(u"Skin Patch: "_s + state.SkinPath); });
+    connect(m_choose, &ButtonEx::Click, this,
+            [this] { Q_EMIT skinMenuWanted(m_choose->mapToGlobal(QPoint(0, m_choose->height()))); });
     const struct
     {
         const char* number;
@@ -66,17 +55,17 @@ void frmSettings::buildSkin()
                  {"lbl_BackColor", tr("Background colour")}};
     for (int i = 0; i < 3; ++i) {
         const int top = 40 + 24 * i;
-        addLabel(page, {}, cells[i].text, {column, top, 130, rowHeight});
-        addLabel(page, u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16});
-        addLabel(page, QLatin1StringView(cells[i].number), {}, {valueColumn + 36, top, 90, rowHeight});
+        addLabel({}, cells[i].text, {column, top, 130, rowHeight});
+        addLabel(u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16});
+        addLabel(QLatin1StringView(cells[i].number), {}, {valueColumn + 36, top, 90, rowHeight});
     }
-    connect(&m_services.skinPage, &SkinPage::changed, this, &frmSettings::showSkin);
+    connect(&skin, &SkinPage::changed, this, &SkinChoicePage::showSkin);
     showSkin();
 }
 
-void frmSettings::showSkin()
+void SkinChoicePage::showSkin()
 {
-    const SkinPage& page = m_services.skinPage;
+    const SkinPage& page = m_skin;
     const char* const numbers[] = {"lbl_ForeColor", "lbl_HighLightColor", "lbl_BackColor"};
     for (std::size_t i = 0; i < 3; ++i) {
         findChild<QLabel*>(u"Shape_Color(%1)"_s.arg(i))
@@ -95,10 +84,9 @@ void frmSettings::showSkin()
         setTextColor(*count, page.availableSkinsColor[1]);
 }
 
-void frmSettings::askForSkin(QWidget& owner)
+void SkinChoicePage::askForSkin()
 {
-    showPageOver(owner, "frm_Skin(0)");
-    findChild<ButtonEx*>("btn_Skin_Path"_L1)->setFocus();
+    m_choose->setFocus();
 }
 
 } // namespace varnhold

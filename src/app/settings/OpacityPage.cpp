@@ -1,23 +1,19 @@
-// The opacity page of the settings window.
+#include "app/settings/OpacityPage.h"
 
-#include "app/settings/SettingsControls.h"
-#include "app/settings/frmSettings.h"
 #include "controls/DesignValues.h"
 #include "controls/ucSlider/ucSlider.h"
 #include "state/Settings.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
-using settingspage::column;
 
 namespace {
 
-constexpr int rowHeight = 24; // of the knob that the control draws itself, and a bit
+constexpr int sliderHeight = 24; // of the knob that the control draws itself, and a bit
 constexpr int firstRow = 4;
 constexpr int rowPitch = 32;
 constexpr int headingWidth = 60;
@@ -27,19 +23,18 @@ constexpr int numberLeft = 244;
 
 } // namespace
 
-void frmSettings::buildOpacity()
+OpacityPage::OpacityPage(Settings& settings)
+    : SettingsPage({"frm_Opacity", u"Opacity"_s, u"Settings: Opacity"_s}, settings)
 {
-    QFrame& page = *addPage(u"Opacity"_s, "frm_Opacity", u"Settings: Opacity"_s);
     const QString headings[] = {u"Main"_s, u"Settings"_s, u"DL"_s, u"Search"_s, u"DB"_s};
     for (int i = 0; i < 5; ++i)
-        addOpacity(page, static_cast<OpacityOf>(i), headings[i], firstRow + i * rowPitch);
+        addOpacity(static_cast<OpacityOf>(i), headings[i], firstRow + i * rowPitch);
 }
 
-void frmSettings::addOpacity(QFrame& page, OpacityOf which, const QString& heading, int top)
+void OpacityPage::addOpacity(OpacityOf which, const QString& heading, int top)
 {
     const int index = static_cast<int>(which);
-    auto* name = new QLabel(heading, &page);
-    name->setGeometry(column, top, headingWidth, rowHeight);
+    addLabel({}, heading, {column, top, headingWidth, sliderHeight});
     auto* slider = new ucSlider;
     slider->setObjectName(indexed("ucSlider1", index));
     slider->setAccessibleName(tr("Opacity: %1").arg(heading));
@@ -49,20 +44,18 @@ void frmSettings::addOpacity(QFrame& page, OpacityOf which, const QString& headi
     slider->setShowValueTip(false); // the number stands beside it
     // A layout of its own keeps it in the middle of its row: it is as high as the knob that the skin gives
     // it.
-    auto* row = new QWidget(&page);
-    row->setGeometry(sliderLeft, top, sliderWidth, rowHeight);
+    auto* row = new QWidget(this);
+    row->setGeometry(sliderLeft, top, sliderWidth, sliderHeight);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(slider, 0, Qt::AlignVCenter);
-    auto* number = new QLabel(&page);
-    number->setObjectName(indexed("lbl_Opacity", index));
-    number->setGeometry(numberLeft, top, 32, rowHeight);
+    QLabel* number = addLabel(indexed("lbl_Opacity", index), {}, {numberLeft, top, 32, sliderHeight});
     connect(slider, &ucSlider::Change, this, [this, which, slider] {
-        m_services.settings.setOpacity(which, slider->value());
+        settings().setOpacity(which, slider->value());
         Q_EMIT opacityMoved(which, slider->value());
     });
-    m_refreshers.emplace_back([this, which, slider, number] {
-        const int value = m_services.settings.opacity(which);
+    onRefresh([this, which, slider, number] {
+        const int value = settings().opacity(which);
         slider->tryValue(value);
         number->setText(QString::number(value));
     });

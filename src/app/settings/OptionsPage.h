@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/settings/SettingsPage.h"
+
+namespace varnhold {
+
+/// How the program behaves: its way out, its windows, questions about certificates.
+class OptionsPage : public SettingsPage
+{
+    Q_OBJECT
+
+public:
+    explicit OptionsPage(Settings& settings);
+
+Q_SIGNALS:
+    /// The mouse let go of an Auto box; raised before the box's setting changes.
+    void autoSslReleased();
+
+private:
+    void addAutoBox(int index, int top);
+    void addWay(int index, int top);
+};
+
+} // namespace varnhold
