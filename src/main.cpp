@@ -41,11 +41,20 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-int run(QApplication& application, const QString& root)
+/// The program cannot start. Whoever started it from a menu sees no terminal.
+void tell(const QString& reason)
+{
+    std::fprintf(stderr, "varnhold: %s\n", qPrintable(reason));
+    const QString platform = QGuiApplication::platformName();
+    if (platform != u"offscreen" && platform != u"minimal")
+        QtMessageBoxes().show(
+            {.text = reason, .title = QCoreApplication::applicationName(), .icon = BoxIcon::Critical});
+}
+
+int run(const QString& root)
 {
     const QString folder = QCoreApplication::applicationDirPath();
     const Paths paths = findPaths(root, folder, folder + u"/../share/varnhold"_s);
-    setUpToolkitLook(application);
     DesktopWorld desktop;
     SampleServiceProcess sampleService;
     SingleInstance instance(paths.root);
@@ -85,10 +94,11 @@ int main(int argc, char** argv)
     QCommandLineParser options;
     describe(options);
     options.process(application);
+    setUpToolkitLook(application);
     try {
-        return run(application, options.value(u"root"_s));
+        return run(options.value(u"root"_s));
     } catch (const RunTimeError& error) {
-        std::fprintf(stderr, "varnhold: %s\n", qPrintable(error.description()));
+        tell(error.description());
         return 1;
     }
 }

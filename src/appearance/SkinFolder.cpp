@@ -2,6 +2,7 @@
 
 #include "platform/FileErrors.h"
 #include "platform/Files.h"
+#include "platform/ReadFile.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -83,18 +84,7 @@ QByteArray SkinFolder::read(const QString& name) const
 
 QByteArray SkinFolder::readFile(const QString& path)
 {
-    if (FolderExists(path))
-        throw RunTimeError(errors::pathFileAccess);
-    QFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::ReadOnly))
-        throw errorFromErrno(errno == 0 ? EACCES : errno, errors::fileNotFound);
-    if (file.size() > largestFile)
-        throw RunTimeError(errors::outOfMemory);
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw RunTimeError(errors::pathFileAccess);
-    return bytes;
+    return varnhold::readFile(path, largestFile);
 }
 
 } // namespace varnhold

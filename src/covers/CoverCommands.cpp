@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ReadFile.h"
 #include "platform/Shell.h"
 #include "state/Settings.h"
 
@@ -14,10 +15,10 @@ using namespace Qt::StringLiterals;
 QString coverFile(const Settings& settings, const QString& gameId)
 {
     const QString& folder = settings.covers().tag;
-    if (folder.isEmpty())
+    if (folder.isEmpty() || gameId.contains(u'/') || gameId.contains(QChar::Null))
         return {};
-    const QString file = folder + u'/' + gameId + u".jpg"_s;
-    return FileExists(file) ? file : QString();
+    const QString file = foldedFile(folder, gameId + u".jpg"_s);
+    return isRegularFile(file) ? file : QString();
 }
 
 CoverCommands::CoverCommands(const Settings& settings, Shell& shell, MessageBoxes& boxes)

@@ -36,7 +36,7 @@ public:
     void open(const QString& path) override
     {
         close();
-        m_descriptor = ::open(systemPath(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+        m_descriptor = ::open(systemPath(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
         if (m_descriptor < 0)
             throw errorFromErrno(errno);
     }
@@ -126,8 +126,8 @@ void DiskFiles::rename(const QString& from, const QString& to)
 
 void DiskFiles::createEmpty(const QString& path)
 {
-    const int descriptor =
-        ::open(systemPath(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int descriptor = // a pipe in its place fails, where it would wait for a reader
+        ::open(systemPath(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666);
     if (descriptor < 0)
         throw errorFromErrno(errno);
     ::close(descriptor);

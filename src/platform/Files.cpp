@@ -5,7 +5,10 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
+#include <dirent.h>
+#include <memory>
 #include <optional>
 #include <sys/stat.h>
 
@@ -41,13 +44,22 @@ QString foldedFile(const QString& folder, const QString& name)
     const QString exact = folder + u'/' + name;
     if (FileExists(exact))
         return exact;
-    QDirIterator walk(folder, QDir::Files | QDir::Hidden | QDir::System);
-    while (walk.hasNext()) {
-        walk.next();
-        if (walk.fileName().compare(name, Qt::CaseInsensitive) == 0)
-            return walk.filePath();
+    // Walked by hand, since a folder of covers is walked for each game that has none.
+    const std::unique_ptr<DIR, int (*)(DIR*)> walk(::opendir(QFile::encodeName(folder).constData()),
+                                                   ::closedir);
+    const QByteArray wanted = name.toUtf8();
+    const bool isPlain = std::ranges::all_of(name, [](QChar c) { return c < QChar(0x80); });
+    QString best; // of several the same one is taken on every machine
+    for (const dirent* entry = nullptr; walk && (entry = ::readdir(walk.get())) != nullptr;) {
+        const char* const found = static_cast<const char*>(entry->d_name);
+        if (isPlain ? qstricmp(found, wanted.constData()) != 0
+                    : QFile::decodeName(found).compare(name, Qt::CaseInsensitive) != 0)
+            continue;
+        const QString path = folder + u'/' + QFile::decodeName(found);
+        if (FileExists(path) && (best.isEmpty() || path < best))
+            best = path;
     }
-    return exact;
+    return best.isEmpty() ? exact : best;
 }
 
 bool isOneName(const QString& name)

@@ -1,6 +1,7 @@
 #include "platform/HttpWalk.h"
 
 #include "platform/NavigationCodes.h"
+#include "platform/ReadFile.h"
 
 #include <QCryptographicHash>
 #include <QSslCertificate>
@@ -18,6 +19,8 @@ namespace {
 
 // Bounds what waits in the socket while the program is busy elsewhere.
 constexpr qint64 readBuffer = qint64{4} * 1024 * 1024;
+constexpr qint64 largestCertificates =
+    qint64{16} * 1024 * 1024; // all authorities of a system are half of one
 
 bool isFetchable(const QUrl& url)
 {
@@ -65,7 +68,8 @@ QSslConfiguration tlsOf(const HostTls& policy)
 {
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     if (!policy.certificateFile.isEmpty())
-        tls.addCaCertificates(policy.certificateFile, QSsl::Pem);
+        tls.addCaCertificates(QSslCertificate::fromData(
+            tryReadFile(policy.certificateFile, largestCertificates).bytes, QSsl::Pem));
     if (policy.allowsOldTls) {
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED

@@ -13,7 +13,6 @@ namespace varnhold {
 
 namespace {
 
-constexpr qint64 largestFile = 4 * 1024 * 1024; // a larger one is no settings file: neither read nor written
 constexpr qint64 nanoseconds = 1'000'000'000;
 
 qint64 inNanoseconds(const timespec& time)
@@ -58,7 +57,7 @@ bool isSettled(const Identity& identity)
 std::optional<IniDocument> readDocument(const QString& path)
 {
     try {
-        return IniDocument(readFile(path, largestFile));
+        return IniDocument(readFile(path, IniFile::largestFile));
     } catch (const RunTimeError& error) {
         if (error.number() == errors::fileNotFound || error.number() == errors::pathNotFound)
             return IniDocument();

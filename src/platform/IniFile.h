@@ -21,6 +21,8 @@ namespace varnhold {
 class IniFile
 {
 public:
+    static constexpr qint64 largestFile = 4 * 1024 * 1024; ///< bytes; one above is neither read nor written
+
     explicit IniFile(QString path);
 
     [[nodiscard]] const QString& path() const { return m_path; }

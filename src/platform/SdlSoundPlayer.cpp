@@ -1,7 +1,8 @@
 #include "platform/SdlSoundPlayer.h"
 
+#include "platform/ReadFile.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QLibrary>
 
 #include <SDL.h>
@@ -10,6 +11,15 @@
 namespace varnhold {
 
 namespace {
+
+using AlsaReport = void (*)(const char* file, int line, const char* function, int code, const char* format,
+                            ...);
+using SynthReport = void (*)(int level, const char* message, void* data);
+
+void keepSilent(const char* /*file*/, int /*line*/, const char* /*function*/, int /*code*/,
+                const char* /*format*/, ...)
+{
+}
 
 /// SDL's mixer, loaded when the first sound is played: it brings half a hundred libraries with it, and to
 /// load those took as long as all else until the splash was up.
@@ -24,6 +34,20 @@ public:
                resolve(closeAudio, "Mix_CloseAudio") && resolve(loadMusic, "Mix_LoadMUS") &&
                resolve(freeMusic, "Mix_FreeMusic") && resolve(haltMusic, "Mix_HaltMusic") &&
                resolve(playMusic, "Mix_PlayMusic");
+    }
+
+    /// A machine without a sound card makes no lines on standard error, nor does a tune without instruments.
+    void silenceReports()
+    {
+        void (*setAlsaReport)(AlsaReport) = nullptr;
+        if (resolve(setAlsaReport, "snd_lib_error_set_handler"))
+            setAlsaReport(keepSilent);
+        SynthReport (*setSynthReport)(int, SynthReport, void*) = nullptr;
+        if (resolve(setSynthReport, "fluid_set_log_function")) {
+            constexpr int levels = 5;
+            for (int level = 0; level < levels; ++level)
+                setSynthReport(level, nullptr, nullptr);
+        }
     }
 
     decltype(&SDL_SetHint) setHint = nullptr;
@@ -85,6 +109,7 @@ private:
             m_state = State::Unusable;
             if (!m_sdl.load())
                 return false;
+            m_sdl.silenceReports();
             // Signals stay the program's own.
             m_sdl.setHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
             if (m_sdl.initSubSystem(SDL_INIT_AUDIO) == 0) {
@@ -117,7 +142,7 @@ SdlSoundPlayer::~SdlSoundPlayer()
 
 int SdlSoundPlayer::play(const QString& path)
 {
-    if (!QFileInfo(path).isFile())
+    if (!isRegularFile(path))
         return 0;
     QMetaObject::invokeMethod(
         m_mixer, [mixer = m_mixer, path] { mixer->play(path); }, Qt::QueuedConnection);

@@ -2,10 +2,10 @@
 
 #include "platform/Conversion.h"
 #include "platform/IniFile.h"
+#include "platform/ReadFile.h"
 #include "platform/RunTimeError.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -86,14 +86,14 @@ HostEntry Reader::entry(const QString& section, const QString& hostKey, const QS
 Hosts readHosts(const QString& path)
 {
     Hosts hosts;
-    QFile file(path);
-    if (!file.exists()) {
+    try {
+        readFile(path, IniFile::largestFile);
+    } catch (const RunTimeError& error) {
+        if (error.number() != errors::fileNotFound && error.number() != errors::pathNotFound)
+            throw RunTimeError(errors::pathFileAccess, u"The file cannot be read: "_s + path);
         hosts.sample = true;
         return hosts;
     }
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(errors::pathFileAccess, u"The file cannot be read: "_s + path);
-    file.close();
 
     const Reader reader(path);
     hosts.sample = reader.saysSample();

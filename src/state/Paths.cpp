@@ -40,9 +40,9 @@ void fill(const QString& root, const QString& shareFolder)
         if (!done)
             throw RunTimeError(errors::pathFileAccess, u"The program's folder cannot be filled: "_s + path);
     };
-    QDir().mkpath(QFileInfo(root).path());
+    check(QDir().mkpath(QFileInfo(root).path()), root);
     QTemporaryDir fresh(root + u"-XXXXXX"_s);
-    check(fresh.isValid(), fresh.path());
+    check(fresh.isValid(), root);
     const QDir share(shareFolder);
     QDirIterator walk(shareFolder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (walk.hasNext()) {

@@ -1,9 +1,13 @@
 #include "state/SettingsFile.h"
 
 #include "platform/Files.h"
+#include "platform/ReplaceFile.h"
 #include "platform/Trim.h"
 #include "state/ApplicationState.h"
 #include "state/Paths.h"
+
+#include <QFileInfo>
+#include <QSet>
 
 namespace varnhold {
 
@@ -70,6 +74,18 @@ bool SettingsFile::replaceSections(const QList<IniSection>& sections)
             entry.value = trimBlanks(entry.value);
     }
     return settings().replaceSections(trimmed);
+}
+
+void SettingsFile::clearLeftovers() const
+{
+    // Either file may be a link to one that stands elsewhere.
+    const QStringList folders = {m_paths.root,
+                                 QFileInfo(settings().path()).canonicalFilePath().section(u'/', 0, -2),
+                                 QFileInfo(skin().path()).canonicalFilePath().section(u'/', 0, -2)};
+    for (const QString& folder : QSet<QString>(folders.begin(), folders.end())) {
+        if (!folder.isEmpty())
+            varnhold::clearLeftovers(folder);
+    }
 }
 
 IniFile& SettingsFile::settings() const

@@ -40,6 +40,9 @@ public:
     void Skin_Write(const QString& section, const QString& key, const QString& value);
     void Skin_Delete_Section(const QString& section);
 
+    /// Removes what a kill during a write has left beside the two files and in the program's folder.
+    void clearLeftovers() const;
+
 private:
     [[nodiscard]] IniFile& settings() const;
     [[nodiscard]] IniFile& skin() const;

@@ -46,7 +46,9 @@ TEST(SkinFolder, SaysWhatIsMissing)
     const TempRoot root;
     root.write(u"skin/a/Button1.bmp"_s, "1");
     root.makeFolder(u"skin/a/Button2.bmp"_s);
+    root.makePipe(u"skin/a/Button4.bmp"_s);
     const SkinFolder folder(root.path(u"skin/a"_s));
+    EXPECT_EQ(errorOf([&] { return folder.read(u"Button4.bmp"_s); }), errors::pathFileAccess);
     EXPECT_EQ(errorOf([&] { return folder.read(u"Button3.bmp"_s); }), errors::fileNotFound);
     EXPECT_EQ(errorOf([&] { return folder.read(u"menu/db.bmp"_s); }), errors::pathNotFound);
     EXPECT_EQ(errorOf([&] { return folder.read(u"Button2.bmp"_s); }), errors::pathFileAccess);

@@ -27,7 +27,7 @@ protected:
     {
         root.write(u"file"_s, "0123456789");
         root.makeFolder(u"folder"_s);
-        ::mkfifo(QFile::encodeName(root.path(u"pipe"_s)).constData(), 0600);
+        root.makePipe(u"pipe"_s);
         QFile::link(u"file"_s, root.path(u"link"_s));
         QFile::link(u"link"_s, root.path(u"chain"_s));
         QFile::link(u"new"_s, root.path(u"dangling"_s));
@@ -148,7 +148,7 @@ TEST_F(FileDoors, ClearsWhatAKillLeftAndNothingElse)
         root.write(other, "mine");
     root.makeFolder(u".varnhold-0123456789012340"_s);
     QFile::link(u"file"_s, root.path(u".varnhold-0123456789012341"_s));
-    ::mkfifo(QFile::encodeName(root.path(u".varnhold-0123456789012342"_s)).constData(), 0600);
+    root.makePipe(u".varnhold-0123456789012342"_s);
     root.write(u".varnhold-0123456789012345"_s, "half");
     FileReplacement working(root.path(u"file"_s));
     working.write("new");

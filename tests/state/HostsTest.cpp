@@ -80,6 +80,8 @@ TEST(Hosts, RefusesWhatItCannotUnderstand)
     }
     root.makeFolder(u"folder"_s);
     EXPECT_THROW(readHosts(root.path(u"folder"_s)), RunTimeError);
+    root.makePipe(u"pipe"_s);
+    EXPECT_THROW(readHosts(root.path(u"pipe"_s)), RunTimeError);
 }
 
 } // namespace

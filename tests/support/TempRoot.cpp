@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 namespace varnhold::test {
 
 TempRoot::TempRoot() : m_paths{m_folder.path()}
@@ -37,6 +39,12 @@ QByteArray TempRoot::read(const QString& name) const
 void TempRoot::makeFolder(const QString& name) const
 {
     EXPECT_TRUE(QDir().mkpath(path(name)));
+}
+
+void TempRoot::makePipe(const QString& name) const
+{
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
+    EXPECT_EQ(::mkfifo(QFile::encodeName(path(name)).constData(), 0600), 0);
 }
 
 } // namespace varnhold::test

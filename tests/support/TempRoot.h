@@ -23,6 +23,8 @@ public:
     /// A file's bytes; a missing one fails the test.
     [[nodiscard]] QByteArray read(const QString& name) const;
     void makeFolder(const QString& name) const;
+    /// A named pipe that nobody writes to: who opens it as if it were a file waits for good.
+    void makePipe(const QString& name) const;
 
 private:
     QTemporaryDir m_folder;

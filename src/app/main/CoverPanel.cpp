@@ -2,6 +2,7 @@
 
 #include "covers/CoverBox.h"
 #include "covers/FitPreviewImage.h"
+#include "platform/ReadFile.h"
 #include "state/Paths.h"
 #include "state/Sounds.h"
 
@@ -65,11 +66,18 @@ QPixmap CoverPanel::throughFile(const QPixmap& picture) const
 {
     // The large view shows what a bitmap file holds of the picture. In a folder that cannot be written to it
     // shows the picture itself.
-    const QString file = m_paths.root + u"/temp.bmp"_s;
+    constexpr qint64 largestFile = qint64(256) << 20;
+    const QString name = m_paths.root + u"/temp.bmp"_s;
+    QFile::remove(name); // a link or a pipe of this name is nothing to write through
+    QFile file(name);
     QPixmap loaded;
-    if (picture.save(file, "BMP"))
-        loaded.load(file, "BMP");
-    QFile::remove(file);
+    if (!file.open(QIODevice::NewOnly | QIODevice::WriteOnly))
+        return picture;
+    const bool isSaved = picture.save(&file, "BMP") && file.flush();
+    file.close();
+    if (isSaved)
+        loaded.loadFromData(tryReadFile(name, largestFile).bytes, "BMP");
+    file.remove();
     return loaded.isNull() ? picture : loaded;
 }
 

@@ -17,6 +17,7 @@
 #include "state/Hosts.h"
 #include "state/Paths.h"
 #include "state/Settings.h"
+#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 
 #include <QCoreApplication>
@@ -80,6 +81,7 @@ void StartUp::load()
 
     showStatus(u"Loading: Skins"_s);
     m_services.applySkin();
+    m_services.file.clearLeftovers();
     pumpOnce();
     showStatus(u"Loading: Settings"_s);
     const QString listUrl = u"http://%1/Varnhold/ps3gameids.txt"_s.arg(m_services.hosts.update.authority);
