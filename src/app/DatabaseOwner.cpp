@@ -24,8 +24,10 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, const SkinPag
     main.setEntryLoader(loadEntry);
     lookup.setEntryLoader(loadEntry);
     lookup.setLinkSaver([this, common] { saveUpdateLinks(m_database, common.list, common.main); });
-    connect(&main, &frmMain::linkActivated, this,
-            [common](const QString& link) { common.world.shell.open(link); });
+    connect(&main, &frmMain::linkActivated, this, [common](const QString& link) {
+        common.world.shell.openLink(
+            link, [&main = common.main] { main.setStatus(frmMain::tr("No program here opens links")); });
+    });
     connect(&main, &frmMain::refreshRequested, this, [this] { m_gameList.CmdRefresh_Click(); });
     connect(&main, &frmMain::clearRequested, this, [this] { m_gameList.cmdClear_Click(); });
     connect(&m_page, &DatabasePage::btnOpen_Click, this, [this, common] {

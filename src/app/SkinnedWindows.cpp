@@ -6,7 +6,6 @@
 #include "app/settings/frmSettings.h"
 #include "app/start/frmSplash.h"
 #include "appearance/ButtonSigns.h"
-#include "controls/CTooltip/CTooltip.h"
 
 #include <array>
 
@@ -54,10 +53,7 @@ void SkinnedWindows::takeColors(const SkinPage& page)
 {
     drawButtonSigns(m_windows.main);
     drawButtonSigns(m_windows.settings);
-    for (CTooltip* const tip : m_windows.main.findChildren<CTooltip*>()) {
-        tip->setForeColor(page.Shape_Color[SkinPage::Fore]);
-        tip->setBackColor(page.Shape_Color[SkinPage::Back]);
-    }
+    m_windows.main.setTipColors(page.Shape_Color[SkinPage::Fore], page.Shape_Color[SkinPage::Back]);
 }
 
 void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)

@@ -1,5 +1,6 @@
 #include "appearance/Skin.h"
 
+#include "appearance/ReadableTexts.h"
 #include "appearance/SkinColors.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinLists.h"
@@ -138,8 +139,10 @@ bool Skin::ApplySkin()
     } catch (const RunTimeError& error) {
         // What was applied stays, and shows.
         reshapeWindows();
+        makeTextsReadable();
         report(error);
         Q_EMIT m_services.page.changed();
+        makeTextsReadable(); // the page has coloured its own
     } catch (const Ending&) {
     }
     return false;
@@ -278,6 +281,17 @@ void Skin::Load_DL(QWidget& window)
         colorBar(*bar, colors[SkinPage::Back]);
     assignSkinColorsInside(window, colors);
     shape(window);
+}
+
+void Skin::makeTextsReadable()
+{
+    // Windows that have no picture yet take the page's own colours.
+    colorToolkit(m_services.page.Shape_Color, m_services.page.menuGround);
+    for (const char* const name : coloredWindows) {
+        if (const QWidget* const window = m_services.host.window(name))
+            varnhold::makeTextsReadable(*window, m_services.page.Shape_Color[SkinPage::Fore]);
+    }
+    m_services.host.takeColors(m_services.page);
 }
 
 void Skin::report(const RunTimeError& error)

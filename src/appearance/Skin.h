@@ -103,6 +103,7 @@ private:
     void pumpEvents();
     void report(const RunTimeError& error);
     void reshapeWindows();
+    void makeTextsReadable();
 
     Services m_services;
     SkinCatalogue m_catalogue;

@@ -3,6 +3,7 @@
 #include "appearance/SkinColors.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
+#include "controls/Contrast.h"
 
 #include <QVariant>
 #include <QWidget>
@@ -19,6 +20,7 @@ constexpr int mostModes = 2;
 constexpr int mostAlignments = 5;
 constexpr int defaultTheme = 2;
 constexpr int tiled = 5;
+constexpr double visible = 3;
 
 void assign(QWidget* control, const char* name, const QVariant& value)
 {
@@ -120,6 +122,12 @@ void SkinLists::applyCustomColors()
         if (const std::optional<ColorValue> color = m_ini.customColor(name))
             assign(m_games, qPrintable(name), *color);
     }
+    // The dots round a row have no key of their own.
+    const auto own = [this](const char* name) { return m_games->property(name).toUInt(); };
+    const ColorValue inks[] = {m_page.Shape_Color[SkinPage::Highlight], own("HighlightColor"),
+                               own("ForeColor")};
+    const ColorValue grounds[] = {own("SelColor1"), own("SelColor2"), own("BackColor1"), own("BackColor2")};
+    assign(m_games, "FocusRectColor", firstThatStandsOut(inks, grounds, visible));
     assign(m_games, "RedrawFlag", true);
 }
 

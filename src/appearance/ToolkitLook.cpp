@@ -1,5 +1,6 @@
 #include "appearance/ToolkitLook.h"
 
+#include "appearance/FocusLine.h"
 #include "appearance/ToolkitStyle.h"
 #include "controls/Contrast.h"
 #include "controls/SystemColorsUi.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int textPixels = 11;
 constexpr double readable = 4.5;
+constexpr double visible = 3;
 
 QColor mixed(const QColor& one, const QColor& other, double share)
 {
@@ -44,7 +46,10 @@ Tones tonesOf(const SkinColors& colors, ColorValue ground)
     tones.text = toQColor(fore);
     tones.ground = toQColor(ground);
     tones.edge = mixed(tones.ground, tones.text, 0.3);
-    tones.accent = toQColor(colors[1]);
+    // It draws lines and marks on both grounds; an accent that cannot be told from them is the text's colour.
+    const ColorValue inks[] = {colors[1], fore};
+    const ColorValue grounds[] = {ground, colors[2]};
+    tones.accent = toQColor(firstThatStandsOut(inks, grounds, visible));
     // What is chosen must show on a menu's ground and on a field's, which is the back colour itself.
     tones.chosen = mixed(toQColor(colors[2]), tones.accent, 0.35);
     const ColorValue chosen = toColorValue(tones.chosen);
@@ -121,6 +126,7 @@ void setUpToolkitLook(QApplication& application)
     font.setPixelSize(textPixels);
     QApplication::setFont(font);
     application.setStyleSheet({});
+    new FocusLine(application);
 }
 
 void colorToolkit(const SkinColors& colors, ColorValue ground)

@@ -1,5 +1,6 @@
 #include "appearance/ToolkitStyle.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -32,6 +33,16 @@ QPixmap messageSign(QChar sign, const QColor& color, qreal ratio)
     return picture;
 }
 
+void drawFocusLine(QPainter& painter, const QRect& place, const QPalette& colors)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(colors.color(QPalette::Link));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 } // namespace
 
 ToolkitStyle::ToolkitStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -51,6 +62,13 @@ void ToolkitStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             painter->restore();
         }
+        return;
+    }
+    if (element == PE_FrameFocusRect) {
+        // A view whose chosen row is the current one has its line round the whole.
+        const auto* const view = qobject_cast<const QAbstractItemView*>(widget);
+        if (view == nullptr || view->selectionMode() != QAbstractItemView::SingleSelection)
+            drawFocusLine(*painter, option->rect, colors);
         return;
     }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton &&
@@ -119,11 +137,34 @@ void ToolkitStyle::drawComplexControl(ComplexControl control, const QStyleOption
     painter->restore();
 }
 
+void ToolkitStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (element == CE_FocusFrame)
+        drawFocusLine(*painter, option->rect, option->palette);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+int ToolkitStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    if (metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin)
+        return 0; // the line lies on the control's own edge
+    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 int ToolkitStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    if (hint == SH_FocusFrame_AboveWidget)
+        return 1;
+    if (hint == SH_FocusFrame_Mask) {
+        if (auto* const mask = qstyleoption_cast<QStyleHintReturnMask*>(returned))
+            mask->region = QRegion(option->rect) - QRegion(option->rect.adjusted(1, 1, -1, -1));
+        return 1;
+    }
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 

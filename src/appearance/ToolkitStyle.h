@@ -4,8 +4,8 @@
 
 namespace varnhold {
 
-/// Check boxes, option buttons, short scroll bars and the signs of message boxes, told apart on any skin's
-/// ground.
+/// Check boxes, option buttons, short scroll bars, the signs of message boxes and the line that shows the
+/// keyboard focus, told apart on any skin's ground.
 class ToolkitStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -17,6 +17,9 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,

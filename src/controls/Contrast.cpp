@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace varnhold {
 
@@ -9,6 +10,7 @@ namespace {
 
 constexpr ColorValue black = 0x000000;
 constexpr ColorValue white = 0xFFFFFF;
+constexpr double mostContrast = 21;
 
 double linear(int channel)
 {
@@ -35,6 +37,25 @@ double contrastRatio(ColorValue one, ColorValue other)
 ColorValue blackOrWhiteOn(ColorValue background)
 {
     return contrastRatio(white, background) > contrastRatio(black, background) ? white : black;
+}
+
+ColorValue firstThatStandsOut(std::span<const ColorValue> colors, std::span<const ColorValue> grounds,
+                              double ratio)
+{
+    const auto worst = [grounds](ColorValue color) {
+        double least = mostContrast;
+        for (const ColorValue ground : grounds)
+            least = std::min(least, contrastRatio(color, ground));
+        return least;
+    };
+    std::vector<ColorValue> candidates(colors.begin(), colors.end());
+    for (const ColorValue color : candidates) {
+        if (worst(color) >= ratio)
+            return color;
+    }
+    candidates.insert(candidates.end(), {black, white});
+    return *std::max_element(candidates.begin(), candidates.end(),
+                             [&](ColorValue one, ColorValue other) { return worst(one) < worst(other); });
 }
 
 } // namespace varnhold

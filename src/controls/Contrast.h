@@ -2,6 +2,8 @@
 
 #include "controls/SystemColors.h"
 
+#include <span>
+
 namespace varnhold {
 
 /// How well two colours can be told apart: WCAG 2's ratio, 1 to 21. Text wants 4.5, marks and edges 3.
@@ -9,5 +11,10 @@ namespace varnhold {
 
 /// Black or white, whichever stands out more on the colour.
 [[nodiscard]] ColorValue blackOrWhiteOn(ColorValue background);
+
+/// The first of the colours that reaches the ratio on every ground; where none does, the one of them, black
+/// and white that does best on its worst ground.
+[[nodiscard]] ColorValue firstThatStandsOut(std::span<const ColorValue> colors,
+                                            std::span<const ColorValue> grounds, double ratio);
 
 } // namespace varnhold

@@ -14,12 +14,24 @@ QRect geometryOf(QRect (QScreen::*which)() const)
     return screen == nullptr ? QRect() : (screen->*which)();
 }
 
+WorkArea areaOf(const QRect& rect)
+{
+    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
 } // namespace
 
 WorkArea QtScreen::workArea() const
 {
-    const QRect area = geometryOf(&QScreen::availableGeometry);
-    return {area.left(), area.top(), area.left() + area.width(), area.top() + area.height()};
+    return areaOf(geometryOf(&QScreen::availableGeometry));
+}
+
+std::vector<ScreenAreas> QtScreen::screens() const
+{
+    std::vector<ScreenAreas> areas;
+    for (const QScreen* const screen : QGuiApplication::screens())
+        areas.push_back({areaOf(screen->geometry()), areaOf(screen->availableGeometry())});
+    return areas;
 }
 
 int QtScreen::width() const

@@ -5,7 +5,11 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
+
+#include <utility>
 
 namespace varnhold {
 
@@ -26,6 +30,32 @@ QUrl urlOf(const QString& target)
 void QtShell::open(const QString& target)
 {
     QDesktopServices::openUrl(urlOf(target));
+}
+
+void QtShell::openLink(const QString& link, std::function<void()> onFailure)
+{
+    const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(urlOf(link)))
+            onFailure();
+        return;
+    }
+    // It may be the browser's parent, and its end the browser's: so it has no owner here, and outlives us.
+    auto* const program = new QProcess;
+    program->setStandardInputFile(QProcess::nullDevice());
+    program->setStandardOutputFile(QProcess::nullDevice());
+    program->setStandardErrorFile(QProcess::nullDevice());
+    const auto end = [program, failed = std::move(onFailure)](bool isOpen) {
+        program->deleteLater();
+        if (!isOpen)
+            failed();
+    };
+    connect(program, &QProcess::finished, this, [end](int code) { end(code == 0); });
+    connect(program, &QProcess::errorOccurred, this, [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            end(false);
+    });
+    program->start(opener, {urlOf(link).toString(QUrl::FullyEncoded)});
 }
 
 void QtShell::explore(const QString& folder)

@@ -4,8 +4,10 @@
 #include "app/start/frmSplash.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
+#include "appearance/ToolkitLook.h"
 #include "appearance/TransForm.h"
 #include "controls/ButtonEx/ButtonEx.h"
+#include "controls/Contrast.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/SystemColorsUi.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
@@ -160,6 +162,36 @@ TEST_F(SkinTest, PutsItsFileOnEachControl)
               SkinIni(file).customColor(u"BackColor1"_s));
 }
 
+TEST_F(SkinTest, ShowsWhereTheKeyboardIs)
+{
+    copyFolder(QStringLiteral(VARNHOLD_SKINS "/copper"), root.path(u"skin/copper"_s));
+    for (const char* const name : {"default", "paper", "copper"}) {
+        SCOPED_TRACE(name);
+        settings.writeSkinPath(root.path(u"skin/"_s + QLatin1StringView(name)));
+        ASSERT_TRUE(skin.ApplySkin());
+        const ColorValue line = toColorValue(QApplication::palette().color(QPalette::Link));
+        for (const ColorValue ground : {page.Shape_Color[SkinPage::Back], main.games().BackColor1(),
+                                        toColorValue(settingsWindow.picture().toImage().pixelColor(200, 100)),
+                                        toColorValue(main.picture().toImage().pixelColor(250, 200))})
+            EXPECT_GE(contrastRatio(line, ground), 3) << ground;
+        for (const ColorValue ground : {main.games().BackColor1(), main.games().SelColor1()})
+            EXPECT_GE(contrastRatio(main.games().FocusRectColor(), ground), 3) << ground;
+    }
+    setUpToolkitLook(*qApp);
+    main.setBarMainTop(1800);
+    main.Splitbar_Main();
+    main.show();
+    main.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+    for (const char* const name : {"MorphListBox1", "ListView1", "txtGameNotes"}) {
+        QWidget& control = child(main, name);
+        const QPoint edge = control.mapTo(&main, QPoint(control.width() / 2, 0));
+        control.setFocus();
+        EXPECT_EQ(main.grab().toImage().pixelColor(edge), QApplication::palette().color(QPalette::Link))
+            << name;
+    }
+}
+
 TEST_F(SkinTest, TakesTheEnlargedPicturesAtOnce)
 {
     root.write(u"Settings.ini"_s, "[Settings]\r\nMiximize=2\r\n");
@@ -190,6 +222,8 @@ TEST_F(SkinTest, TellsOfAMissingFileAndStopsThere)
     EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
     EXPECT_FALSE(main.picture().isNull()) << "applied before";
     EXPECT_TRUE(settingsWindow.picture().isNull()) << "not reached";
+    const ColorValue ground = toColorValue(main.picture().toImage().pixelColor(200, 12));
+    EXPECT_GE(contrastRatio(toColorValue(textColor(child(main, "lblCaption"))), ground), 4.5);
     EXPECT_EQ(storedSkin(u"Skin Name"_s), u"default"_s);
     EXPECT_EQ(storedSkin(u"Skin Path"_s), QString()) << "nothing was picked in this run";
 

@@ -9,12 +9,19 @@ class FakeScreen : public Screen
 {
 public:
     [[nodiscard]] WorkArea workArea() const override { return area; }
+    [[nodiscard]] std::vector<ScreenAreas> screens() const override
+    {
+        std::vector<ScreenAreas> all{{{0, 0, width(), fullHeight}, area}};
+        all.insert(all.end(), others.begin(), others.end());
+        return all;
+    }
     [[nodiscard]] int width() const override { return area.right; }
     [[nodiscard]] int height() const override { return fullHeight; }
     [[nodiscard]] PointerPlace pointer() const override { return place; }
 
     WorkArea area{0, 0, 1920, 1040};
     int fullHeight = 1080;
+    std::vector<ScreenAreas> others;
     PointerPlace place;
 };
 

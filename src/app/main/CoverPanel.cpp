@@ -49,8 +49,12 @@ void CoverPanel::enlarge()
     if (picture.isNull())
         return;
     m_parts.imgPreview.setPicture(throughFile(picture));
-    for (QWidget* const view : m_parts.listViews)
+    for (QWidget* const view : m_parts.listViews) {
+        // The focus stays with the picture, which the same key makes small again.
+        if (view->isAncestorOf(view->window()->focusWidget()))
+            m_parts.PicPreview.setFocus();
         view->hide();
+    }
     fitPreviewImage();
 }
 

@@ -35,10 +35,9 @@ GameListInput::GameListInput(MorphListBox& games, GameSelection& selection, Look
 
 void GameListInput::onMouseDown(const QPoint& position)
 {
-    const int row = m_games.MouseOverIndex(position.y());
-    const bool onScrollBar = row >= 0 && !m_games.rowRect(row).contains(position);
-    if (!onScrollBar)
-        m_games.setListIndex(row);
+    // A press on the scroll bar scrolls, also on its arrows, beside which no row may lie.
+    if (m_games.isRowsZone(position))
+        m_games.setListIndex(m_games.MouseOverIndex(position.y()));
 }
 
 void GameListInput::onMouseMove(int y)

@@ -11,6 +11,7 @@ constexpr int columnsTop = 46;
 constexpr int leftColumn = 8;
 constexpr int leftColumnWidth = 90;
 constexpr int mainColumn = 102;
+constexpr int captionHeight = 20;
 
 /// The buttons stand 30 pixels apart.
 constexpr std::array<FootButton, 7> footButtonsFrom(int left)
@@ -22,6 +23,18 @@ constexpr std::array<FootButton, 7> footButtonsFrom(int left)
              {"cmdEdit", left + 120},
              {"CmdNewRecord", left + 150},
              {"CmdRefresh", left + 180}}};
+}
+
+QRect rectOf(const WorkArea& area)
+{
+    return {QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1)};
+}
+
+/// Up and left as far as it must; a window larger than the area begins at its corner.
+QPoint within(const QRect& window, const WorkArea& area)
+{
+    return {std::max(area.left, std::min(window.x(), area.right - window.width())),
+            std::max(area.top, std::min(window.y(), area.bottom - window.height()))};
 }
 
 } // namespace
@@ -66,11 +79,25 @@ const MainLayout& MainLayout::enlarged()
 
 QPoint placeEnlarged(const QRect& window, const QSize& enlarged, const WorkArea& area)
 {
-    const QRect inside(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1));
-    if (!inside.contains(window))
-        return window.topLeft();
-    return {std::max(area.left, std::min(window.x(), area.right - enlarged.width())),
-            std::max(area.top, std::min(window.y(), area.bottom - enlarged.height()))};
+    return rectOf(area).contains(window) ? within(QRect(window.topLeft(), enlarged), area) : window.topLeft();
+}
+
+QPoint placeAtStart(const QPoint& place, bool enlarged, std::span<const ScreenAreas> screens)
+{
+    const QSize size = enlarged ? MainLayout::enlarged().window : MainLayout::normal().window;
+    const QRect caption(place, QSize(size.width(), captionHeight));
+    const ScreenAreas* shownOn = nullptr;
+    int mostShown = 0;
+    for (const ScreenAreas& screen : screens) {
+        const QRect shown = caption & rectOf(screen.whole);
+        if (shown.width() * shown.height() > mostShown) {
+            mostShown = shown.width() * shown.height();
+            shownOn = &screen;
+        }
+    }
+    if (screens.empty() || (shownOn != nullptr && !enlarged))
+        return place;
+    return within(QRect(place, size), shownOn != nullptr ? shownOn->work : screens.front().work);
 }
 
 SplitPlaces splitColumn(double wantedTop, int floor, int upperTop, int columnTwips)

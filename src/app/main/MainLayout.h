@@ -6,6 +6,7 @@
 #include <QSize>
 
 #include <array>
+#include <span>
 
 namespace varnhold {
 
@@ -50,6 +51,11 @@ inline constexpr double browserParkedTwips = 8600; ///< left of WebBrowser1 whil
 /// Where a window that stands wholly in the work area goes when it grows to that size: up and left as far as
 /// it must to stay there. One that the user put across an edge grows where it is.
 QPoint placeEnlarged(const QRect& window, const QSize& enlarged, const WorkArea& area);
+
+/// Where a window whose place was worked out opens. The enlarged one stands wholly in the work area of the
+/// screen that shows its caption. The normal one stays, also across an edge; but where no screen shows its
+/// caption, since that screen is gone, it comes to the primary one.
+QPoint placeAtStart(const QPoint& place, bool enlarged, std::span<const ScreenAreas> screens);
 
 /// A splitter bar between two controls of a column, all in twips.
 struct SplitPlaces

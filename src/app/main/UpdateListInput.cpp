@@ -32,6 +32,21 @@ void UpdateListInput::createToolTip(QWidget& owner)
     m_toolTip = new CTooltip(&owner);
     m_toolTip->setStyle(1);
     m_toolTip->setIcon(1);
+    colorToolTip();
+}
+
+void UpdateListInput::setTipColors(ColorValue fore, ColorValue back)
+{
+    m_tipColors = {fore, back};
+    colorToolTip();
+}
+
+void UpdateListInput::colorToolTip()
+{
+    if (m_toolTip == nullptr || !m_tipColors)
+        return;
+    m_toolTip->setForeColor(m_tipColors->front());
+    m_toolTip->setBackColor(m_tipColors->back());
 }
 
 void UpdateListInput::onHover(int row)

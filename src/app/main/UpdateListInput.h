@@ -1,9 +1,13 @@
 #pragma once
 
+#include "controls/SystemColors.h"
+
 #include <QObject>
 #include <QString>
 
+#include <array>
 #include <functional>
+#include <optional>
 
 class QPoint;
 
@@ -24,6 +28,8 @@ public:
 
     /// The balloon; made late in the start. `owner`: the window that it belongs to.
     void createToolTip(QWidget& owner);
+    /// The skin's, from the first balloon on.
+    void setTipColors(ColorValue fore, ColorValue back);
     /// Asked for the balloon's heading.
     void setTipTitle(std::function<QString()> title) { m_tipTitle = std::move(title); }
 
@@ -36,7 +42,10 @@ private:
 
     UpdateListView& m_updates;
     const UpdateList& m_list;
+    void colorToolTip();
+
     CTooltip* m_toolTip = nullptr;
+    std::optional<std::array<ColorValue, 2>> m_tipColors; ///< fore and back, once there is a skin
     std::function<QString()> m_tipTitle;
 };
 

@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace varnhold {
 
 namespace {
@@ -166,6 +168,13 @@ void UpdateListView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         Q_EMIT rowActivated(selectedRow());
+        return;
+    }
+    // The first step chooses the first row; the toolkit takes that for chosen as soon as the focus is here.
+    constexpr int steps[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home};
+    const QModelIndex first = model()->index(0, 0);
+    if (first.isValid() && !selectionModel()->hasSelection() && std::ranges::count(steps, event->key()) > 0) {
+        setCurrentIndex(first);
         return;
     }
     QTreeView::keyPressEvent(event);

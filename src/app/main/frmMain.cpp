@@ -98,8 +98,14 @@ int frmMain::layoutNumber() const
 
 void frmMain::startLayout(int number)
 {
-    if (number == 2 && takesPictures(2))
-        applyLayout(MainLayout::enlarged(), 2);
+    if (number != 2 || !takesPictures(2))
+        return;
+    applyLayout(MainLayout::enlarged(), 2);
+    if (!onWayland()) {
+        m_placeBefore = pos();
+        m_placeEnlarged = placeAtStart(pos(), true, m_services.screen.screens());
+        move(m_placeEnlarged);
+    }
 }
 
 bool frmMain::takesPictures(int number) const
@@ -189,6 +195,11 @@ void frmMain::createToolTip()
     m_updateInput->createToolTip(*this);
 }
 
+void frmMain::setTipColors(ColorValue fore, ColorValue back)
+{
+    m_updateInput->setTipColors(fore, back);
+}
+
 void frmMain::setTipTitle(std::function<QString()> title)
 {
     m_updateInput->setTipTitle(std::move(title));
@@ -208,7 +219,7 @@ void frmMain::mnuRaw()
 {
     if (showsPage()) {
         m_browser->move(pixelsFromTwips(mainplaces::browserParkedTwips), 0);
-        setStatus(QString::number(m_picMain->width()));
+        setStatus(QString::number(int(twipsFromPixels(m_picMain->width()))));
     } else {
         m_browser->move(0, 0);
         m_browser->raise();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/main/HiddenList.h"
+#include "controls/SystemColors.h"
 #include "gamedb/EntryView.h"
 #include "gamedb/GameSelection.h"
 #include "lookup/LookupView.h"
@@ -86,6 +87,7 @@ public:
     void enableExitButton();   ///< btn_WinState(1)
     /// The balloon over the update list; made late in the start.
     void createToolTip();
+    void setTipColors(ColorValue fore, ColorValue back); ///< of that balloon
     /// Shows or hides the page of the hidden browser over the update list.
     void mnuRaw();
     void setPage(const std::optional<QString>& text); ///< what mnuRaw shows

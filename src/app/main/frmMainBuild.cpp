@@ -15,6 +15,7 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "gamedb/NotesBox.h"
+#include "platform/DroppedText.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/Twips.h"
@@ -22,7 +23,6 @@
 
 #include <QCoreApplication>
 #include <QLabel>
-#include <QMimeData>
 #include <QPlainTextEdit>
 
 namespace varnhold {
@@ -70,10 +70,10 @@ void frmMain::buildCaption()
     m_fetch->setOLEDropMode(1);
     connect(m_fetch, &ButtonEx::Click, this, &frmMain::fetchRequested);
     connect(m_fetch, &ButtonEx::OLEDragOver, this,
-            [](const QMimeData* dragged, int* effect) { *effect = dragged->hasText() ? 1 : 0; });
+            [](const QMimeData* dragged, int* effect) { *effect = offersText(*dragged) ? 1 : 0; });
     connect(m_fetch, &ButtonEx::OLEDragDrop, this, [this](const QMimeData* dropped) {
-        if (dropped->hasText())
-            Q_EMIT textDropped(dropped->text());
+        if (offersText(*dropped))
+            Q_EMIT textDropped(droppedText(*dropped));
     });
 
     m_btnFile = addButton("btnFile", u"Menu"_s);

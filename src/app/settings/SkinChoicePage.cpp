@@ -59,6 +59,14 @@ SkinChoicePage::SkinChoicePage(Settings& settings, const SkinPage& skin, const A
         addLabel(u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16});
         addLabel(QLatin1StringView(cells[i].number), {}, {valueColumn + 36, top, 90, rowHeight});
     }
+    QLabel* const wayOn =
+        addLabel({}, tr("The folder is gone: please choose another skin."), {column, 120, 268, rowHeight});
+    wayOn->setProperty("quiet", true);
+    wayOn->hide();
+    connect(&skin, &SkinPage::changed, wayOn, [&skin, wayOn] {
+        // The count is told in warning colours until a skin has been found.
+        wayOn->setVisible(!skin.skinLoaded && skin.availableSkinsColor[0] != 0);
+    });
     connect(&skin, &SkinPage::changed, this, &SkinChoicePage::showSkin);
     showSkin();
 }

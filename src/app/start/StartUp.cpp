@@ -138,7 +138,8 @@ void StartUp::placeMainWindow()
     const double left = stored.left.value_or(twipsFromPixels(area.right - size.width()));
     const double top = stored.top.value_or(twipsFromPixels(area.bottom - size.height()));
     if (!onWayland())
-        m_services.main.move(pixelsFromTwips(left), pixelsFromTwips(top));
+        m_services.main.move(
+            placeAtStart({pixelsFromTwips(left), pixelsFromTwips(top)}, false, m_services.screen.screens()));
 }
 
 void StartUp::pumpOnce()

@@ -248,6 +248,7 @@ void ButtonEx::timerEvent(QTimerEvent* event)
 
 void ButtonEx::keyPressEvent(QKeyEvent* event)
 {
+    m_keys.pressed(*event);
     ButtonExArguments at;
     at.key = event->key();
     at.shift = shiftNumbers(event->modifiers());
@@ -276,7 +277,7 @@ void ButtonEx::keyReleaseEvent(QKeyEvent* event)
 {
     const bool isSpace = event->key() == Qt::Key_Space;
     event->setAccepted(isSpace);
-    if (event->isAutoRepeat())
+    if (event->isAutoRepeat() || !m_keys.released(*event))
         return;
     const bool clicks = isSpace && m_keyDown;
     if (clicks) {
@@ -301,6 +302,7 @@ void ButtonEx::focusInEvent(QFocusEvent* event)
 void ButtonEx::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
+    m_keys.forget();
     m_state.setFocused(false);
     if (m_keyDown) {
         m_keyDown = false;

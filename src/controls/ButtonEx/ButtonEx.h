@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/ButtonEx/ButtonExState.h"
+#include "controls/PressedKeys.h"
 #include "controls/SystemColors.h"
 
 #include <QAccessible>
@@ -255,6 +256,7 @@ private:
     bool m_keyboardFocus = false; ///< focus that came by a key shows
     bool m_pointerLeft = false;
     bool m_buttonDown = false;
+    PressedKeys m_keys;
     bool m_keyDown = false;
 };
 

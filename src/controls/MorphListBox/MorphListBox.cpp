@@ -77,6 +77,11 @@ int MorphListBox::MouseOverIndex(int y) const
     return m_model->MouseOverIndex(y);
 }
 
+bool MorphListBox::isRowsZone(const QPoint& position) const
+{
+    return m_model->metrics().zoneAt(position) == HitZone::Rows;
+}
+
 void MorphListBox::Refresh()
 {
     lookChanged();

@@ -3,6 +3,7 @@
 #include "controls/MorphListBox/MorphListDesign.h"
 #include "controls/MorphListBox/MorphListModel.h"
 #include "controls/MorphListBox/MorphListPainter.h"
+#include "controls/PressedKeys.h"
 
 #include <QBasicTimer>
 #include <QPixmap>
@@ -104,7 +105,9 @@ public:
     /// Makes the item the first visible row, or shows the last page when the list ends before.
     void DisplayFrom(int index);
     [[nodiscard]] int MouseOverIndex(int y) const; ///< the item shown at that height, -1 when none is
-    void Refresh();                                ///< rebuilds the background and repaints
+    /// Whether rows, or the room below them, lie there, and not a part of the scroll bar.
+    [[nodiscard]] bool isRowsZone(const QPoint& position) const;
+    void Refresh(); ///< rebuilds the background and repaints
 
     // Fields of an item. Out of range: an empty text, 0, false, -1; writing is ignored.
     [[nodiscard]] QString List(int index) const;
@@ -366,6 +369,7 @@ private:
         int shift;
         quint64 time; ///< the window system's
     };
+    PressedKeys m_keys;
     std::optional<KeyRelease> m_release; ///< not told yet
     QBasicTimer m_releaseTimer;
     int m_toldRow = -1; ///< the current row that assistive tools know

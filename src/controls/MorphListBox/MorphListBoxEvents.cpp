@@ -105,6 +105,7 @@ void MorphListBox::wheelEvent(QWheelEvent* event)
 
 void MorphListBox::keyPressEvent(QKeyEvent* event)
 {
+    m_keys.pressed(*event);
     const int key = keyCodeOf(event->key());
     if (m_release && m_release->key == key && m_release->time == event->timestamp())
         m_release.reset(); // the key is still held
@@ -124,6 +125,8 @@ void MorphListBox::keyReleaseEvent(QKeyEvent* event)
     if (event->isAutoRepeat())
         return; // the key is still held
     tellRelease();
+    if (!m_keys.released(*event))
+        return;
     m_release = {keyCodeOf(event->key()), shiftOf(event->modifiers()), event->timestamp()};
     // The toolkit knows a repetition only when the press of the same moment has come in already.
     if (event->timestamp() != 0)
@@ -147,6 +150,7 @@ void MorphListBox::focusInEvent(QFocusEvent*)
 
 void MorphListBox::focusOutEvent(QFocusEvent*)
 {
+    m_keys.forget();
     const QPointer<MorphListBox> alive(this);
     tellRelease();
     if (alive)

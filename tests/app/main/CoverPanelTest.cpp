@@ -45,7 +45,9 @@ TEST_F(CoverPanelTest, ShowsTheCoverLargeInsteadOfTheViews)
 {
     window.showStoredPicture(pictureBytes({300, 400}, "jpg"));
     EXPECT_EQ(preview.picture().size(), QSize(90, 120)) << "no more is read than shows";
+    child(window, "txtGameNotes").setFocus();
     click();
+    EXPECT_EQ(window.focusWidget(), &preview) << "the next key makes it small again";
     EXPECT_EQ(child<CoverBox>(window, "imgPreview").picture().size(), QSize(300, 400));
     EXPECT_EQ(player.played, QStringList{u"0"_s});
     EXPECT_TRUE(large.isVisible());

@@ -1,5 +1,6 @@
 #include "../MainWindowWorld.h"
 
+#include "app/main/MainLayout.h"
 #include "app/main/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/CTooltip/CTooltip.h"
@@ -91,6 +92,30 @@ TEST_F(FrmMain, GrowsWithinTheWorkAreaAndGoesBack)
     EXPECT_EQ(window.pos(), QPoint(5, 5)) << "moved by the user meanwhile";
 }
 
+TEST_F(FrmMain, OpensWhereItCanBeUsed)
+{
+    const std::vector<ScreenAreas> screens{{{0, 0, 1920, 1080}, {0, 0, 1920, 1040}},
+                                           {{1920, 0, 3200, 1024}, {1920, 30, 3200, 1024}}};
+    const struct
+    {
+        const char* name;
+        QPoint place;
+        bool enlarged;
+        QPoint opens;
+    } cases[] = {
+        {"normal, across an edge", {-300, 1000}, false, {-300, 1000}},
+        {"normal, on the other screen", {2900, 100}, false, {2900, 100}},
+        {"normal, on a screen that is gone", {-1500, 300}, false, {0, 300}},
+        {"normal, below every screen", {100, 1090}, false, {100, 1040 - 289}},
+        {"large, with room", {100, 100}, true, {100, 100}},
+        {"large, in the corner of the normal size", {1473, 751}, true, {1920 - 595, 1040 - 385}},
+        {"large, on the other screen", {2900, 0}, true, {3200 - 595, 30}},
+        {"large, on a screen that is gone", {5000, 300}, true, {1920 - 595, 300}},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(placeAtStart(one.place, one.enlarged, screens), one.opens) << one.name;
+}
+
 TEST_F(FrmMain, KeepsBarsWithinTheirColumns)
 {
     const struct
@@ -178,6 +203,11 @@ TEST_F(FrmMain, HandsOnWhatIsDoneInTheUpdateList)
     addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
     addUpdate(u"01.02"_s, {});
     auto& view = child<UpdateListView>(window, "ListView1");
+    view.setFocus();
+    for (const int row : {1, 2}) {
+        QTest::keyClick(&view, Qt::Key_Down);
+        EXPECT_EQ(window.selectedUpdateRow(), row);
+    }
     const QSignalSpy activations(&window, &frmMain::updateRowActivated);
     const QSignalSpy menus(&window, &frmMain::mnuLViewWanted);
     QTest::mouseClick(view.viewport(), Qt::RightButton, {}, updateRow(2));
@@ -207,6 +237,7 @@ TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)
 {
     addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
     addUpdate(u"01.02"_s, {});
+    window.setTipColors(0x112233, 0x445566);
     window.createToolTip();
     window.setTipTitle([] { return u"Ashgrove"_s; });
     auto& view = child<UpdateListView>(window, "ListView1");
@@ -214,6 +245,7 @@ TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)
     ASSERT_NE(balloon, nullptr);
     QTest::mouseMove(view.viewport(), updateRow(1));
     EXPECT_TRUE(balloon->exists());
+    EXPECT_EQ(balloon->BackColor(), 0x445566U) << "the skin came first";
     EXPECT_EQ(balloon->Title(), u"Ashgrove"_s);
     EXPECT_TRUE(balloon->TipText().startsWith(u"Package Version:  01.01\r\n§ystem Version:    03.4100"_s));
     QTest::mouseMove(view.viewport(), updateRow(2));
@@ -229,17 +261,22 @@ TEST_F(FrmMain, TakesDroppedTextOnly)
     const QSignalSpy drops(&window, &frmMain::textDropped);
     QMimeData text;
     text.setText(u"http://host/A.PKG"_s);
+    QMimeData oneAddress;
+    oneAddress.setData(u"text/uri-list"_s, "http://host/a%20b.pkg\r\n");
+    QMimeData twoAddresses;
+    twoAddresses.setData(u"text/uri-list"_s, "http://host/a.pkg\r\nhttp://host/b.pkg\r\n");
     QMimeData other;
     other.setData(u"application/x-other"_s, "x");
-    for (const QMimeData* data : {&text, &other}) {
+    for (const QMimeData* data : {&text, &oneAddress, &twoAddresses, &other}) {
         QDragEnterEvent enter({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&fetch, &enter);
-        EXPECT_EQ(enter.isAccepted(), data == &text);
+        EXPECT_EQ(enter.isAccepted(), data == &text || data == &oneAddress);
+        QDropEvent drop({5, 5}, Qt::CopyAction, data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&fetch, &drop);
     }
-    QDropEvent drop({5, 5}, Qt::CopyAction, &text, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&fetch, &drop);
-    ASSERT_EQ(drops.count(), 1);
+    ASSERT_EQ(drops.count(), 2);
     EXPECT_EQ(drops.front().front().toString(), u"http://host/A.PKG"_s);
+    EXPECT_EQ(drops.back().front().toString(), u"http://host/a%20b.pkg"_s);
 }
 
 TEST_F(FrmMain, TogglesTheRawPage)
@@ -251,7 +288,7 @@ TEST_F(FrmMain, TogglesTheRawPage)
     EXPECT_EQ(text("lblStatus"), u"Raw XML"_s);
     window.mnuRaw();
     EXPECT_EQ(browser.x(), 573);
-    EXPECT_EQ(text("lblStatus"), u"337"_s);
+    EXPECT_EQ(text("lblStatus"), u"5055"_s) << "twips";
 }
 
 TEST_F(FrmMain, TakesThePointsOutOfAClickedTitle)

@@ -56,7 +56,9 @@ TEST_F(StartUpTest, TakesUpWhatWasStored)
     writeSettings("Varnhold X=1500.5\r\nMiximize=2\r\nMain Opacity=3\r\nLeftBar Top=100\r\nAuto SSL 1=1\r\n");
     EXPECT_EQ(startUp.run(), StartUp::Outcome::Running);
     EXPECT_EQ(main.size(), QSize(595, 385));
-    EXPECT_EQ(main.pos(), QPoint(100, 1040 - 289)) << "the height of the normal size counts";
+    EXPECT_EQ(main.pos(), QPoint(100, 1040 - 385)) << "within the work area";
+    main.RestoreMainWindow();
+    EXPECT_EQ(main.pos(), QPoint(100, 1040 - 289)) << "worked out with the height of the normal size";
     EXPECT_NEAR(main.windowOpacity(), 20 / 255.0, 0.01);
     EXPECT_EQ(settings.opacity(OpacityOf::Main), 3);
     EXPECT_EQ(stored(u"LeftBar Top"_s), u"540"_s);
