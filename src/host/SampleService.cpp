@@ -4,15 +4,15 @@
 #include "host/Listener.h"
 #include "platform/RunTimeError.h"
 
-#include <QDir>
+#include <QFile>
 #include <QHostAddress>
 #include <QPointer>
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QSslSocket>
-#include <QTemporaryFile>
 
 #include <fnmatch.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace varnhold::host {
@@ -23,6 +23,7 @@ namespace {
 
 const QByteArray oddPrefix = "/odd/";
 constexpr qsizetype requestsKept = 10000;
+constexpr qsizetype requestBytesKept = 1024 * 1024;
 
 QString authorityOf(quint16 port)
 {
@@ -63,23 +64,19 @@ void SampleService::open(Listener& listener, quint16 port)
             u"The sample service cannot listen on port %1: %2."_s.arg(port).arg(listener.errorString()));
 }
 
+/// The unnamed one lives in memory, under a name that goes with this process however that ends.
 void SampleService::writeCaFile(const QString& wanted)
 {
-    QFile named(wanted);
-    QFile* file = &named;
-    bool opened = false;
-    if (wanted.isEmpty()) {
-        m_temporaryCaFile = std::make_unique<QTemporaryFile>(QDir::tempPath() + u"/varnhold-ca-XXXXXX.pem"_s);
-        file = m_temporaryCaFile.get();
-        opened = m_temporaryCaFile->open();
-    } else {
-        opened = named.open(QIODevice::WriteOnly);
-    }
-    if (!opened || file->write(m_authority.certificate) != m_authority.certificate.size() || !file->flush())
+    m_caKept = std::make_unique<QFile>(wanted);
+    QFile& file = *m_caKept;
+    const bool opened = wanted.isEmpty() ? file.open(::memfd_create("varnhold-ca", MFD_CLOEXEC),
+                                                     QIODevice::WriteOnly, QFile::AutoCloseHandle)
+                                         : file.open(QIODevice::WriteOnly);
+    if (!opened || file.write(m_authority.certificate) != m_authority.certificate.size() || !file.flush())
         throw RunTimeError(errors::pathFileAccess,
                            u"The sample service cannot write its certificate to \"%1\": %2."_s.arg(
-                               file->fileName(), file->errorString()));
-    m_caFile = file->fileName();
+                               wanted, file.errorString()));
+    m_caFile = wanted.isEmpty() ? u"/proc/%1/fd/%2"_s.arg(::getpid()).arg(file.handle()) : wanted;
 }
 
 void SampleService::makeTls()
@@ -163,8 +160,9 @@ void SampleService::handle(Connection& connection, const HttpRequest& request, P
         return;
     }
     m_requests.append(request.target);
-    if (m_requests.size() > requestsKept)
-        m_requests.removeFirst();
+    m_requestBytes += request.target.size();
+    while (m_requests.size() > requestsKept || m_requestBytes > requestBytesKept)
+        m_requestBytes -= m_requests.takeFirst().size();
     if (request.method != "GET" && !context.headOnly) {
         connection.start(makePlan(statusReply(405), {}, context));
         return;

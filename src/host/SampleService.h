@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-class QTemporaryFile;
+class QFile;
 
 namespace varnhold::host {
 
@@ -31,7 +31,7 @@ public:
 
     /// Listens on 127.0.0.1; 0 picks a free port. Throws RunTimeError with a sentence when a port is taken or
     /// the certificate or its file cannot be made. `caFile`: where the authority's certificate is written;
-    /// empty: a temporary file that goes with the service.
+    /// empty: a file in memory that is gone with the service, also when that is killed.
     void start(quint16 httpPort = 0, quint16 httpsPort = 0, const QString& caFile = {});
 
     /// The http port that 0 means when it is free. Before start().
@@ -55,7 +55,7 @@ public:
     /// The certificate that connections from now on are shown. Before or after start().
     void setCertificateFault(CertificateFault fault);
 
-    /// Targets of the last 10000 requests, as they came over the wire.
+    /// Targets of the last requests, as they came over the wire: 10000 at most, and a mebibyte.
     [[nodiscard]] const QList<QByteArray>& requests() const { return m_requests; }
 
 private:
@@ -80,12 +80,13 @@ private:
     Identity m_authority;
     QSslConfiguration m_tls;
     CertificateFault m_fault = CertificateFault::None;
-    std::unique_ptr<QTemporaryFile> m_temporaryCaFile;
+    std::unique_ptr<QFile> m_caKept; ///< open, so that the unnamed one stays
     QString m_caFile;
     quint16 m_preferredPort = 0;
     qint64 m_rate = 30'000'000;
     std::vector<Rule> m_rules;
     QList<QByteArray> m_requests;
+    qsizetype m_requestBytes = 0;
 };
 
 } // namespace varnhold::host

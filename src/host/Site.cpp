@@ -68,19 +68,37 @@ Reply movedTo(const QByteArray& location)
 
 } // namespace
 
-Site::Site(QObject* parent)
-    : QObject(parent), m_titles(sampleTitles()), m_versionText(VARNHOLD_VERSION "\r\n")
+Site::Site(QObject* parent) : QObject(parent), m_titles(knownTitles()), m_versionText(VARNHOLD_VERSION "\r\n")
 {
+    for (std::size_t i = 0; i < m_titles.size(); ++i)
+        addPaths(i);
 }
 
 void Site::addTitle(const SampleTitle& title)
 {
     m_sums.remove(title.id);
     const auto old = std::ranges::find(m_titles, title.id, &SampleTitle::id);
-    if (old != m_titles.end())
-        *old = title;
-    else
+    const auto index = static_cast<std::size_t>(old - m_titles.begin());
+    if (old == m_titles.end()) {
         m_titles.push_back(title);
+    } else {
+        *old = title;
+        m_paths.removeIf([index](const auto& found) { return found.value().title == index; });
+    }
+    addPaths(index);
+}
+
+/// A title without packages has no document either.
+void Site::addPaths(std::size_t title)
+{
+    const SampleTitle& added = m_titles[title];
+    if (added.packages.empty())
+        return;
+    for (const QStringView base : documentBases)
+        m_paths.insert(base.toString() + added.id + u'/' + added.id + u"-ver.xml"_s, {title, document});
+    for (std::size_t i = 0; i < added.packages.size(); ++i)
+        if (const QString path = packagePath(added, added.packages[i]); !m_paths.contains(path))
+            m_paths.insert(path, {title, i});
 }
 
 void Site::addPage(const QString& path, const QByteArray& contentType, const QByteArray& bytes)
@@ -88,29 +106,15 @@ void Site::addPage(const QString& path, const QByteArray& contentType, const QBy
     m_pages.insert(path, bytesReply(contentType, bytes));
 }
 
-std::optional<Site::Found> Site::find(const QString& path) const
-{
-    for (const SampleTitle& title : m_titles) {
-        const QString name = title.id + u'/' + title.id + u"-ver.xml"_s;
-        for (const QStringView base : documentBases)
-            if (path.startsWith(base) && QStringView(path).sliced(base.size()) == name)
-                return Found{&title, document};
-        for (std::size_t i = 0; i < title.packages.size(); ++i)
-            if (path == packagePath(title, title.packages[i]))
-                return Found{&title, i};
-    }
-    return std::nullopt;
-}
-
 void Site::answer(const QString& path, const QByteArray& origin, const QObject* asker,
                   const std::function<void(const Reply&)>& done)
 {
-    const std::optional<Found> found = m_pages.contains(path) ? std::nullopt : find(path);
-    if (!found) {
+    const auto found = m_paths.constFind(path);
+    if (found == m_paths.cend() || m_pages.contains(path)) {
         done(page(path, origin));
         return;
     }
-    const SampleTitle title = *found->title;
+    const SampleTitle title = m_titles[found->title];
     const std::size_t package = found->package;
     const auto reply = [title, package, origin](const Sums& sums) {
         if (package == document)
@@ -149,7 +153,7 @@ Reply Site::page(const QString& path, const QByteArray& origin) const
     if (path == u"/Varnhold/txt/version.txt")
         return bytesReply("text/plain", m_versionText);
     if (path == u"/Varnhold/ps3gameids.txt")
-        return bytesReply("text/plain", idList());
+        return bytesReply("text/plain", m_idList.value_or(idList()));
     if (path == u"/" || path == u"/images")
         return bytesReply(
             "text/html; charset=utf-8",

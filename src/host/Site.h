@@ -28,7 +28,10 @@ public:
     /// Answers this path with these bytes, whatever else would stand there.
     void addPage(const QString& path, const QByteArray& contentType, const QByteArray& bytes);
     [[nodiscard]] const std::vector<SampleTitle>& titles() const { return m_titles; }
+    /// The version file, as it is.
     void setVersionText(const QByteArray& text) { m_versionText = text; }
+    /// The list of ids, as it is, in the place of the one of all titles.
+    void setIdList(const QByteArray& list) { m_idList = list; }
 
     /// Finds the answer for a path without query and hands it over: at once, or from the event loop when sums
     /// have to be made first; never after `asker` is gone. `origin` begins package addresses.
@@ -38,17 +41,19 @@ public:
 private:
     struct Found
     {
-        const SampleTitle* title = nullptr;
+        std::size_t title = 0;   ///< index
         std::size_t package = 0; ///< index, or a mark for the document
     };
-    [[nodiscard]] std::optional<Found> find(const QString& path) const;
+    void addPaths(std::size_t title);
     [[nodiscard]] Reply page(const QString& path, const QByteArray& origin) const;
     [[nodiscard]] QByteArray idList() const;
 
     std::vector<SampleTitle> m_titles;
+    QHash<QString, Found> m_paths;
     QHash<QString, Reply> m_pages;
     QHash<QString, QFuture<std::vector<PackageSums>>> m_sums; ///< by id, as far as they were asked for
     QByteArray m_versionText;
+    std::optional<QByteArray> m_idList;
 };
 
 } // namespace varnhold::host

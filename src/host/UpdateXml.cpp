@@ -6,9 +6,15 @@ using namespace Qt::StringLiterals;
 
 QString packagePath(const SampleTitle& title, const SamplePackage& package)
 {
+    if (package.address == PackageAddress::None)
+        return {};
+    if (package.address == PackageAddress::AsFirst)
+        return packagePath(title, title.packages.front());
     QString version = package.version;
     version.remove(u'.');
-    return u"/tppkg/np/%1/%1_T1/UP0001-%1_00-VARNHOLDSAMPLE00-A%2-V0100.pkg"_s.arg(title.id, version);
+    const QString path =
+        u"/tppkg/np/%1/%1_T1/UP0001-%1_00-VARNHOLDSAMPLE00-A%2-V0100"_s.arg(title.id, version);
+    return path + (package.address == PackageAddress::Capitals ? u".PKG"_s : u".pkg"_s);
 }
 
 QByteArray updateXml(const SampleTitle& title, const std::vector<PackageSums>& sums, const QByteArray& origin)
@@ -21,8 +27,10 @@ QByteArray updateXml(const SampleTitle& title, const std::vector<PackageSums>& s
         const QByteArray& sum =
             title.sumOf == SumOf::WholeFile ? sums.at(i).wholeFile : sums.at(i).allButTail;
         xml += "<package version=\"" + package.version.toUtf8() + "\" size=\"" +
-               QByteArray::number(package.size) + "\" sha1sum=\"" + sum + "\" url=\"" + origin +
-               (title.moved ? "/moved" : "") + packagePath(title, package).toUtf8() + '"';
+               QByteArray::number(package.size) + "\" sha1sum=\"" + sum + '"';
+        if (package.address != PackageAddress::None)
+            xml += " url=\"" + origin + (title.moved ? "/moved" : "") + packagePath(title, package).toUtf8() +
+                   '"';
         if (!package.systemVersion.isEmpty())
             xml += " ps3_system_ver=\"" + package.systemVersion.toUtf8() + '"';
         if (i + 1 == title.packages.size())

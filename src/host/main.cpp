@@ -1,5 +1,7 @@
 #include "host/ParentWatch.h"
 #include "host/SampleService.h"
+#include "host/Titles.h"
+#include "platform/ReadFile.h"
 #include "platform/RunTimeError.h"
 
 #include <QCommandLineParser>
@@ -19,6 +21,8 @@ constexpr int failed = 1;
 constexpr int misuse = 2;
 /// Addresses of packages that were kept in one run hold in the next.
 constexpr quint16 usualPort = 28930;
+constexpr int mostIds = 1'000'000;
+constexpr qint64 largestVersionFile = qint64{64} * 1024 * 1024;
 
 struct Usage
 {
@@ -34,6 +38,34 @@ quint16 portOf(const QString& text)
     return port;
 }
 
+int idCount(const QString& text)
+{
+    bool ok = false;
+    const int count = text.toInt(&ok);
+    if (!ok || count < 0 || count > mostIds)
+        throw Usage{u"\"%1\" is no number of ids from 0 to %2."_s.arg(text).arg(mostIds)};
+    return count;
+}
+
+void printTitles()
+{
+    for (const SampleTitle& title : knownTitles())
+        std::printf("%s %2zu  %s\n", qUtf8Printable(title.id), title.packages.size(),
+                    qUtf8Printable(title.name));
+}
+
+void configureUpdateHost(Site& site, const QCommandLineParser& options)
+{
+    if (options.isSet(u"news"_s) && options.isSet(u"version-file"_s))
+        throw Usage{u"--news and --version-file exclude each other."_s};
+    if (options.isSet(u"news"_s))
+        site.setVersionText(options.value(u"news"_s).toUtf8() + "\r\n");
+    if (options.isSet(u"version-file"_s))
+        site.setVersionText(readFile(options.value(u"version-file"_s), largestVersionFile));
+    if (options.isSet(u"ids"_s))
+        site.setIdList(madeUpIdList(idCount(options.value(u"ids"_s))));
+}
+
 void configure(SampleService& service, const QCommandLineParser& options)
 {
     bool ok = false;
@@ -46,6 +78,8 @@ void configure(SampleService& service, const QCommandLineParser& options)
     if (!fault)
         throw Usage{u"\"%1\" is no kind of certificate."_s.arg(options.value(u"certificate"_s))};
     service.setCertificateFault(*fault);
+
+    configureUpdateHost(service.site(), options);
 
     for (const QString& rule : options.values(u"misbehave"_s)) {
         const qsizetype equals = rule.lastIndexOf(u'=');
@@ -69,6 +103,12 @@ void addOptions(QCommandLineParser& options)
     options.addOption(
         {u"rate"_s, u"Pace of packages in megabytes a second; 0 for none."_s, u"rate"_s, u"30"_s});
     options.addOption({u"ca-file"_s, u"Where to write the authority's certificate."_s, u"file"_s});
+    options.addOption(
+        {u"titles"_s, u"Lists the titles that it knows with their numbers of packages, and ends."_s});
+    options.addOption(
+        {u"news"_s, u"What the version file says; without it, this program's own version."_s, u"version"_s});
+    options.addOption({u"version-file"_s, u"The version file's bytes."_s, u"file"_s});
+    options.addOption({u"ids"_s, u"An id list of so many made-up titles."_s, u"number"_s});
     options.addOption({u"certificate"_s,
                        u"The certificate shown over https: good, wrong-host, expired, self-signed."_s,
                        u"kind"_s, u"good"_s});
@@ -92,6 +132,10 @@ int main(int argc, char** argv)
     addOptions(options);
     options.process(application);
 
+    if (options.isSet(u"titles"_s)) {
+        printTitles();
+        return 0;
+    }
     try {
         quitOnSignals();
         if (options.isSet(u"parent"_s) && !endWithParent(options.value(u"parent"_s).toLongLong()))

@@ -6,6 +6,7 @@
 
 #include <QCryptographicHash>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QRegularExpression>
 #include <QSslCertificate>
 #include <QSslConfiguration>
@@ -184,6 +185,44 @@ TEST_F(SampleService, SumsOfDocumentsAreTrue)
     }
     EXPECT_GT(wholes, 5);
     EXPECT_GT(tails, 5);
+}
+
+TEST_F(SampleService, KnowsTheDeliveredTitlesAndSomeOddOnes)
+{
+    QHash<QString, std::size_t> counts;
+    int without = 0;
+    for (const host::SampleTitle& title : host::knownTitles()) {
+        EXPECT_FALSE(counts.contains(title.id)) << title.id.toStdString();
+        counts.insert(title.id, title.packages.size());
+        without += title.packages.empty() ? 1 : 0;
+        EXPECT_TRUE(title.packages.size() <= 8 || title.id == u"BLUS31300") << title.id.toStdString();
+    }
+    EXPECT_EQ(without, 5);
+    EXPECT_EQ(counts.value(u"BCUS10001"_s), 1U) << "titles with packages of their own keep them";
+
+    const auto document = [&](const QByteArray& id) {
+        return get(*service, "/tpl/np/" + id + '/' + id + "-ver.xml");
+    };
+    EXPECT_EQ(document("HMBR12345").status(), 404);
+    const struct
+    {
+        const char* id;
+        qsizetype packages;
+        qsizetype urls;
+        QByteArray says;
+    } cases[] = {
+        {"BLUS31300", 24, 24, "A0124-V0100.pkg"}, {"BLUS31301", 1, 1, "Salt/Silver"},
+        {"BLUS31302", 2, 1, "version=\"01.02\""}, {"BLUS31303", 2, 2, "version=\"01.02\""},
+        {"BLUS31304", 1, 1, "-V0100.PKG\""},
+    };
+    for (const auto& row : cases) {
+        const QByteArray body = document(row.id).body;
+        EXPECT_EQ(body.count("<package "), row.packages) << row.id;
+        EXPECT_EQ(body.count(" url="), row.urls) << row.id;
+        EXPECT_TRUE(body.contains(row.says)) << body.constData();
+    }
+    EXPECT_EQ(document("BLUS31303").body.count("A0101-V0100.pkg"), 2);
+    EXPECT_TRUE(host::madeUpIdList(100).startsWith(host::madeUpIdList(99)));
 }
 
 TEST_F(SampleService, MisbehavesAsAsked)
