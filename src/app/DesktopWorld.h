@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Program.h"
+#include "platform/DesktopTrash.h"
 #include "platform/QtClipboard.h"
 #include "platform/QtColorDialog.h"
 #include "platform/QtFileDialogs.h"
@@ -38,6 +39,7 @@ public:
                 .player = m_player,
                 .sockets = m_sockets,
                 .screen = m_screen,
+                .trash = &m_trash,
                 .isFirst = std::move(instance.isFirst),
                 .activatePrevious = std::move(instance.activatePrevious),
                 .findHosts = std::move(findHosts),
@@ -59,6 +61,7 @@ private:
     SdlSoundPlayer m_player;
     TcpSocketMaker m_sockets;
     QtScreen m_screen;
+    DesktopTrash m_trash;
 };
 
 } // namespace varnhold

@@ -23,6 +23,7 @@
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -154,7 +155,7 @@ TEST_F(Journey, DownloadsFromTheMenuIntoTheTitlesFolderAndMarksItNextTime)
     QTest::mouseClick(view.viewport(), Qt::RightButton, {}, rowCentre(2));
     auto* menu = program->menus().findChild<QMenu*>(u"mnuLView"_s);
     ASSERT_TRUE(menu->isVisible());
-    QTest::keyClick(menu, Qt::Key_Down);
+    menu->setActiveAction(program->menus().findChild<QAction*>(u"mnuDLoad"_s));
     QTest::keyClick(menu, Qt::Key_Return);
     ASSERT_TRUE(pumpUntil([&] { return control<QLabel>("lblCnt").text() == u"0"_s; }));
     const QString folder = root.path(u"dl/BLUS30443-[Ashgrove Circuit]/"_s);

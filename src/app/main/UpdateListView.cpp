@@ -131,6 +131,20 @@ int UpdateListView::rowAt(const QPoint& position) const
     return index.isValid() ? index.row() + 1 : 0;
 }
 
+/// Two quick clicks on a check box toggle it twice and are no double click of the row.
+bool UpdateListView::isOnCheckBox(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    if (!index.flags().testFlag(Qt::ItemIsUserCheckable) || !index.data(Qt::CheckStateRole).isValid())
+        return false;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    option.index = index;
+    option.features |= QStyleOptionViewItem::HasCheckIndicator;
+    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(position);
+}
+
 void UpdateListView::mousePressEvent(QMouseEvent* event)
 {
     QTreeView::mousePressEvent(event);
@@ -154,7 +168,7 @@ void UpdateListView::mouseReleaseEvent(QMouseEvent* event)
 void UpdateListView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QTreeView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton && !isOnCheckBox(event->position().toPoint()))
         Q_EMIT rowActivated(selectedRow());
 }
 

@@ -47,6 +47,7 @@ protected:
 
 private:
     [[nodiscard]] int rowAt(const QPoint& position) const;
+    [[nodiscard]] bool isOnCheckBox(const QPoint& position) const;
     void drawPicture(QPainter& painter) const;
 
     QPixmap m_picture;

@@ -95,9 +95,10 @@ public:
     /// Asked for the heading of that balloon.
     void setTipTitle(std::function<QString()> title);
 
-    [[nodiscard]] MorphListBox& games() { return *m_games; } ///< MorphListBox1
-    [[nodiscard]] HiddenList& titles() { return m_titles; }  ///< List1
-    [[nodiscard]] int selectedUpdateRow() const;             ///< from 1; 0 when none
+    [[nodiscard]] MorphListBox& games() { return *m_games; }       ///< MorphListBox1
+    [[nodiscard]] HiddenList& titles() { return m_titles; }        ///< List1
+    [[nodiscard]] UpdateListView& updates() { return *m_updates; } ///< ListView1
+    [[nodiscard]] int selectedUpdateRow() const;                   ///< from 1; 0 when none
 
     [[nodiscard]] QString gameIdText() const override;
     void setGameIdText(const QString& text) override;
