@@ -88,8 +88,9 @@ QMenu::scroller { height: 16px; }
 QMenu::item { padding: 4px 28px 4px 8px; }
 QMenu::icon { padding-left: 6px; }
 QMenu::item:selected { background: @chosen; color: @chosenText; }
+QMenu::item:disabled { color: @dim; background: transparent; }
 QMenu::separator { height: 1px; background: @edge; margin: 4px 8px; }
-QMenu::icon:checked { border: 1px solid @accent; }
+QMenu::icon:checked { border: 1px solid @accent; background: @chosen; }
 QToolTip { color: @text; background: @ground; border: 1px solid @edge; padding: 2px 4px; }
 QHeaderView { background: transparent; }
 QHeaderView::section { color: @text; background: @raised; border: none;
@@ -108,6 +109,7 @@ QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-pa
                                                 {u"@chosen"_s, tones.chosen},
                                                 {u"@text"_s, tones.text},
                                                 {u"@ground"_s, tones.ground},
+                                                {u"@dim"_s, mixed(tones.text, tones.ground, 0.45)},
                                                 {u"@edge"_s, tones.edge},
                                                 {u"@accent"_s, tones.accent},
                                                 {u"@raised"_s, mixed(tones.ground, tones.text, 0.12)},

@@ -4,9 +4,8 @@
 #include "gamedb/EntryView.h"
 #include "gamedb/SharedDatabase.h"
 #include "gamedb/Statements.h"
+#include "platform/BusyPointer.h"
 #include "state/Settings.h"
-
-#include <QScopeGuard>
 
 namespace varnhold {
 
@@ -38,8 +37,7 @@ void loadGameDetails(SharedDatabase& database, const Settings& settings, EntryVi
     if (view.gameCount() == 0)
         return;
     database.reporting([&] {
-        view.showBusy(true);
-        const auto busy = qScopeGuard([&view] { view.showBusy(false); }); // also before a report shows
+        const auto busy = busyPointer(view); // gone before a report shows
         database.DBKey = view.gameIdText();
         database.connect();
         database.select(statements::entry(settings.orderText(Order::DBTable), database.DBKey));

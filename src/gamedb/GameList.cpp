@@ -5,6 +5,7 @@
 #include "gamedb/RegionImages.h"
 #include "gamedb/SharedDatabase.h"
 #include "gamedb/Statements.h"
+#include "platform/BusyPointer.h"
 #include "platform/MessageBoxes.h"
 #include "platform/database/DatabaseErrors.h"
 #include "state/ApplicationState.h"
@@ -22,13 +23,6 @@ namespace {
 
 /// Of all ids and names: a file may hold few bytes and tell texts without end.
 constexpr qsizetype mostCharacters = 256 * 1024 * 1024;
-
-/// Back on every way out, and before a report shows.
-auto busyPointer(GameListView& view)
-{
-    view.showBusy(true);
-    return qScopeGuard([&view] { view.showBusy(false); });
-}
 
 } // namespace
 

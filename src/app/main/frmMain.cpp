@@ -21,6 +21,7 @@
 #include "state/Sounds.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -254,6 +255,13 @@ void frmMain::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton)
         Q_EMIT mnuMenuWanted(event->globalPosition().toPoint());
+}
+
+void frmMain::contextMenuEvent(QContextMenuEvent* event)
+{
+    // With the mouse the menu opens when the button comes up.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT mnuMenuWanted(m_btnFile->mapToGlobal(QPoint(0, m_btnFile->height())));
 }
 
 } // namespace varnhold

@@ -324,6 +324,10 @@ TEST_F(FrmMain, OpensItsMenuFromTheBareWindowAndTheButton)
     QTest::mouseClick(&button, Qt::LeftButton);
     QTest::mouseClick(&button, Qt::RightButton);
     EXPECT_EQ(menus.count(), 3);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(&button, &key);
+    EXPECT_EQ(menus.back().front(), button.mapToGlobal(QPoint(0, button.height()))) << "by the menu key";
+    EXPECT_EQ(menus.count(), 4);
 }
 
 } // namespace varnhold::test
