@@ -59,11 +59,16 @@ public:
     {
         telling([&] { m_file->write(bytes); });
     }
-    qint64 appendFrom(Socket& socket) override
+    void appendFrom(Socket& socket, const QByteArray& except,
+                    std::function<void(const Appended&)> done) override
     {
-        qint64 moved = 0;
-        telling([&] { moved = m_file->appendFrom(socket); });
-        return moved;
+        telling([&] {
+            m_file->appendFrom(socket, except, [this, done = std::move(done)](const Appended& appended) {
+                if (appended.failure)
+                    m_failed(*appended.failure);
+                done(appended);
+            });
+        });
     }
 
 private:

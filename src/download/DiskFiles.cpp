@@ -12,6 +12,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace varnhold {
 
@@ -66,17 +67,21 @@ public:
         }
     }
 
-    qint64 appendFrom(Socket& socket) override
+    void appendFrom(Socket& socket, const QByteArray& except,
+                    std::function<void(const Appended&)> done) override
     {
         requireOpen();
         struct stat status = {};
         if (::fstat(m_descriptor, &status) != 0)
             throw errorFromErrno(errno);
-        const qint64 moved = socket.moveData(m_descriptor, status.st_size);
-        if (moved < 0)
-            throw errorFromErrno(errno);
-        m_position = status.st_size + moved;
-        return moved;
+        const auto moved = [this, end = status.st_size, done = std::move(done)](qint64 bytes, int cause) {
+            m_position = end + bytes;
+            if (cause != 0)
+                done({bytes, errorFromErrno(cause)});
+            else
+                done({bytes, std::nullopt});
+        };
+        socket.moveData(m_descriptor, status.st_size, except, moved);
     }
 
 private:

@@ -15,7 +15,6 @@
 #include <QPointer>
 
 #include <array>
-#include <cstring>
 #include <limits>
 #include <optional>
 
@@ -27,6 +26,7 @@ namespace {
 
 constexpr int overwriteTries = 5;
 constexpr quint32 displayInterval = 100; ///< milliseconds
+constexpr QByteArrayView headerStart("HTTP");
 
 /// Failures that handlers let pass without a word.
 bool passesSilently(const RunTimeError& error)
@@ -60,7 +60,10 @@ DownloadClient::DownloadClient(const Services& services, QObject* parent)
     connect(m_socket, &Socket::error, this, &DownloadClient::onError);
 }
 
-DownloadClient::~DownloadClient() = default;
+DownloadClient::~DownloadClient()
+{
+    m_socket->close(); // before the file, into which a chunk may be on its way
+}
 
 void DownloadClient::setName(const QString& caption)
 {
@@ -176,7 +179,7 @@ void DownloadClient::onDataArrival(qint64 bytesTotal)
     }
     // Asked of every chunk, so that a body's chunk which happens to begin so is taken for a header; meant.
     std::array<char, 4> start{};
-    if (m_socket->peekData(start) == 4 && std::memcmp(start.data(), "HTTP", 4) == 0)
+    if (m_socket->peekData(start) == 4 && headerStart == QByteArrayView(start))
         ProcessHeader(m_socket->getData());
     else
         ProcessContent();
@@ -258,23 +261,40 @@ void DownloadClient::endHeader(const RunTimeError& error)
 
 void DownloadClient::ProcessContent()
 {
-    const QPointer<DownloadClient> alive(this);
     try {
-        const qint64 received = m_bytesReceived + m_file->appendFrom(*m_socket);
+        m_file->appendFrom(*m_socket, headerStart.toByteArray(),
+                           [this](const DownloadFile::Appended& appended) { onAppended(appended); });
+    } catch (const RunTimeError& error) {
+        failContent(error);
+    }
+}
+
+void DownloadClient::onAppended(const DownloadFile::Appended& appended)
+{
+    try {
+        if (appended.failure)
+            throw RunTimeError(*appended.failure);
+        const qint64 received = m_bytesReceived + appended.bytes;
         if (received > std::numeric_limits<qint32>::max())
             throw RunTimeError(errors::overflow);
         m_bytesReceived = static_cast<qint32>(received);
         ProcessStatus();
     } catch (const RunTimeError& error) {
-        if (passesSilently(error)) {
-            // The chunk is lost, else it would come again.
-            (void)m_socket->getData();
-            return;
-        }
-        reportError(m_services.boxes, error, DescriptionLabel::WithoutBlank);
-        if (alive && !m_unloaded)
-            cmdCancel_Click();
+        failContent(error);
     }
+}
+
+void DownloadClient::failContent(const RunTimeError& error)
+{
+    if (passesSilently(error)) {
+        // The chunk is lost, else it would come again.
+        (void)m_socket->getData();
+        return;
+    }
+    const QPointer<DownloadClient> alive(this);
+    reportError(m_services.boxes, error, DescriptionLabel::WithoutBlank);
+    if (alive && !m_unloaded)
+        cmdCancel_Click();
 }
 
 void DownloadClient::ProcessStatus()

@@ -81,6 +81,8 @@ private:
     void processRedirect(const QString& header);
     void endHeader(const RunTimeError& error);
     void ProcessContent();
+    void onAppended(const DownloadFile::Appended& appended);
+    void failContent(const RunTimeError& error);
     void ProcessStatus();
     void FinishStatus();
 

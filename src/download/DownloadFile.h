@@ -1,9 +1,13 @@
 #pragma once
 
+#include "platform/RunTimeError.h"
+
 #include <QByteArrayView>
 #include <QString>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace varnhold {
 
@@ -22,9 +26,18 @@ public:
     virtual void close() = 0;
     /// At the current position, which moves on.
     virtual void write(QByteArrayView bytes) = 0;
-    /// Moves the socket's waiting chunk to the end of the file, whatever the position is, which then stands
-    /// behind it. Bytes moved.
-    virtual qint64 appendFrom(Socket& socket) = 0;
+
+    struct Appended
+    {
+        qint64 bytes = 0;
+        std::optional<RunTimeError> failure;
+    };
+    /// Inside the socket's dataArrival only. Has the waiting chunk, and those that come close behind it,
+    /// moved to the end of the file, whatever the position is, which then stands behind them; but nothing of
+    /// a later chunk that begins with `except`. `done` may be called before this returns; not at all when the
+    /// socket is closed first. Until then the file is to stay open.
+    virtual void appendFrom(Socket& socket, const QByteArray& except,
+                            std::function<void(const Appended&)> done) = 0;
 };
 
 /// File operations on names, as the download's steps need them; same errors.

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <span>
 
 namespace varnhold {
@@ -35,10 +36,16 @@ public:
     virtual qsizetype peekData(std::span<char> buffer) = 0;
     /// Inside dataArrival only. Takes the chunk. The view is valid until the next call on this socket.
     virtual QByteArrayView getData() = 0;
-    /// Inside dataArrival only. Moves the chunk to the file at the byte offset without bringing it into the
-    /// program where the system can. The bytes moved, or -1 with errno set when a write fails; bytes are then
-    /// lost and the transfer is to be given up.
-    virtual qint64 moveData(int fileDescriptor, qint64 offset) = 0;
+
+    /// What a move came to: the bytes, and the errno of a write that failed, with which bytes are lost and
+    /// the transfer is to be given up; else 0.
+    using Moved = std::function<void(qint64 bytes, int cause)>;
+    /// Inside dataArrival only. Has the chunk moved to the file at the byte offset, without bringing it into
+    /// the program where the system can, and off the event loop's thread, which is told the end. What waits
+    /// then goes with it as chunks of their own, up to one that begins with `except`, of which nothing is
+    /// touched. No other event is raised meanwhile. The file stays open until the end is told, or until
+    /// close(), which waits for what is under way; then nothing is told.
+    virtual void moveData(int fileDescriptor, qint64 offset, const QByteArray& except, Moved moved) = 0;
 
 Q_SIGNALS:
     void connected();

@@ -22,6 +22,9 @@ namespace {
 
 // What an ordinary pipe of the kernel holds. Larger turns would starve timers and other connections.
 constexpr qint64 chunkLimit = qint64{1} << 20;
+// One order of a mover: more would be long to wait for, less leaves the movers idle between two.
+constexpr qint64 moveLimit = 4 * chunkLimit;
+constexpr int moverCount = 2;
 
 int errorNumber(int cause)
 {
@@ -65,6 +68,47 @@ socklen_t fillAddress(const QHostAddress& address, quint16 port, sockaddr_storag
     return sizeof in;
 }
 
+/// What waits at a socket now.
+qint64 waitingAt(int descriptor)
+{
+    int waiting = 0;
+    return ::ioctl(descriptor, FIONREAD, &waiting) == 0 ? std::min<qint64>(waiting, chunkLimit) : 0;
+}
+
+qsizetype peekAt(int descriptor, std::span<char> buffer)
+{
+    const ssize_t copied = ::recv(descriptor, buffer.data(), buffer.size(), MSG_PEEK);
+    return std::max<qsizetype>(copied, 0);
+}
+
+struct MoveResult
+{
+    qint64 bytes = 0;
+    int cause = 0;
+};
+
+/// On a worker. A chunk is looked at before it is moved: moved first, it would lie in the file already when
+/// its first bytes are told.
+MoveResult moveChunks(int socket, int file, qint64 offset, qint64 count, const QByteArray& except)
+{
+    thread_local ChunkMover mover; // its pipe stays with the thread
+    QByteArray start(except.size(), Qt::Uninitialized);
+    qint64 moved = 0;
+    while (count > 0) {
+        const qint64 bytes = mover.move(socket, file, offset + moved, count);
+        if (bytes < 0)
+            return {moved, errno};
+        moved += bytes;
+        if (bytes < count || moved >= moveLimit)
+            break;
+        count = waitingAt(socket);
+        const auto looked = static_cast<std::size_t>(std::min<qint64>(start.size(), count));
+        if (looked > 0 && peekAt(socket, {start.data(), looked}) == except.size() && start == except)
+            break;
+    }
+    return {moved, 0};
+}
+
 /// A notifier may be inside its own signal: it is silenced now and deleted later.
 void retire(std::unique_ptr<QSocketNotifier>& notifier)
 {
@@ -76,8 +120,8 @@ void retire(std::unique_ptr<QSocketNotifier>& notifier)
 
 } // namespace
 
-TcpSocket::TcpSocket(std::shared_ptr<ChunkMover> mover, QObject* parent)
-    : Socket(parent), m_mover(std::move(mover))
+TcpSocket::TcpSocket(std::shared_ptr<Workers> movers, QObject* parent)
+    : Socket(parent), m_order(std::move(movers))
 {
     m_soon.setSingleShot(true);
     connect(&m_soon, &QTimer::timeout, this, &TcpSocket::onSoon);
@@ -97,6 +141,8 @@ void TcpSocket::close()
 void TcpSocket::release()
 {
     ++m_connection;
+    m_order.cancel(); // before the descriptor goes
+    m_move.reset();
     m_soon.stop();
     if (m_lookup >= 0)
         QHostInfo::abortHostLookup(std::exchange(m_lookup, -1));
@@ -252,9 +298,8 @@ void TcpSocket::onReadable()
         m_readable->setEnabled(false);
         return;
     }
-    int waiting = 0;
-    if (::ioctl(m_descriptor, FIONREAD, &waiting) == 0 && waiting > 0)
-        return handOver(std::min<qint64>(waiting, chunkLimit));
+    if (const qint64 waiting = waitingAt(m_descriptor); waiting > 0)
+        return handOver(waiting);
 
     char next = 0;
     const ssize_t seen = ::recv(m_descriptor, &next, 1, MSG_PEEK);
@@ -281,9 +326,32 @@ void TcpSocket::handOver(qint64 bytes)
     if (connection != m_connection)
         return;
     m_waiting = 0;
+    if (m_move)
+        return startMove();
     m_handling = false;
     if (!m_readable->isEnabled())
         m_readable->setEnabled(true);
+}
+
+void TcpSocket::startMove()
+{
+    m_readable->setEnabled(false);
+    m_order.start([socket = m_descriptor, file = m_move->file, offset = m_move->offset, count = m_move->count,
+                   except = m_move->except] { return moveChunks(socket, file, offset, count, except); },
+                  [this](const MoveResult& result) { onMoved(result.bytes, result.cause); });
+}
+
+void TcpSocket::onMoved(qint64 bytes, int cause)
+{
+    const QPointer<TcpSocket> alive(this);
+    const quint32 connection = m_connection;
+    const Moved moved = std::move(m_move->moved);
+    m_move.reset();
+    moved(bytes, cause);
+    if (!alive || connection != m_connection)
+        return;
+    m_handling = false;
+    m_readable->setEnabled(true);
 }
 
 qsizetype TcpSocket::peekData(std::span<char> buffer)
@@ -291,8 +359,7 @@ qsizetype TcpSocket::peekData(std::span<char> buffer)
     const auto count = std::min(buffer.size(), static_cast<std::size_t>(m_waiting));
     if (count == 0)
         return 0;
-    const ssize_t copied = ::recv(m_descriptor, buffer.data(), count, MSG_PEEK);
-    return std::max<qsizetype>(copied, 0);
+    return peekAt(m_descriptor, buffer.first(count));
 }
 
 QByteArrayView TcpSocket::getData()
@@ -313,10 +380,10 @@ QByteArrayView TcpSocket::getData()
     return m_chunk;
 }
 
-qint64 TcpSocket::moveData(int fileDescriptor, qint64 offset)
+/// Begins when the handler has returned, so that the end is never told while it stands.
+void TcpSocket::moveData(int fileDescriptor, qint64 offset, const QByteArray& except, Moved moved)
 {
-    const qint64 count = std::exchange(m_waiting, 0);
-    return count == 0 ? 0 : m_mover->move(m_descriptor, fileDescriptor, offset, count);
+    m_move = {fileDescriptor, offset, std::exchange(m_waiting, 0), except, std::move(moved)};
 }
 
 void TcpSocket::failLater(int number)
@@ -332,11 +399,11 @@ void TcpSocket::fail(int number)
     Q_EMIT error(number, RunTimeError(number).description());
 }
 
-TcpSocketMaker::TcpSocketMaker() : m_mover(std::make_shared<ChunkMover>()) {}
+TcpSocketMaker::TcpSocketMaker() : m_movers(std::make_shared<Workers>(moverCount)) {}
 
 Socket* TcpSocketMaker::makeSocket(QObject* owner)
 {
-    return new TcpSocket(m_mover, owner);
+    return new TcpSocket(m_movers, owner);
 }
 
 } // namespace varnhold

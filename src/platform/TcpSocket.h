@@ -1,30 +1,30 @@
 #pragma once
 
 #include "platform/Socket.h"
+#include "platform/Workers.h"
 
 #include <QHostAddress>
 #include <QList>
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 class QHostInfo;
 class QSocketNotifier;
 
 namespace varnhold {
 
-class ChunkMover;
-
 /// A socket of the system, non-blocking, watched by the event loop. Names are resolved beside the event loop;
 /// the addresses of a name are tried one after another, IPv6 and IPv4 alike. One event hands over at most
 /// 1 MiB, so that other connections and timers get their turn, and no event of a connection is raised
-/// while one of it is still being handled.
+/// while one of it is still being handled or moved.
 class TcpSocket : public Socket
 {
     Q_OBJECT
 
 public:
-    TcpSocket(std::shared_ptr<ChunkMover> mover, QObject* parent);
+    TcpSocket(std::shared_ptr<Workers> movers, QObject* parent);
     ~TcpSocket() override;
 
     void close() override;
@@ -33,7 +33,7 @@ public:
     void sendData(const QByteArray& data) override;
     qsizetype peekData(std::span<char> buffer) override;
     QByteArrayView getData() override;
-    qint64 moveData(int fileDescriptor, qint64 offset) override;
+    void moveData(int fileDescriptor, qint64 offset, const QByteArray& except, Moved moved) override;
 
 private Q_SLOTS:
     void onLookedUp(const QHostInfo& info);
@@ -46,13 +46,24 @@ private:
     void onWritable();
     void onReadable();
     void handOver(qint64 bytes);
+    void startMove();
+    void onMoved(qint64 bytes, int cause);
     void flush();
     /// Ends the connection with error(), from the event loop.
     void failLater(int number);
     void fail(int number);
     void release();
 
-    std::shared_ptr<ChunkMover> m_mover;
+    /// A chunk that is to be moved, or is being moved.
+    struct Move
+    {
+        int file = -1;
+        qint64 offset = 0;
+        qint64 count = 0;
+        QByteArray except;
+        Moved moved;
+    };
+
     State m_state = State::Closed;
     int m_descriptor = -1;
     std::unique_ptr<QSocketNotifier> m_readable;
@@ -67,7 +78,9 @@ private:
     QByteArray m_unsent;
     qint64 m_waiting = 0; ///< what is left of the chunk that is handed over now
     QByteArray m_chunk;
-    bool m_handling = false; ///< an event of this connection is being handled
+    std::optional<Move> m_move;
+    bool m_handling = false; ///< an event of this connection is being handled, or its chunk moved
+    WorkOrder m_order;
 };
 
 class TcpSocketMaker : public SocketMaker
@@ -77,7 +90,7 @@ public:
     Socket* makeSocket(QObject* owner) override;
 
 private:
-    std::shared_ptr<ChunkMover> m_mover;
+    std::shared_ptr<Workers> m_movers;
 };
 
 } // namespace varnhold

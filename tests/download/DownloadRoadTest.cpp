@@ -14,8 +14,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace varnhold::test {
 
@@ -90,6 +93,71 @@ TEST_F(DownloadRoadTest, bringsEveryByteInPiecesOfAnySize)
         pumpUntilUnloaded();
         EXPECT_TRUE(root.read(u"dl/x.pkg"_s) == body);
         EXPECT_EQ(names(), (QStringList{u"x.pkg"_s, u"x.txt"_s}));
+    }
+}
+
+TEST_F(DownloadRoadTest, readsAChunkThatLooksLikeAHeaderBehindOneOnItsWay)
+{
+    const QByteArray body = madeUpBytes(100'000);
+    for (int i = 0; i < 20; ++i) {
+        LoopbackPeer peer;
+        start(u"127.0.0.1:"_s + peer.port() + u"/x.pkg"_s, u"x.pkg"_s);
+        pumpUntil([&] { return client->findChild<Socket*>()->state() == Socket::State::Connected; });
+        peer.accept();
+        peer.receive(90);
+        peer.send("HTTP/1.0 200 OK\r\nContent-Length: 5\r\n\r\n");
+        pumpUntil([&] { return client->fileSize() == 5; });
+        // Behind the client: its chunk is ordered, and the next arrives before that is moved.
+        QStringList events;
+        const QObject once;
+        QObject::connect(client->findChild<Socket*>(), &Socket::dataArrival, &once, [&] {
+            events.append(u"%1 of %2"_s.arg(client->bytesReceived()).arg(client->fileSize()));
+            if (events.size() == 1)
+                peer.send("HTTP/1.0 200 OK\r\nContent-Length: 9\r\n\r\ntail");
+        });
+        peer.send(body);
+        pumpUntil([&] { return client->fileSize() == 9; });
+        peer.close();
+        pumpUntilUnloaded();
+        EXPECT_EQ(events.first(), u"0 of 5"_s);
+        EXPECT_EQ(events.last(), u"4 of 9"_s);
+        EXPECT_TRUE(root.read(u"dl/x.pkg"_s) == body + "tail");
+    }
+}
+
+TEST_F(DownloadRoadTest, endsWhileAChunkIsOnItsWay)
+{
+    const QByteArray body = madeUpBytes(3'000'000);
+    RunningService service;
+    service.with([&](host::SampleService& s) {
+        s.site().addPage(u"/made/x.pkg"_s, "application/octet-stream", body);
+    });
+    const struct
+    {
+        std::function<void()> act;
+        QStringList left;
+    } ends[] = {
+        {[&] { client->cmdCancel_Click(); }, {}},
+        {[&] { client->btnExit_Click(); }, {u"x.temp"_s, u"x.txt"_s}},
+        {[&] { client.reset(); }, {u"x.temp"_s, u"x.txt"_s}},
+    };
+    for (int i = 0; i < 30; ++i) {
+        const auto& end = ends[i % 3];
+        bool ended = false;
+        start(service.url(u"/made/x.pkg"_s), u"x.pkg"_s);
+        QObject::connect(client->findChild<Socket*>(), &Socket::dataArrival, client.get(), [&] {
+            if (client->fileSize() > 0 && !std::exchange(ended, true))
+                QTimer::singleShot(0, [&end] { end.act(); });
+        });
+        pumpUntil([&] { return ended; });
+        QCoreApplication::processEvents();
+        ASSERT_EQ(names(), end.left);
+        if (!end.left.isEmpty()) {
+            const QByteArray part = root.read(u"dl/x.temp"_s);
+            EXPECT_TRUE(part == body.first(part.size()));
+            QFile::remove(folder() + u"/x.temp"_s);
+        }
+        QFile::remove(folder() + u"/x.txt"_s);
     }
 }
 

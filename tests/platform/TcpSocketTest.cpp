@@ -166,12 +166,18 @@ TEST_F(TcpSocketTest, movesBytesIntoFilesUnchanged)
         ASSERT_TRUE(file.open());
         const int descriptor = ::open(qPrintable(file.fileName()), flags | O_CLOEXEC);
         qint64 moved = 0;
+        int orders = 0;
         const QObject context;
         QObject::connect(socket, &Socket::dataArrival, &context, [&](qint64 waiting) {
             char start[4];
             EXPECT_EQ(socket->peekData(start), std::min<qint64>(4, waiting));
             EXPECT_EQ(start[0], all.at(moved));
-            moved += socket->moveData(descriptor, moved);
+            socket->moveData(descriptor, moved, {}, [&](qint64 bytes, int cause) {
+                EXPECT_EQ(cause, 0);
+                moved += bytes;
+                ++orders;
+            });
+            EXPECT_EQ(socket->peekData(start), 0);
         });
         connectUp();
         for (qsizetype at = 0; at < all.size(); at += 100'000) {
@@ -179,26 +185,64 @@ TEST_F(TcpSocketTest, movesBytesIntoFilesUnchanged)
             pumpUntil([&] { return moved >= std::min(at + 100'000, all.size()); });
         }
         EXPECT_TRUE(file.readAll() == all);
+        EXPECT_GE(orders, 30);
         socket->close();
         ::close(descriptor);
+    }
+}
+
+/// What arrives before the order begins waits behind its chunk, as if it had come while that was moved.
+TEST_F(TcpSocketTest, movesWhatFollowsButForWhatItIsToLeave)
+{
+    takesData = false;
+    const struct
+    {
+        QByteArray next, inFile, left;
+    } cases[] = {
+        {" and more", "first and more", ""},
+        {"HTT", "firstHTT", ""},
+        {"HTTP/1.0 200", "first", "HTTP/1.0 200"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.next.toStdString());
+        QTemporaryFile file;
+        ASSERT_TRUE(file.open());
+        QByteArray left;
+        int arrivals = 0;
+        qint64 moved = 0;
+        const QObject context;
+        QObject::connect(socket, &Socket::dataArrival, &context, [&] {
+            if (++arrivals > 1) {
+                left += socket->getData();
+                return;
+            }
+            socket->moveData(file.handle(), 0, "HTTP", [&](qint64 bytes, int) { moved = bytes; });
+            peer.send(c.next);
+        });
+        connectUp();
+        peer.send("first");
+        pumpUntil([&] { return moved + left.size() == 5 + c.next.size(); });
+        EXPECT_EQ(moved, c.inFile.size());
+        EXPECT_EQ(left, c.left);
+        EXPECT_EQ(file.readAll(), c.inFile);
+        socket->close();
     }
 }
 
 TEST_F(TcpSocketTest, reportsAFullDisk)
 {
     takesData = false;
-    qint64 result = 0;
     int cause = 0;
     const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
     QObject::connect(socket, &Socket::dataArrival, socket, [&] {
-        result = socket->moveData(full, 0);
-        cause = errno;
-        socket->close();
+        socket->moveData(full, 0, {}, [&](qint64 /*bytes*/, int number) {
+            cause = number;
+            socket->close();
+        });
     });
     connectUp();
     peer.send("x");
-    pumpUntil([&] { return result != 0; });
-    EXPECT_EQ(result, -1);
+    pumpUntil([&] { return cause != 0; });
     EXPECT_EQ(cause, ENOSPC);
     ::close(full);
 }

@@ -27,11 +27,17 @@ public:
         file().replace(m_position, bytes.size(), bytes.toByteArray());
         m_position += bytes.size();
     }
-    qint64 appendFrom(Socket& socket) override
+    void appendFrom(Socket& socket, const QByteArray& /*except*/,
+                    std::function<void(const Appended&)> done) override
     {
-        const QByteArrayView chunk = socket.getData();
-        m_position = file().append(chunk).size();
-        return chunk.size() + m_disk.extraBytes;
+        try {
+            QByteArray& contents = file();
+            const QByteArrayView chunk = socket.getData();
+            m_position = contents.append(chunk).size();
+            done({chunk.size() + m_disk.extraBytes, std::nullopt});
+        } catch (const RunTimeError& error) {
+            done({0, error});
+        }
     }
 
 private:

@@ -58,10 +58,10 @@ public:
         m_taken = std::exchange(m_chunk, {});
         return m_taken;
     }
-    qint64 moveData(int file, qint64 offset) override
+    void moveData(int file, qint64 offset, const QByteArray& /*except*/, Moved moved) override
     {
         const QByteArrayView chunk = getData();
-        return ::pwrite(file, chunk.data(), static_cast<std::size_t>(chunk.size()), offset);
+        moved(::pwrite(file, chunk.data(), static_cast<std::size_t>(chunk.size()), offset), 0);
     }
 
     QStringList connects; ///< "host:port" each
