@@ -75,6 +75,12 @@ QByteArray bytes(std::initializer_list<int> values)
     return made;
 }
 
+/// Eight bits a sample, then the size.
+QByteArray frame(int width, int height)
+{
+    return bytes({8, height >> 8, height & 255, width >> 8, width & 255});
+}
+
 void addHeader(QByteArray& out)
 {
     constexpr int width = blocksAcross * 8;
@@ -83,9 +89,7 @@ void addHeader(QByteArray& out)
     addSegment(out, '\xe0', QByteArray("JFIF\0", 5) + bytes({1, 1, 0, 0, 1, 0, 1, 0, 0}));
     // All steps are 8, so that a difference of means stands for one grey level.
     addSegment(out, '\xdb', bytes({0}) + QByteArray(64, 8));
-    addSegment(out, '\xc0',
-               bytes({8, height >> 8, height & 255, width >> 8, width & 255, components, 1, 0x11, 0, 2, 0x11,
-                      0, 3, 0x11, 0}));
+    addSegment(out, '\xc0', frame(width, height) + bytes({components, 1, 0x11, 0, 2, 0x11, 0, 3, 0x11, 0}));
     // Means: the categories 0 to 11 as twelve codes of four bits. The rest: one code, "end of block".
     QByteArray means = bytes({0x00, 0, 0, 0, longestCategory + 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
     for (int category = 0; category <= longestCategory; ++category)
@@ -145,6 +149,36 @@ QByteArray coverJpeg(const QString& id)
     bits.end();
     jpeg.append("\xff\xd9");
     return jpeg;
+}
+
+QByteArray manyScansJpeg(int scans)
+{
+    constexpr int side = 8000;
+    constexpr int blocks = side / 8 * (side / 8);
+    QByteArray jpeg("\xff\xd8");
+    addSegment(jpeg, '\xdb', bytes({0}) + QByteArray(64, 8));
+    addSegment(jpeg, '\xc2', frame(side, side) + bytes({1, 1, 0x11, 0}));
+    // One code, of one bit: "nothing more in this block and in so many behind it", with 14 bits for how many.
+    constexpr int runBits = 14;
+    addSegment(jpeg, '\xc4', bytes({0x10, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, runBits << 4}));
+    QByteArray scan;
+    addSegment(scan, '\xda', bytes({1, 1, 0x00, 1, 63, 0}));
+    BitWriter bits(scan);
+    for (int left = blocks; left > 0;) {
+        const int run = std::min(left, (2 << runBits) - 1);
+        bits.add(0, 1);
+        bits.add(static_cast<quint32>(run - (1 << runBits)), runBits);
+        left -= run;
+    }
+    bits.end();
+    return jpeg + scan.repeated(scans) + "\xff\xd9";
+}
+
+QByteArray hugeSizeJpeg()
+{
+    QByteArray jpeg = coverJpeg({});
+    const qsizetype at = jpeg.indexOf("\xff\xc0") + 5;
+    return jpeg.replace(at, 4, QByteArray(4, '\xff'));
 }
 
 } // namespace varnhold::host

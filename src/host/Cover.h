@@ -9,4 +9,11 @@ namespace varnhold::host {
 /// picture library.
 QByteArray coverJpeg(const QString& id);
 
+/// A JPEG of 8000 by 8000 grey pixels in so many progressive scans, which a decoder has to walk through one
+/// by one: some 80 bytes each.
+QByteArray manyScansJpeg(int scans);
+
+/// A small JPEG whose header tells 65535 by 65535 pixels.
+QByteArray hugeSizeJpeg();
+
 } // namespace varnhold::host

@@ -30,6 +30,12 @@ constexpr std::array words = {
     Word{QLatin1StringView("not-xml"), Odd::NotXml},
     Word{QLatin1StringView("many-packages"), Odd::ManyPackages},
     Word{QLatin1StringView("huge-document"), Odd::HugeDocument},
+    Word{QLatin1StringView("not-picture"), Odd::NotPicture},
+    Word{QLatin1StringView("moved-to-page"), Odd::MovedToPage},
+    Word{QLatin1StringView("endless-body"), Odd::EndlessBody},
+    Word{QLatin1StringView("many-scans"), Odd::ManyScans},
+    Word{QLatin1StringView("told-size"), Odd::ToldSize},
+    Word{QLatin1StringView("half-picture"), Odd::HalfPicture},
     Word{QLatin1StringView("http-chunk"), Odd::HttpChunk},
 };
 
@@ -49,6 +55,8 @@ bool fits(const Misbehaviour& misbehaviour)
         return amount >= 1 && amount < 1'000'000'000'000;
     case Odd::ManyPackages:
         return amount >= 0 && amount <= 10'000'000;
+    case Odd::ManyScans:
+        return amount >= 1 && amount <= 100'000;
     case Odd::HugeDocument:
         return amount >= 0 && amount <= 4096;
     default:

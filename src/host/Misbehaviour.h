@@ -27,6 +27,12 @@ enum class Odd {
     NotXml,          ///< a page that is no XML
     ManyPackages,    ///< a document of so many packages (20000)
     HugeDocument,    ///< a document of so many MiB (65)
+    NotPicture,      ///< a web page that calls itself a JPEG
+    MovedToPage,     ///< redirects to a web page
+    EndlessBody,     ///< a body without a length that never ends
+    ManyScans,       ///< a JPEG of so many scans (4000), each over all of its 8000 x 8000 pixels
+    ToldSize,        ///< a small JPEG that tells 65535 x 65535 pixels
+    HalfPicture,     ///< tells no length, and closes after so many body bytes (half)
     HttpChunk,       ///< after so many body bytes (half) comes a chunk that begins with "HTTP"
 };
 

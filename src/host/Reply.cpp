@@ -30,6 +30,14 @@ QByteArray reasonPhrase(int status)
     }
 }
 
+Reply bytesReply(const QByteArray& contentType, const QByteArray& bytes)
+{
+    Reply reply;
+    reply.contentType = contentType;
+    reply.body = Body::fromBytes(bytes);
+    return reply;
+}
+
 Reply statusReply(int status)
 {
     const QByteArray line = QByteArray::number(status) + ' ' + reasonPhrase(status);

@@ -15,6 +15,8 @@ struct Reply
     bool paced = false;
 };
 
+/// An orderly answer with these bytes.
+Reply bytesReply(const QByteArray& contentType, const QByteArray& bytes);
 /// A short page for a status that carries nothing else.
 Reply statusReply(int status);
 /// The usual phrase of a status; "Odd" for one that has none here.

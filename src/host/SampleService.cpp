@@ -200,7 +200,9 @@ void SampleService::handle(Connection& connection, const HttpRequest& request, P
     }
 
     // Package addresses are plain http, whichever way the document was asked for: downloads know no other.
-    m_site.answer(QString::fromUtf8(context.path), httpOrigin, &connection,
+    const QByteArray query =
+        request.target.contains('?') ? request.target.sliced(request.target.indexOf('?') + 1) : QByteArray();
+    m_site.answer(QString::fromUtf8(context.path), query, httpOrigin, &connection,
                   [context, misbehaviour, connection = &connection](const Reply& reply) {
                       connection->start(makePlan(reply, misbehaviour, context));
                   });

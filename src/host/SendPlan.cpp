@@ -1,5 +1,7 @@
 #include "host/SendPlan.h"
 
+#include "host/Cover.h"
+
 #include <algorithm>
 
 namespace varnhold::host {
@@ -81,10 +83,7 @@ Reply replaced(Reply reply, const Misbehaviour& odd, const PlanContext& context)
     case Odd::RedirectPort:
         return context.otherOrigin.isEmpty() ? reply : redirectTo(context.otherOrigin + context.path);
     case Odd::NotXml:
-        reply = Reply{};
-        reply.contentType = "text/html; charset=utf-8";
-        reply.body = Body::fromBytes("<html><body><p>This is & no document<br></body>");
-        return reply;
+        return bytesReply("text/html; charset=utf-8", "<html><body><p>This is & no document<br></body>");
     case Odd::ManyPackages:
         reply = Reply{};
         reply.contentType = "text/xml";
@@ -95,6 +94,17 @@ Reply replaced(Reply reply, const Misbehaviour& odd, const PlanContext& context)
         reply.contentType = "text/xml";
         reply.body = hugeBody(odd.amount.value_or(65));
         return reply;
+    case Odd::NotPicture:
+        return bytesReply("image/jpeg", "<html><body><p>This is no picture.</p></body></html>\n");
+    case Odd::MovedToPage:
+        return redirectTo(context.origin + "/");
+    case Odd::EndlessBody:
+        reply.body = Body::fromEndless(QByteArray(4096, '.'));
+        return reply;
+    case Odd::ManyScans:
+        return bytesReply("image/jpeg", manyScansJpeg(static_cast<int>(odd.amount.value_or(4000))));
+    case Odd::ToldSize:
+        return bytesReply("image/jpeg", hugeSizeJpeg());
     case Odd::EndlessHeaders:
         reply.body = Body::fromEndless("X-More: and more\r\n");
         return reply;
@@ -113,7 +123,9 @@ QByteArray headOf(const Reply& reply, const Misbehaviour& odd)
     if (!reply.location.isEmpty())
         head += "Location: " + (reply.location == " " ? QByteArray() : reply.location) + "\r\n";
     head += "Content-Type: " + reply.contentType + "\r\n";
-    if (odd.kind != Odd::NoLength) {
+    const bool toldLength =
+        odd.kind != Odd::NoLength && odd.kind != Odd::EndlessBody && odd.kind != Odd::HalfPicture;
+    if (toldLength) {
         const qint64 lie = odd.kind == Odd::WrongLength ? odd.amount.value_or(1000) : 0;
         head += "Content-Length: " + QByteArray::number(reply.body.size + lie) + "\r\n";
     }
@@ -151,6 +163,7 @@ SendPlan makePlan(Reply reply, const Misbehaviour& misbehaviour, const PlanConte
 
     switch (misbehaviour.kind) {
     case Odd::EarlyClose:
+    case Odd::HalfPicture:
         plan.end = inBody(bodySize / 2);
         break;
     case Odd::Reset:

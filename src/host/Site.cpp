@@ -8,6 +8,7 @@
 #include <QPromise>
 #include <QStringEncoder>
 #include <QThreadPool>
+#include <QUrlQuery>
 
 #include <algorithm>
 #include <array>
@@ -21,6 +22,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Sums = std::vector<PackageSums>;
+
+constexpr int mostImages = 60; ///< on one page
 
 /// Stands for the document where a package's index may stand.
 constexpr std::size_t document = std::numeric_limits<std::size_t>::max();
@@ -49,14 +52,6 @@ QFuture<Sums> startSums(const SampleTitle& title)
         promise->finish();
     });
     return promise->future();
-}
-
-Reply bytesReply(const QByteArray& contentType, const QByteArray& bytes)
-{
-    Reply reply;
-    reply.contentType = contentType;
-    reply.body = Body::fromBytes(bytes);
-    return reply;
 }
 
 Reply movedTo(const QByteArray& location)
@@ -106,12 +101,12 @@ void Site::addPage(const QString& path, const QByteArray& contentType, const QBy
     m_pages.insert(path, bytesReply(contentType, bytes));
 }
 
-void Site::answer(const QString& path, const QByteArray& origin, const QObject* asker,
-                  const std::function<void(const Reply&)>& done)
+void Site::answer(const QString& path, const QByteArray& query, const QByteArray& origin,
+                  const QObject* asker, const std::function<void(const Reply&)>& done)
 {
     const auto found = m_paths.constFind(path);
     if (found == m_paths.cend() || m_pages.contains(path)) {
-        done(page(path, origin));
+        done(page(path, query, origin));
         return;
     }
     const SampleTitle title = m_titles[found->title];
@@ -143,18 +138,21 @@ void Site::answer(const QString& path, const QByteArray& origin, const QObject* 
     watcher->setFuture(sums);
 }
 
-Reply Site::page(const QString& path, const QByteArray& origin) const
+Reply Site::page(const QString& path, const QByteArray& query, const QByteArray& origin) const
 {
     const auto own = m_pages.constFind(path);
     if (own != m_pages.cend())
         return *own;
     if (path.startsWith(u"/moved/"))
-        return movedTo(origin + path.sliced(QStringView(u"/moved").size()).toUtf8());
+        return movedTo(origin + path.sliced(QStringView(u"/moved").size()).toUtf8() +
+                       (query.isEmpty() ? query : '?' + query));
     if (path == u"/Varnhold/txt/version.txt")
         return bytesReply("text/plain", m_versionText);
     if (path == u"/Varnhold/ps3gameids.txt")
         return bytesReply("text/plain", m_idList.value_or(idList()));
-    if (path == u"/" || path == u"/images")
+    if (path == u"/images")
+        return bytesReply("text/html; charset=utf-8", imagesPage(query));
+    if (path == u"/")
         return bytesReply(
             "text/html; charset=utf-8",
             "<html><head><title>Sample service</title></head><body><p>This page stands in for an "
@@ -165,6 +163,35 @@ Reply Site::page(const QString& path, const QByteArray& origin) const
         if (name.compare(title.id + u".jpg"_s, Qt::CaseInsensitive) == 0)
             return bytesReply("image/jpeg", coverJpeg(title.id));
     return statusReply(404);
+}
+
+/// The covers whose title or id holds what the query's "q" asks for.
+QByteArray Site::imagesPage(const QByteArray& query) const
+{
+    QUrlQuery asked(QString::fromUtf8(QByteArray(query).replace('+', "%20")));
+    QString text = asked.queryItemValue(u"q"_s, QUrl::FullyDecoded).simplified();
+    // The program asks for a title and the name of its console.
+    if (text.endsWith(u" PS3"_s))
+        text.chop(4);
+    QString found;
+    int count = 0;
+    for (const SampleTitle& title : m_titles) {
+        if (text.isEmpty() || count == mostImages ||
+            !(title.name.contains(text, Qt::CaseInsensitive) || title.id.contains(text, Qt::CaseInsensitive)))
+            continue;
+        ++count;
+        found += u"<figure><a href=\"/scans/%1.jpg\"><img src=\"/covers/%1.jpg\" alt=\"\"></a>"
+                 "<figcaption>%1<br>%2</figcaption></figure>\n"_s.arg(title.id, title.name.toHtmlEscaped());
+    }
+    const QString shown = text.toHtmlEscaped();
+    return u"<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>%1</title><style>body{font:15px "
+           "sans-serif;margin:24px}figure{display:inline-block;width:150px;margin:0 16px 16px 0;"
+           "vertical-align:top}img{width:150px}</style></head><body><h1>%1</h1>\n<p>%2</p>\n%3</body></html>\n"_s
+               .arg(shown.isEmpty() ? u"Covers"_s : shown,
+                    count == 0 ? u"The sample service has no cover of that name."_s
+                               : u"%1 of the sample service's covers."_s.arg(count),
+                    found)
+               .toUtf8();
 }
 
 QByteArray Site::idList() const

@@ -33,9 +33,10 @@ public:
     /// The list of ids, as it is, in the place of the one of all titles.
     void setIdList(const QByteArray& list) { m_idList = list; }
 
-    /// Finds the answer for a path without query and hands it over: at once, or from the event loop when sums
-    /// have to be made first; never after `asker` is gone. `origin` begins package addresses.
-    void answer(const QString& path, const QByteArray& origin, const QObject* asker,
+    /// Finds the answer for a path and a query (without its "?") and hands it over: at once, or from the
+    /// event loop when sums have to be made first; never after `asker` is gone. `origin` begins package
+    /// addresses.
+    void answer(const QString& path, const QByteArray& query, const QByteArray& origin, const QObject* asker,
                 const std::function<void(const Reply&)>& done);
 
 private:
@@ -45,7 +46,8 @@ private:
         std::size_t package = 0; ///< index, or a mark for the document
     };
     void addPaths(std::size_t title);
-    [[nodiscard]] Reply page(const QString& path, const QByteArray& origin) const;
+    [[nodiscard]] Reply page(const QString& path, const QByteArray& query, const QByteArray& origin) const;
+    [[nodiscard]] QByteArray imagesPage(const QByteArray& query) const;
     [[nodiscard]] QByteArray idList() const;
 
     std::vector<SampleTitle> m_titles;

@@ -225,6 +225,32 @@ TEST_F(SampleService, KnowsTheDeliveredTitlesAndSomeOddOnes)
     EXPECT_TRUE(host::madeUpIdList(100).startsWith(host::madeUpIdList(99)));
 }
 
+TEST_F(SampleService, ServesPicturesThatHarm)
+{
+    const auto cover = [&](const QByteArray& word, qsizetype limit = 100'000'000) {
+        return get(*service, "/odd/" + word + "/covers/BCUS10001.jpg", limit);
+    };
+    EXPECT_EQ(cover("not-picture").header("Content-Type"), "image/jpeg");
+    EXPECT_TRUE(cover("not-picture").body.startsWith("<html>"));
+    EXPECT_EQ(get(*service, targetOf(cover("moved-to-page").header("Location"))).header("Content-Type"),
+              "text/html; charset=utf-8");
+    EXPECT_GT(cover("endless-body", 2'000'000).body.size(), 1'900'000);
+    const QByteArray scans = cover("many-scans:50").body;
+    EXPECT_EQ(scans.count("\xff\xda"), 50);
+    EXPECT_TRUE(cover("told-size").body.contains("\xff\xff\xff\xff"));
+    const Exchange half = cover("half-picture");
+    EXPECT_EQ(half.header("Content-Length"), "none");
+    EXPECT_EQ(half.body, get(*service, "/covers/BCUS10001.jpg").body.first(half.body.size()));
+}
+
+TEST_F(SampleService, FindsCoversAndEscapesWhatItEchoes)
+{
+    EXPECT_TRUE(get(*service, "/images?q=lantern+reach+PS3").body.contains("/covers/BCUS10001.jpg"));
+    EXPECT_TRUE(get(*service, "/images?q=%E7%81%AF%E5%8F%B0").body.contains("/covers/BCJS10003.jpg"));
+    const QByteArray odd = get(*service, "/images?q=%3Cb%3E%22nothing").body;
+    EXPECT_TRUE(odd.contains("&lt;b&gt;&quot;nothing") && odd.contains("no cover")) << odd.constData();
+}
+
 TEST_F(SampleService, MisbehavesAsAsked)
 {
     const QByteArray page(1000, 'p');
