@@ -1,22 +1,12 @@
 #include "lookup/TitleCleaner.h"
 
+#include "platform/ReplaceText.h"
 #include "platform/Trim.h"
 #include "state/Settings.h"
 
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// One pass from the left, case-sensitive; an empty needle does nothing (QString's own would fill the text).
-void replaceIn(QString& text, const QString& needle, const QString& with = {})
-{
-    if (!needle.isEmpty())
-        text.replace(needle, with);
-}
-
-} // namespace
 
 QString cleanTitle(QString title, const Settings& settings, const QString& gameIdText)
 {

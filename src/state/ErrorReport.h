@@ -13,6 +13,8 @@ enum class DescriptionLabel {
 
 /// The box that a guarded routine shows before it leaves.
 void reportError(MessageBoxes& boxes, const RunTimeError& error, DescriptionLabel label);
+/// With a fourth line, which names the file.
+void reportError(MessageBoxes& boxes, const RunTimeError& error, DescriptionLabel label, const QString& file);
 
 /// Treatment "report": runs the body; a failure shows the report, and the body is left. True when it ran
 /// through.

@@ -19,11 +19,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
