@@ -13,4 +13,8 @@ class Sounds;
 void btnOpen_Click(Settings& settings, FileDialogs& dialogs, Sounds& sounds, MessageBoxes& boxes,
                    GameList& games);
 
+/// The menu's command: the same choice, loaded at once. Tables of older names stay as they are, and so does
+/// lblFSize.
+void mnuOpen_Click(Settings& settings, FileDialogs& dialogs, Sounds& sounds, GameList& games);
+
 } // namespace varnhold

@@ -27,6 +27,14 @@ void SharedDatabase::select(const QString& statement)
     DBRecords->Open(SQLText, DBConn);
 }
 
+int SharedDatabase::remove(const QString& statement)
+{
+    SQLText = statement;
+    DBCommand.setCommandText(SQLText);
+    DBCommand.setActiveConnection(DBConn);
+    return DBCommand.Execute();
+}
+
 void SharedDatabase::close()
 {
     if (DBRecords)

@@ -37,6 +37,8 @@ public:
     void connect();
     /// Sets SQLText and opens DBRecords on it.
     void select(const QString& statement);
+    /// Sets SQLText and runs it, a DELETE; the number of rows.
+    int remove(const QString& statement);
     void close(); ///< DBRecords, then DBConn
 
     /// Runs a routine's body with the report on failure; true when it ran through.

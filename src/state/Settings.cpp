@@ -109,6 +109,11 @@ void Settings::setListUrl(const TaggedText& url)
 void Settings::setIdList(const TaggedText& database)
 {
     m_values.databaseSize = u"Before: "_s + File_Size_Text(database.tag);
+    setIdListOnly(database);
+}
+
+void Settings::setIdListOnly(const TaggedText& database)
+{
     writeTagged(u"IDList File"_s, u"IDList Path"_s, m_values.idList, database);
 }
 

@@ -44,8 +44,10 @@ public:
     [[nodiscard]] const TaggedText& listUrl() const { return m_values.listUrl; }
     void setListUrl(const TaggedText& url);
     [[nodiscard]] const TaggedText& idList() const { return m_values.idList; }
-    void setIdList(const TaggedText& database); ///< shows the database's size on disk too
+    void setIdList(const TaggedText& database);     ///< shows the database's size on disk too
+    void setIdListOnly(const TaggedText& database); ///< leaves lblFSize as it is
     [[nodiscard]] const QString& databaseSize() const { return m_values.databaseSize; } ///< lblFSize
+    void setDatabaseSize(const QString& text) { m_values.databaseSize = text; }         ///< no key holds it
 
     [[nodiscard]] const QString& unwantedStrings() const { return m_values.unwantedStrings; }
     /// Line ends are CR LF and are kept here; the file takes the first line only, until the box of RemoveUnw

@@ -19,6 +19,7 @@ public:
         EXPECT_EQ(sqlite3_exec(m_engine, sql, nullptr, nullptr, nullptr), SQLITE_OK);
     }
     ~OtherProgram() { sqlite3_close(m_engine); }
+    [[nodiscard]] sqlite3* engine() const { return m_engine; }
     OtherProgram(const OtherProgram&) = delete;
     OtherProgram& operator=(const OtherProgram&) = delete;
 

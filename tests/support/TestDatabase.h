@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <utility>
+
 namespace varnhold::test {
 
 /// A row of a game table; a null member stays NULL in the file.
@@ -24,6 +26,8 @@ class TestDatabase
 public:
     /// Makes a new file with PS3Games, PS3Personal and PS3Links, all empty.
     explicit TestDatabase(QString path);
+    /// One that is there already, of any schema.
+    static TestDatabase opened(QString path) { return {std::move(path), Opened()}; }
 
     [[nodiscard]] const QString& path() const { return m_path; }
 
@@ -37,6 +41,11 @@ public:
     [[nodiscard]] bool isSound() const;
 
 private:
+    struct Opened
+    {
+    };
+    TestDatabase(QString path, Opened) : m_path(std::move(path)) {}
+
     QString m_path;
 };
 

@@ -6,7 +6,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QUrl>
 
 #include <algorithm>
 #include <bit>
@@ -16,11 +15,6 @@ namespace varnhold {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// How long another program's lock is waited for: the windows stand still meanwhile.
-constexpr int patienceMilliseconds = 250;
-/// Bytes of the longest value that the engine makes or reads; a stored picture may well have 200 million.
-constexpr int longestValue = 256 * 1024 * 1024;
 
 /// Bytes 18 and 19 of a file that wants a write-ahead log both to be written and to be read.
 bool wantsWriteAheadLog(const QString& path)
@@ -39,11 +33,6 @@ int runOnce(sqlite3* engine, const char* sql)
 
 } // namespace
 
-void DatabaseFile::EngineCloser::operator()(sqlite3* engine) const
-{
-    sqlite3_close(engine);
-}
-
 DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patience(watch)
 {
     // A folder, a pipe or an empty file are no databases, though the engine would take the last for one.
@@ -51,7 +40,7 @@ DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patien
     if (path.isEmpty() || path.contains(QChar(u'\0')) || !isRegularFile(path) || info.size() == 0)
         throw databaseError(errors::database::cannotOpen, path);
     const QString fullPath = info.absoluteFilePath();
-    m_engine = open(fullPath);
+    m_engine = openEngine(fullPath);
     int result = probe(m_engine.get());
     if (result != SQLITE_OK && (result & 0xff) != SQLITE_BUSY && wantsWriteAheadLog(fullPath) &&
         QFileInfo(fullPath + u"-wal"_s).size() == 0) {
@@ -77,37 +66,6 @@ DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patien
 DatabaseFile::~DatabaseFile()
 {
     close();
-}
-
-DatabaseFile::Engine DatabaseFile::open(const QString& path)
-{
-    sqlite3* engine = nullptr;
-    sqlite3_open_v2(QFile::encodeName(path).constData(), &engine, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
-                    nullptr);
-    configure(engine);
-    return Engine(engine);
-}
-
-DatabaseFile::Engine DatabaseFile::openUnchanging(const QString& path)
-{
-    sqlite3* engine = nullptr;
-    const QByteArray uri = "file:" + QUrl::toPercentEncoding(path, "/") + "?immutable=1";
-    sqlite3_open_v2(uri.constData(), &engine, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX,
-                    nullptr);
-    configure(engine);
-    return Engine(engine);
-}
-
-void DatabaseFile::configure(sqlite3* engine)
-{
-    if (engine == nullptr)
-        throw RunTimeError(errors::outOfMemory);
-    sqlite3_extended_result_codes(engine, 1);
-    sqlite3_busy_timeout(engine, patienceMilliseconds);
-    // The file comes from anywhere.
-    sqlite3_limit(engine, SQLITE_LIMIT_LENGTH, longestValue);
-    sqlite3_db_config(engine, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(engine, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
 }
 
 int DatabaseFile::probe(sqlite3* engine)
@@ -176,7 +134,7 @@ void DatabaseFile::useWriteAheadLog()
     } catch (const RunTimeError&) {
         m_writeAhead = false;
     }
-    sqlite3_busy_timeout(m_engine.get(), patienceMilliseconds);
+    sqlite3_busy_timeout(m_engine.get(), lockPatience);
     if (m_writeAhead)
         execute("PRAGMA synchronous = NORMAL");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/Engine.h"
 #include "platform/database/EnginePatience.h"
 #include "platform/database/EngineStatement.h"
 #include "platform/database/TableSchema.h"
@@ -11,8 +12,6 @@
 #include <memory>
 #include <unordered_map>
 #include <vector>
-
-struct sqlite3;
 
 namespace varnhold {
 
@@ -59,11 +58,6 @@ public:
     QByteArray readValue(const TableSchema& table, int column, qint64 row, qint64 offset, qint64 length);
 
 private:
-    struct EngineCloser
-    {
-        void operator()(sqlite3* engine) const;
-    };
-    using Engine = std::unique_ptr<sqlite3, EngineCloser>;
     struct OpenValue
     {
         std::unique_ptr<sqlite3_blob, int (*)(sqlite3_blob*)> handle;
@@ -73,10 +67,7 @@ private:
     };
 
     std::vector<QString> names(const QByteArray& condition);
-    static Engine open(const QString& path);
-    static Engine openUnchanging(const QString& path);
     static int probe(sqlite3* engine);
-    static void configure(sqlite3* engine);
     [[noreturn]] void fail(int result) const;
     sqlite3_blob* openValue(const TableSchema& table, int column, qint64 row);
     qint64 selectSize(const TableSchema& table, int column, qint64 row);

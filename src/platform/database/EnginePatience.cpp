@@ -36,6 +36,8 @@ bool EnginePatience::goesOn()
         m_watch->keepPainted();
         m_lastPainted = Clock::now();
     }
+    if (m_limit == Limit::None)
+        return true;
     return now - m_lastStep < (m_watch ? m_watch->patience() : DatabaseWatch::defaultPatience);
 }
 

@@ -15,8 +15,12 @@ class DatabaseWatch;
 class EnginePatience
 {
 public:
+    enum class Limit { Rows, None }; ///< None: work that may be long
+
     /// `watch` may be null: nothing paints then.
-    explicit EnginePatience(DatabaseWatch* watch) : m_watch(watch) {}
+    explicit EnginePatience(DatabaseWatch* watch, Limit limit = Limit::Rows) : m_watch(watch), m_limit(limit)
+    {
+    }
     EnginePatience(const EnginePatience&) = delete;
     EnginePatience& operator=(const EnginePatience&) = delete;
 
@@ -30,6 +34,7 @@ private:
     bool goesOn();
 
     DatabaseWatch* m_watch;
+    Limit m_limit;
     quint64 m_steps = 0;
     quint64 m_seenSteps = 0;
     Clock::time_point m_lastStep;
