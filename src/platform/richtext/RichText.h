@@ -12,6 +12,10 @@ namespace varnhold {
 struct RichText
 {
     enum class Alignment { Left, Center, Right, Justify };
+    enum class Script : unsigned char { Normal, Super, Sub };
+
+    /// The size in which a stream names the box's own, which is 11 pixels.
+    static constexpr int ownHalfPoints = 17;
 
     struct CharacterFormat
     {
@@ -19,6 +23,7 @@ struct RichText
         bool italic = false;
         bool underline = false;
         bool strikethrough = false;
+        Script script = Script::Normal;
         QString font;                 ///< empty: the box's own
         int halfPoints = 0;           ///< size; 0: the box's own
         std::optional<quint32> color; ///< 0x00BBGGRR; none: the box's own
@@ -34,6 +39,9 @@ struct RichText
         bool bullet = false;
         int bulletIndent = 0; ///< from the bullet to its text; 0: as far as the first line hangs
         std::vector<int> tabs;
+        int list = 0; ///< the number that list tables in the header know it by; 0: none
+        int listLevel = 0;
+        QByteArray oldList; ///< a whole group {\*\pn...} that tells how its number goes on; empty: none
         bool operator==(const ParagraphFormat&) const = default;
     };
 
@@ -45,6 +53,8 @@ struct RichText
         /// A whole group "{...}" that is not understood here (a picture, a field's code), kept as it came;
         /// `text` is then empty.
         QByteArray verbatim;
+        /// Belongs to the number that the paragraph's list shows in front of its text.
+        bool isNumber = false;
         bool operator==(const Run&) const = default;
     };
 

@@ -173,6 +173,8 @@ void RichTextBox::changeEvent(QEvent* event)
 void RichTextBox::resizeEvent(QResizeEvent* event)
 {
     QTextEdit::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        fitIndents(*document());
     refreshColors();
 }
 
@@ -234,7 +236,7 @@ bool RichTextBox::endBullet()
 
 QMimeData* RichTextBox::createMimeDataFromSelection() const
 {
-    return offerRichText(textCursor().selection()).release();
+    return offerRichText(textCursor().selection(), richTextHeader(*document())).release();
 }
 
 bool RichTextBox::canInsertFromMimeData(const QMimeData* source) const
@@ -244,12 +246,15 @@ bool RichTextBox::canInsertFromMimeData(const QMimeData* source) const
 
 void RichTextBox::insertFromMimeData(const QMimeData* source)
 {
-    const std::optional<RichText> pasted = isReadOnly() ? std::nullopt : takeRichText(*source);
+    std::optional<RichText> pasted = isReadOnly() ? std::nullopt : takeRichText(*source);
     if (!pasted)
         return;
-    QTextDocument document;
-    setRichText(document, *pasted);
-    textCursor().insertFragment(QTextDocumentFragment(&document));
+    fitLists(*pasted, richTextHeader(*document()));
+    QTextDocument contents;
+    contents.setDocumentMargin(document()->documentMargin());
+    contents.setTextWidth(document()->textWidth());
+    setRichText(contents, *pasted);
+    textCursor().insertFragment(QTextDocumentFragment(&contents));
     ensureCursorVisible();
 }
 

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace varnhold {
 
@@ -23,7 +24,10 @@ const std::array rtfTypes = {u"text/rtf"_s, u"application/rtf"_s, u"text/richtex
 class RichTextOffer : public QMimeData
 {
 public:
-    explicit RichTextOffer(const QTextDocumentFragment& fragment) : m_fragment(fragment) {}
+    RichTextOffer(const QTextDocumentFragment& fragment, std::vector<QByteArray> header)
+        : m_fragment(fragment), m_header(std::move(header))
+    {
+    }
 
     [[nodiscard]] bool hasFormat(const QString& type) const override { return formats().contains(type); }
     [[nodiscard]] QStringList formats() const override
@@ -35,9 +39,9 @@ protected:
     QVariant retrieveData(const QString& type, QMetaType) const override
     {
         if (type == "text/plain"_L1)
-            return m_fragment.toPlainText();
+            return plainTextOf(m_fragment.toRawText());
         if (type == "text/html"_L1)
-            return m_fragment.toHtml();
+            return m_fragment.toHtml().remove(QChar::ObjectReplacementCharacter);
         if (type == rtfTypes[0] || type == rtfTypes[1])
             return writeRtf(contents());
         return {};
@@ -49,17 +53,40 @@ private:
         QTextDocument document;
         document.setUndoRedoEnabled(false);
         QTextCursor(&document).insertFragment(m_fragment);
-        return richTextOf(document);
+        RichText text = richTextOf(document);
+        text.header = m_header;
+        return text;
     }
 
     QTextDocumentFragment m_fragment;
+    std::vector<QByteArray> m_header;
 };
+
+/// Tables that the contents refer to by numbers.
+bool isReferredTo(const QByteArray& group)
+{
+    static constexpr std::array tables = {"{\\*\\listtable", "{\\*\\listoverridetable", "{\\fonttbl",
+                                          "{\\colortbl", "{\\ansicpg"};
+    return std::any_of(tables.begin(), tables.end(),
+                       [&group](const char* table) { return group.startsWith(table); });
+}
+
+std::vector<QByteArray> listTables(const std::vector<QByteArray>& header)
+{
+    std::vector<QByteArray> tables;
+    std::copy_if(header.begin(), header.end(), std::back_inserter(tables),
+                 [](const QByteArray& group) { return group.startsWith("{\\*\\list"); });
+    return tables;
+}
 
 } // namespace
 
-std::unique_ptr<QMimeData> offerRichText(const QTextDocumentFragment& fragment)
+std::unique_ptr<QMimeData> offerRichText(const QTextDocumentFragment& fragment,
+                                         const std::vector<QByteArray>& header)
 {
-    return std::make_unique<RichTextOffer>(fragment);
+    std::vector<QByteArray> tables;
+    std::copy_if(header.begin(), header.end(), std::back_inserter(tables), isReferredTo);
+    return std::make_unique<RichTextOffer>(fragment, std::move(tables));
 }
 
 std::optional<RichText> takeRichText(const QMimeData& offer)
@@ -78,6 +105,17 @@ std::optional<RichText> takeRichText(const QMimeData& offer)
     else
         return {};
     return richTextOf(document);
+}
+
+void fitLists(RichText& text, const std::vector<QByteArray>& header)
+{
+    if (listTables(text.header) == listTables(header))
+        return;
+    for (RichText::Paragraph& paragraph : text.paragraphs) {
+        paragraph.format.list = paragraph.format.listLevel = 0;
+        for (RichText::Run& run : paragraph.runs)
+            run.isNumber = run.isNumber && !paragraph.format.oldList.isEmpty();
+    }
 }
 
 bool holdsRichText(const QMimeData& offer)

@@ -1,5 +1,6 @@
 #include "platform/richtext/RichTextDocument.h"
 
+#include "platform/Twips.h"
 #include "platform/richtext/EmptyObject.h"
 #include "platform/richtext/RichTextFormats.h"
 
@@ -21,16 +22,26 @@ namespace {
 
 constexpr int headerProperty = QTextFormat::UserProperty + 1;
 constexpr int listStep = 360;
+constexpr char16_t frameStart = 0xFDD0;
+constexpr char16_t frameEnd = 0xFDD1;
 
 struct CharacterFormatHash
 {
     std::size_t operator()(const RichText::CharacterFormat& format) const
     {
         const int flags = (format.bold ? 1 : 0) | (format.italic ? 2 : 0) | (format.underline ? 4 : 0) |
-                          (format.strikethrough ? 8 : 0) | (format.color ? 16 : 0);
+                          (format.strikethrough ? 8 : 0) | (format.color ? 16 : 0) |
+                          (static_cast<int>(format.script) << 5);
         return qHashMulti(0, flags, format.font, format.halfPoints, format.color.value_or(0));
     }
 };
+
+/// Twips between the document's margins; 0 where it has no width.
+int viewWidthOf(const QTextDocument& document)
+{
+    const double width = document.textWidth() - 2 * document.documentMargin();
+    return width > 0 ? qRound(width * twipsPerPixel) : 0;
+}
 
 /// A document holds few formats many times over.
 class Fill
@@ -38,7 +49,7 @@ class Fill
 public:
     /// Empties the document. Done inside the edit, the whole counts as new to the layout, which then lays out
     /// what is seen and leaves the rest for idle moments.
-    explicit Fill(QTextDocument& document) : m_cursor(&document)
+    explicit Fill(QTextDocument& document) : m_cursor(&document), m_viewWidth(viewWidthOf(document))
     {
         m_cursor.beginEditBlock();
         document.clear();
@@ -49,13 +60,14 @@ public:
     void paragraph(const RichText::Paragraph& paragraph)
     {
         if (!m_block || *m_blockValue != paragraph.format) {
-            m_block = toBlockFormat(paragraph.format);
+            m_block = toBlockFormat(paragraph.format, m_viewWidth);
             m_blockValue = &paragraph.format;
         }
         if (std::exchange(m_isFirst, false))
             m_cursor.setBlockFormat(*m_block);
         else
             m_cursor.insertBlock(*m_block, QTextCharFormat());
+        beginWord();
         for (const RichText::Run& each : paragraph.runs)
             run(each);
     }
@@ -63,28 +75,44 @@ public:
 private:
     void run(const RichText::Run& run)
     {
-        if (!run.verbatim.isEmpty())
+        if (!run.verbatim.isEmpty()) {
             m_cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                                 toVerbatimFormat(run.format, run.verbatim));
-        else if (!run.text.isEmpty())
+            beginWord();
+        } else if (run.isNumber) {
+            QTextCharFormat marked = format(run.format);
+            const QString number = fit(run.text);
+            setNumber(marked, number);
+            insert(number, marked);
+        } else if (!run.text.isEmpty()) {
             insert(fit(run.text), format(run.format));
+        }
     }
 
-    /// To wrap a word that is longer than a line takes the layout time with the square of its length: minutes
-    /// for one of a megabyte. Objects that take no room, and that are no part of the contents, break it up.
+    void beginWord() { m_wordLength = m_wordRuns = 0; }
+
+    /// To wrap a word that is longer than a line takes the layout time with the square of its length and of
+    /// its runs: minutes for one of a megabyte. Objects that take no room, and that are no part of the
+    /// contents, break it up.
     void insert(const QString& text, const QTextCharFormat& format)
     {
         constexpr qsizetype longestWord = 4000;
+        constexpr qsizetype mostRuns = 200;
         qsizetype start = 0;
-        qsizetype word = 0;
+        ++m_wordRuns;
         for (qsizetype i = 0; i < text.size(); ++i) {
             if (text[i].isSpace()) {
-                word = i + 1;
-            } else if (i - word >= longestWord && !text[i].isLowSurrogate()) {
-                m_cursor.insertText(text.mid(start, i - start), format);
-                m_cursor.insertText(QString(QChar::ObjectReplacementCharacter), toVerbatimFormat({}, {}));
-                start = word = i;
+                beginWord();
+                continue;
             }
+            if ((m_wordLength >= longestWord || m_wordRuns > mostRuns) && !text[i].isLowSurrogate()) {
+                if (i > start)
+                    m_cursor.insertText(text.mid(start, i - start), format);
+                m_cursor.insertText(QString(QChar::ObjectReplacementCharacter), toVerbatimFormat({}, {}));
+                start = i;
+                beginWord();
+            }
+            ++m_wordLength;
         }
         m_cursor.insertText(text.mid(start), format);
     }
@@ -100,8 +128,6 @@ private:
     /// Characters that a document takes for its own structure must not come with the text.
     static QString fit(const QString& text)
     {
-        constexpr char16_t frameStart = 0xFDD0;
-        constexpr char16_t frameEnd = 0xFDD1;
         const auto isLineEnd = [](QChar each) {
             return each == u'\n' || each == u'\r' || each == QChar::ParagraphSeparator;
         };
@@ -116,6 +142,9 @@ private:
     }
 
     QTextCursor m_cursor;
+    int m_viewWidth;
+    qsizetype m_wordLength = 0; ///< of the word that the text ends with
+    qsizetype m_wordRuns = 0;
     bool m_isFirst = true;
     std::optional<QTextBlockFormat> m_block;
     const RichText::ParagraphFormat* m_blockValue = nullptr;
@@ -136,6 +165,7 @@ public:
             paragraph.format.firstIndent = -listStep;
             paragraph.format.bulletIndent = listStep;
         }
+        m_maybeNumber = paragraph.format.list > 0 || !paragraph.format.oldList.isEmpty();
         for (auto at = block.begin(); !at.atEnd(); ++at)
             fragment(at.fragment(), paragraph.runs);
         return paragraph;
@@ -147,6 +177,7 @@ private:
         RichText::CharacterFormat value;
         QByteArray verbatim;
         bool isObject = false;
+        QString number;
     };
 
     void fragment(const QTextFragment& fragment, std::vector<RichText::Run>& runs)
@@ -156,10 +187,30 @@ private:
             runs.insert(runs.end(), fragment.length(), {format.value, {}, format.verbatim});
         else if (format.isObject)
             return; // a picture of the toolkit's, which cannot be written
-        else if (!runs.empty() && runs.back().verbatim.isEmpty() && runs.back().format == format.value)
-            runs.back().text += fragment.text();
         else
-            runs.push_back({format.value, fragment.text(), {}});
+            text(fragment.text(), format, runs);
+    }
+
+    /// A number stands in front of all else, as it came.
+    void text(const QString& text, const Known& format, std::vector<RichText::Run>& runs)
+    {
+        const bool isNumber = m_maybeNumber && !format.number.isEmpty() && text.startsWith(format.number);
+        const qsizetype length = isNumber ? format.number.size() : 0;
+        if (isNumber)
+            append({format.value, format.number, {}, true}, runs);
+        if (length == text.size())
+            return;
+        m_maybeNumber = false;
+        append({format.value, text.sliced(length), {}, false}, runs);
+    }
+
+    static void append(RichText::Run run, std::vector<RichText::Run>& runs)
+    {
+        if (!runs.empty() && runs.back().verbatim.isEmpty() && runs.back().format == run.format &&
+            runs.back().isNumber == run.isNumber)
+            runs.back().text += run.text;
+        else
+            runs.push_back(std::move(run));
     }
 
     const Known& known(const QTextFragment& fragment)
@@ -168,12 +219,13 @@ private:
         if (isNew) {
             const QTextCharFormat format = fragment.charFormat();
             place->second = {toCharacterFormat(format), verbatimGroup(format),
-                             format.objectType() != QTextFormat::NoObject};
+                             format.objectType() != QTextFormat::NoObject, numberOf(format)};
         }
         return place->second;
     }
 
     std::unordered_map<int, Known> m_formats;
+    bool m_maybeNumber = false; ///< no text has come yet but the paragraph's number
 };
 
 void keepHeader(QTextFrame& root, const std::vector<QByteArray>& header)
@@ -203,11 +255,56 @@ void setRichText(QTextDocument& document, const RichText& text)
     document.setModified(false);
 }
 
+void fitIndents(QTextDocument& document)
+{
+    if (document.isRedoAvailable())
+        return;
+    const int viewWidth = viewWidthOf(document);
+    const bool isModified = document.isModified();
+    const bool undo = document.isUndoRedoEnabled();
+    const bool isPartOfEdit = document.isUndoAvailable();
+    QTextCursor cursor(&document);
+    if (!isPartOfEdit)
+        document.setUndoRedoEnabled(false);
+    else
+        cursor.joinPreviousEditBlock();
+    std::unordered_map<int, std::optional<QTextBlockFormat>> fitting; // by the format's index
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const auto [place, isNew] = fitting.try_emplace(block.blockFormatIndex());
+        if (isNew)
+            place->second = fitFormat(block.blockFormat(), viewWidth);
+        if (place->second) {
+            cursor.setPosition(block.position());
+            cursor.setBlockFormat(*place->second);
+        }
+    }
+    if (isPartOfEdit)
+        cursor.endEditBlock();
+    document.setUndoRedoEnabled(undo);
+    document.setModified(isModified);
+}
+
+QString plainTextOf(QString rawText)
+{
+    rawText.remove(QChar::ObjectReplacementCharacter);
+    const auto isLineEnd = [](QChar each) {
+        return each == QChar::ParagraphSeparator || each == QChar::LineSeparator || each == frameStart ||
+               each == frameEnd;
+    };
+    std::replace_if(rawText.begin(), rawText.end(), isLineEnd, u'\n');
+    return rawText;
+}
+
+std::vector<QByteArray> richTextHeader(const QTextDocument& document)
+{
+    const auto header = document.rootFrame()->frameFormat().property(headerProperty).value<QByteArrayList>();
+    return {header.begin(), header.end()};
+}
+
 RichText richTextOf(const QTextDocument& document)
 {
     RichText text;
-    const auto header = document.rootFrame()->frameFormat().property(headerProperty).value<QByteArrayList>();
-    text.header.assign(header.begin(), header.end());
+    text.header = richTextHeader(document);
     text.paragraphs.reserve(static_cast<std::size_t>(document.blockCount()));
     Collect collect;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())

@@ -16,7 +16,8 @@ const QByteArray deletedText = QByteArrayLiteral("{\\deleted ");
 /// Appends a run to the one in front of it, if they are of one kind.
 bool joined(Run& run, const Run& next)
 {
-    if (run.format != next.format || run.verbatim.isEmpty() != next.verbatim.isEmpty())
+    if (run.format != next.format || run.verbatim.isEmpty() != next.verbatim.isEmpty() ||
+        run.isNumber != next.isNumber)
         return false;
     if (run.verbatim.isEmpty()) {
         run.text += next.text;
@@ -29,6 +30,12 @@ bool joined(Run& run, const Run& next)
             return true;
         }
     return false;
+}
+
+/// Headings of a list that counts nothing bring a tab alone.
+bool showsSomething(const Run& run)
+{
+    return !run.verbatim.isEmpty() || !run.text.trimmed().isEmpty();
 }
 
 } // namespace
@@ -112,18 +119,27 @@ void RtfBody::endParagraph(const RtfParagraph& paragraph)
     flush();
     m_cellEnded = false;
     m_paragraph.format = paragraph.format();
-    bool& bullet = m_paragraph.format.bullet;
+    RichText::ParagraphFormat& format = m_paragraph.format;
+    bool& bullet = format.bullet;
     const auto listed =
         paragraph.list > 0 ? m_tables.lists.isBullet(paragraph.list, paragraph.level) : std::nullopt;
-    if (!bullet && listed) {
+    if (listed) {
         bullet = *listed;
-    } else if (!bullet && !paragraph.oldNumber && m_listText.size() == 1) {
+    } else if (!bullet && (format.list > 0 || !paragraph.oldNumber) && m_listText.size() == 1) {
         const QString text = m_listText.front().text.trimmed();
         bullet = text.size() == 1 && bullets.contains(text.front());
     }
+    if (bullet || format.list > 0)
+        format.oldList.clear();
+    const bool isNumbered = format.list > 0 || !format.oldList.isEmpty();
     if (bullet) {
-        m_paragraph.format.bulletIndent = paragraph.bulletIndent;
-    } else {
+        format.bulletIndent = format.list > 0 ? 0 : paragraph.bulletIndent;
+    } else if (!isNumbered || std::any_of(m_listText.begin(), m_listText.end(), showsSomething)) {
+        // A field that begins in a number need not end in it.
+        const bool isText = std::all_of(m_listText.begin(), m_listText.end(),
+                                        [](const Run& run) { return run.verbatim.isEmpty(); });
+        for (Run& run : m_listText)
+            run.isNumber = isNumbered && isText;
         std::vector<Run>& runs = m_paragraph.runs;
         if (!m_listText.empty() && !runs.empty() && joined(m_listText.back(), runs.front()))
             runs.erase(runs.begin());

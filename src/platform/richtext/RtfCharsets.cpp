@@ -131,6 +131,11 @@ bool RtfCodePage::isLead(unsigned char byte) const
     return m_multiByte && m_number != 65001 && byte > 0x80 && byte < 0xFF && !katakana;
 }
 
+bool RtfCodePage::pairsWithSigns() const
+{
+    return m_multiByte && m_number != 949 && m_number != 10003 && m_number != 65001;
+}
+
 bool RtfCodePage::endsInside(QByteArrayView bytes) const
 {
     bool inside = false;

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] char16_t character(unsigned char byte) const { return m_single.at(byte); }
     /// Whether the byte begins a character of two, whose second may be a 7-bit one.
     [[nodiscard]] bool isLead(unsigned char byte) const;
+    /// Whether a brace or a backslash may be such a second byte.
+    [[nodiscard]] bool pairsWithSigns() const;
     QString text(QByteArrayView bytes);
 
 private:

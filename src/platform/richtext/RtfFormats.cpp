@@ -45,6 +45,17 @@ void RtfCharacters::apply(RtfWord word, const RtfToken& token)
     case RtfWord::Strike:
         strikethrough = isOn(token);
         break;
+    case RtfWord::Super:
+    case RtfWord::Raised:
+        script = isOn(token) ? RichText::Script::Super : RichText::Script::Normal;
+        break;
+    case RtfWord::Sub:
+    case RtfWord::Lowered:
+        script = isOn(token) ? RichText::Script::Sub : RichText::Script::Normal;
+        break;
+    case RtfWord::NormalScript:
+        script = RichText::Script::Normal;
+        break;
     case RtfWord::Hidden:
         concealed = isOn(token) ? Concealed::Hidden : Concealed::No;
         break;
@@ -55,7 +66,7 @@ void RtfCharacters::apply(RtfWord word, const RtfToken& token)
         font = token.parameter;
         break;
     case RtfWord::FontSize:
-        halfPoints = std::clamp(token.parameter, 0, biggest);
+        halfPoints = token.parameter > 0 ? std::min(token.parameter, biggest) : rtfHalfPoints;
         break;
     case RtfWord::Color:
         color = token.parameter;
@@ -75,7 +86,8 @@ RichText::CharacterFormat RtfCharacters::format(const RtfTables& tables) const
     const auto named = tables.fonts.find(font == rtfNoFont ? tables.defaultFont : font);
     if (named != tables.fonts.end())
         result.font = named->second.name;
-    result.halfPoints = halfPoints;
+    result.script = script;
+    result.halfPoints = halfPoints == RichText::ownHalfPoints ? 0 : halfPoints;
     if (color >= 0 && static_cast<std::size_t>(color) < tables.colors.size())
         result.color = tables.colors[static_cast<std::size_t>(color)];
     return result;
@@ -118,19 +130,21 @@ void RtfParagraph::apply(RtfWord word, const RtfToken& token)
     case RtfWord::OldListBullet:
         oldBullet = true;
         oldNumber = false;
+        oldList.clear();
         break;
     case RtfWord::OldListNumber:
         oldBullet = false;
         oldNumber = true;
+        oldList.clear();
         break;
     case RtfWord::OldListIndent:
         bulletIndent = std::max(length(token), 0);
         break;
     case RtfWord::List:
-        list = token.parameter;
+        list = std::max(token.parameter, 0);
         break;
     case RtfWord::ListLevel:
-        level = token.parameter;
+        level = std::max(token.parameter, 0);
         break;
     default:
         break;
@@ -145,6 +159,10 @@ RichText::ParagraphFormat RtfParagraph::format() const
     result.rightIndent = rightIndent;
     result.firstIndent = firstIndent;
     result.bullet = oldBullet;
+    result.list = list;
+    result.listLevel = list > 0 ? level : 0;
+    if (oldNumber)
+        result.oldList = oldList;
     result.tabs.assign(tabs.begin(), tabs.end());
     return result;
 }

@@ -10,6 +10,9 @@ namespace varnhold {
 
 struct RtfToken;
 
+/// The size of characters for which a stream names none.
+constexpr int rtfHalfPoints = 24;
+
 /// The format of characters as the stream names it.
 struct RtfCharacters
 {
@@ -21,7 +24,8 @@ struct RtfCharacters
     bool strikethrough = false;
     Concealed concealed = Concealed::No;
     int font = rtfNoFont; ///< a number of the table; rtfNoFont: the document's default
-    int halfPoints = 0;
+    RichText::Script script = RichText::Script::Normal;
+    int halfPoints = rtfHalfPoints;
     int color = -1; ///< an index of the table; -1: none
     bool operator==(const RtfCharacters&) const = default;
 
@@ -42,7 +46,8 @@ struct RtfParagraph
     int bulletIndent = 0;
     int list = 0; ///< \ls; 0: none
     int level = 0;
-    QList<int> tabs; ///< shared by the groups that do not change it
+    QByteArray oldList; ///< the whole group \pn of a number
+    QList<int> tabs;    ///< shared by the groups that do not change it
 
     /// A word from ParagraphDefaults to ListLevel.
     void apply(RtfWord word, const RtfToken& token);

@@ -10,6 +10,7 @@
 #include "platform/richtext/RtfWords.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varnhold {
 
@@ -33,6 +34,7 @@ struct Group
     bool isFieldResult = false;
     bool isListText = false;
     bool isOldList = false;      // shows nothing, and so with its groups
+    bool isOldListAlone = false; // and has shown nothing before
     bool isAlternatives = false; // the same, but for \ud
 };
 
@@ -71,6 +73,7 @@ private:
 
     QByteArray takeGroup(const RtfToken& token);
     void skipGroup();
+    QByteArray oldListAt(qsizetype begin);
     void placeGroup(const QByteArray& kept, bool withHeader);
     void beginListText();
 
@@ -119,6 +122,7 @@ bool Reader::take(const RtfToken& token)
         return true;
     }
     if (token.kind == Kind::Byte) {
+        m_scanner.setPage(&page());
         appendByte(token.byte);
         return true;
     }
@@ -135,7 +139,7 @@ bool Reader::take(const RtfToken& token)
         else if (m_groups.size() > 2)
             closeGroup();
         else // the end, unless braces behind it tell that this one was too many
-            return rtfExcessBrace(m_stream, m_scanner.offset()) >= 0;
+            return rtfExcessBrace(m_stream, m_scanner.offset(), page()) >= 0;
         break;
     case Kind::Word:
         word(token);
@@ -181,9 +185,13 @@ void Reader::closeGroup()
         m_content.endListText();
     if (closed.isOldList) {
         RtfParagraph& outer = group().paragraph;
-        outer.oldBullet = closed.paragraph.oldBullet;
-        outer.oldNumber = closed.paragraph.oldNumber;
         outer.bulletIndent = closed.paragraph.bulletIndent;
+        if (closed.paragraph.oldBullet || closed.paragraph.oldNumber) {
+            outer.oldBullet = closed.paragraph.oldBullet;
+            outer.oldNumber = closed.paragraph.oldNumber;
+            if (!group().isOldList)
+                outer.oldList = closed.isOldListAlone ? oldListAt(closed.begin) : QByteArray();
+        }
     }
 }
 
@@ -229,12 +237,14 @@ bool Reader::groupWord(RtfWord word, const RtfToken& token, bool ignorable)
         return true;
     case RtfWord::ListTable:
     case RtfWord::ListOverrideTable: {
+        // One that stands behind a part of the text was not known there.
+        const bool isHeader = !m_body;
         const QByteArray kept = takeGroup(token);
-        if (word == RtfWord::ListTable)
+        if (isHeader && word == RtfWord::ListTable)
             m_tables.lists.readTable(kept);
-        else
+        else if (isHeader)
             m_tables.lists.readOverrides(kept);
-        placeGroup(kept, true);
+        placeGroup(kept, isHeader);
         return true;
     }
     case RtfWord::HeaderGroup:
@@ -281,8 +291,9 @@ bool Reader::groupWord(RtfWord word, const RtfToken& token, bool ignorable)
         beginListText();
         return true;
     case RtfWord::OldList:
-        group().written = true;
         group().isOldList = m_tooDeep == 0;
+        group().isOldListAlone = !std::exchange(group().written, true);
+        group().paragraph.oldBullet = group().paragraph.oldNumber = false;
         return true;
     case RtfWord::Unknown:
         if (ignorable)
@@ -430,7 +441,7 @@ QByteArray Reader::takeGroup(const RtfToken& token)
     const bool whole =
         m_tooDeep == 0 && !group().written && group().characters.concealed == RtfCharacters::Concealed::No;
     const qsizetype word = m_star >= 0 ? m_star : token.begin;
-    RtfKeptGroup kept = rtfKeptGroup(m_stream, whole ? group().begin + 1 : word);
+    RtfKeptGroup kept = rtfKeptGroup(m_stream, whole ? group().begin + 1 : word, page());
     const int fallback = whole ? m_groups.at(m_groups.size() - 2).fallback : group().fallback;
     if (fallback != 1 && kept.bytes.contains("\\u")) {
         RtfScanner scanner(kept.bytes);
@@ -439,6 +450,7 @@ QByteArray Reader::takeGroup(const RtfToken& token)
         kept.bytes.insert(scanner.offset(), "\\uc" + QByteArray::number(fallback) + ' ');
     }
     m_scanner.seek(kept.end);
+    group().isOldListAlone = false;
     if (m_tooDeep > 0)
         --m_tooDeep;
     else
@@ -448,7 +460,7 @@ QByteArray Reader::takeGroup(const RtfToken& token)
 
 void Reader::skipGroup()
 {
-    const qsizetype end = rtfExcessBrace(m_stream, m_scanner.offset());
+    const qsizetype end = rtfExcessBrace(m_stream, m_scanner.offset(), page());
     m_scanner.seek(end < 0 ? m_stream.size() : end);
 }
 
@@ -464,6 +476,16 @@ void Reader::placeGroup(const QByteArray& kept, bool withHeader)
         show();
         m_content.append(group().characters, kept);
     }
+}
+
+/// Not one of any length: each paragraph behind it may have to write it again.
+QByteArray Reader::oldListAt(qsizetype begin)
+{
+    constexpr qsizetype longestGroup = 256;
+    if (m_scanner.offset() - begin > longestGroup)
+        return {};
+    const QByteArray kept = rtfKeptGroup(m_stream, begin + 1, page()).bytes;
+    return kept.size() <= longestGroup ? kept : QByteArray();
 }
 
 void Reader::beginListText()
@@ -487,7 +509,11 @@ RtfCodePage& Reader::page()
 RichText readRtf(QByteArrayView stream)
 {
     const QByteArrayView unmarked = stream.startsWith("\xEF\xBB\xBF") ? stream.sliced(3) : stream;
-    return unmarked.startsWith("{\\rtf") ? Reader(unmarked).read() : readPlainNote(unmarked);
+    const auto* const begin = std::find_if_not(unmarked.begin(), unmarked.end(), [](char c) {
+        return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+    });
+    const QByteArrayView inked(begin, unmarked.end());
+    return inked.startsWith("{\\rtf") ? Reader(inked).read() : readPlainNote(unmarked);
 }
 
 } // namespace varnhold

@@ -1,7 +1,10 @@
 #include "platform/richtext/RtfScanner.h"
 
+#include "platform/richtext/RtfCharsets.h"
+
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <experimental/simd>
 
@@ -54,6 +57,16 @@ template <bool breaks> const char* plainEnd(const char* from, const char* end)
     return from;
 }
 
+/// Whether what stands behind a raw byte is the second one of its character though it looks like markup.
+bool isRawSecond(unsigned char first, const char* at, const char* end, const RtfCodePage& page)
+{
+    if (at == end || !page.pairsWithSigns() || !page.isLead(first))
+        return false;
+    const bool isEscape =
+        end - at >= 4 && at[0] == '\\' && at[1] == '\'' && hexValue(at[2]) >= 0 && hexValue(at[3]) >= 0;
+    return static_cast<unsigned char>(*at) >= 0x80 || *at == '{' || *at == '}' || (*at == '\\' && !isEscape);
+}
+
 void appendHex(QByteArray& bytes, unsigned char byte)
 {
     constexpr char digits[] = "0123456789abcdef";
@@ -79,6 +92,11 @@ RtfToken RtfScanner::made(RtfToken::Kind kind, const char* begin, unsigned char 
 
 RtfToken RtfScanner::next()
 {
+    if (std::exchange(m_isRaw, false) && m_page &&
+        isRawSecond(static_cast<unsigned char>(m_at[-1]), m_at, m_end, *m_page)) {
+        const char* const begin = m_at++;
+        return made(RtfToken::Kind::Byte, begin, static_cast<unsigned char>(*begin));
+    }
     while (m_at < m_end) {
         const char* begin = m_at;
         const auto byte = static_cast<unsigned char>(*m_at++);
@@ -94,7 +112,8 @@ RtfToken RtfScanner::next()
             return made(RtfToken::Kind::Open, begin);
         if (byte == '}')
             return made(RtfToken::Kind::Close, begin);
-        if (byte >= 0x80 || byte == '\t')
+        m_isRaw = byte >= 0x80;
+        if (m_isRaw || byte == '\t')
             return made(RtfToken::Kind::Byte, begin, byte);
         if (byte < 0x20)
             continue;
@@ -152,7 +171,7 @@ RtfToken RtfScanner::word(const char* backslash)
     return token;
 }
 
-RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from)
+RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from, const RtfCodePage& page)
 {
     const char* const end = stream.data() + stream.size();
     const char* at = stream.data() + from;
@@ -175,9 +194,12 @@ RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from)
             kept += '\n'; // not dropped: what stands on its two sides must not grow into one word
             ++at;
         } else if (c != '\\') {
-            kept += "\\'";
-            appendHex(kept, static_cast<unsigned char>(c));
-            ++at;
+            const auto byte = static_cast<unsigned char>(c);
+            const char* const behind = at + (isRawSecond(byte, at + 1, end, page) ? 2 : 1);
+            for (; at < behind; ++at) {
+                kept += "\\'";
+                appendHex(kept, static_cast<unsigned char>(*at));
+            }
         } else if (end - at < 2 || at[1] == 0 || static_cast<unsigned char>(at[1]) >= 0x80) {
             ++at;
         } else if (end - at >= 5 && QByteArrayView(at, 4) == "\\bin" && !isLetter(at[4])) {
@@ -200,9 +222,10 @@ RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from)
     return {kept, at - stream.data()};
 }
 
-qsizetype rtfExcessBrace(QByteArrayView stream, qsizetype from)
+qsizetype rtfExcessBrace(QByteArrayView stream, qsizetype from, const RtfCodePage& page)
 {
     RtfScanner scanner(stream, from);
+    scanner.setPage(&page);
     qsizetype depth = 0;
     for (RtfToken token = scanner.next(); token.kind != RtfToken::Kind::End; token = scanner.next()) {
         if (token.kind == RtfToken::Kind::Open)

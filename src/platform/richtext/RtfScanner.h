@@ -5,6 +5,8 @@
 
 namespace varnhold {
 
+class RtfCodePage;
+
 /// The next piece of a stream. Line ends and control bytes outside of \bin are passed over.
 struct RtfToken
 {
@@ -33,7 +35,14 @@ public:
     explicit RtfScanner(QByteArrayView stream, qsizetype from = 0);
 
     RtfToken next();
-    void seek(qsizetype offset) { m_at = m_begin + offset; }
+    void seek(qsizetype offset)
+    {
+        m_at = m_begin + offset;
+        m_isRaw = false;
+    }
+    /// The page of the raw bytes from the one that was read last on: where it is one of two bytes a
+    /// character, a brace or a backslash may be the second and is read as a byte, too. Null: none.
+    void setPage(const RtfCodePage* page) { m_page = page; }
     [[nodiscard]] qsizetype offset() const { return m_at - m_begin; }
 
 private:
@@ -44,6 +53,8 @@ private:
     const char* m_begin;
     const char* m_at;
     const char* m_end;
+    const RtfCodePage* m_page = nullptr;
+    bool m_isRaw = false; ///< the last token was a raw byte, which began a character
 };
 
 struct RtfKeptGroup
@@ -53,10 +64,11 @@ struct RtfKeptGroup
 };
 
 /// The rest of a group from `from` on, as a whole group that any text can stand round: 7-bit, every brace
-/// closed. What \bin brought stands there in hexadecimal, which a picture or object takes just as well.
-RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from);
+/// closed. What \bin brought stands there in hexadecimal, which a picture or object takes just as well. The
+/// page is that of its raw bytes.
+RtfKeptGroup rtfKeptGroup(QByteArrayView stream, qsizetype from, const RtfCodePage& page);
 
 /// Offset of the first closing brace from `from` on that no opening one stands for; -1 if there is none.
-qsizetype rtfExcessBrace(QByteArrayView stream, qsizetype from);
+qsizetype rtfExcessBrace(QByteArrayView stream, qsizetype from, const RtfCodePage& page);
 
 } // namespace varnhold

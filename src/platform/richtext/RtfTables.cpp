@@ -293,15 +293,21 @@ void RtfReferences::add(QByteArrayView group)
     }
 }
 
+void RtfReferences::add(const RichText::Paragraph& paragraph)
+{
+    add(paragraph.format.oldList);
+    for (const RichText::Run& run : paragraph.runs)
+        if (!run.verbatim.isEmpty())
+            add(run.verbatim);
+}
+
 std::vector<QByteArray> rtfKeptTables(const RichText& text, const RtfTables& tables, int codePage)
 {
     RtfReferences references;
     for (const QByteArray& kept : text.header)
         references.add(kept);
     for (const RichText::Paragraph& paragraph : text.paragraphs)
-        for (const RichText::Run& run : paragraph.runs)
-            if (!run.verbatim.isEmpty())
-                references.add(run.verbatim);
+        references.add(paragraph);
 
     std::vector<QByteArray> groups;
     if (references.codePage && codePage != latinPage)

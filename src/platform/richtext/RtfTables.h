@@ -59,6 +59,7 @@ struct RtfReferences
     bool codePage = false; ///< bytes of the document's code page
 
     void add(QByteArrayView group);
+    void add(const RichText::Paragraph& paragraph); ///< the groups that it holds
 };
 
 /// What the header says.

@@ -1,5 +1,6 @@
 #include "platform/richtext/RtfWriter.h"
 
+#include "platform/richtext/RtfFormats.h"
 #include "platform/richtext/RtfTables.h"
 #include "platform/richtext/RtfText.h"
 
@@ -40,10 +41,17 @@ bool isFieldEnd(const QByteArray& group)
     return group == "{\\fldrslt}";
 }
 
+/// What holds before any word, and behind \plain.
+const RichText::CharacterFormat plainCharacters = [] {
+    RichText::CharacterFormat format;
+    format.halfPoints = rtfHalfPoints;
+    return format;
+}();
+
 /// What the words written so far have switched on.
 struct State
 {
-    RichText::CharacterFormat characters;
+    RichText::CharacterFormat characters = plainCharacters;
     std::optional<RichText::ParagraphFormat> paragraph;
 };
 
@@ -61,6 +69,7 @@ private:
     void paragraph(const RichText::Paragraph& paragraph);
     void run(const Run& run);
     void characters(const RichText::CharacterFormat& format);
+    void endNumber(const State& outside);
     void paragraphFormat(const RichText::ParagraphFormat& format);
     int fontNumber(const QString& name);
     int colorIndex(quint32 color);
@@ -112,11 +121,9 @@ void Writer::collect()
     }
     bool bullets = false;
     for (const RichText::Paragraph& one : m_text.paragraphs)
-        for (const Run& run : one.runs)
-            if (!run.verbatim.isEmpty())
-                m_kept.add(run.verbatim);
+        m_kept.add(one);
     for (const RichText::Paragraph& one : m_text.paragraphs) {
-        bullets = bullets || one.format.bullet;
+        bullets = bullets || (one.format.bullet && one.format.list == 0);
         for (const Run& run : one.runs) {
             if (!run.format.font.isEmpty())
                 fontNumber(run.format.font);
@@ -200,13 +207,36 @@ void Writer::head()
 void Writer::paragraph(const RichText::Paragraph& paragraph)
 {
     paragraphFormat(paragraph.format);
-    if (paragraph.format.bullet)
+    const bool isInTable = paragraph.format.list > 0;
+    if (paragraph.format.bullet && isInTable)
+        m_stream += "{\\listtext\\bullet\\tab}";
+    else if (paragraph.format.bullet)
         m_stream += "{\\pntext\\f" + QByteArray::number(fontNumber(bulletFont)) + "\\'B7\\tab}";
+    bool isInNumber = false;
+    State outside;
     for (const Run& one : paragraph.runs) {
+        if (one.isNumber != isInNumber) {
+            if (one.isNumber) {
+                m_stream += isInTable ? "{\\listtext " : "{\\pntext ";
+                outside = m_state;
+            } else {
+                endNumber(outside);
+            }
+            isInNumber = one.isNumber;
+        }
         run(one);
         paragraphFormat(paragraph.format);
     }
+    if (isInNumber)
+        endNumber(outside);
     m_stream += "\\par\r\n";
+}
+
+/// What its words switched on ends with the group.
+void Writer::endNumber(const State& outside)
+{
+    m_stream += '}';
+    m_state = outside;
 }
 
 void Writer::paragraphFormat(const RichText::ParagraphFormat& format)
@@ -236,7 +266,13 @@ void Writer::paragraphFormat(const RichText::ParagraphFormat& format)
         word("ri", format.rightIndent);
     for (const int tab : format.tabs)
         word("tx", tab);
-    if (format.bullet) {
+    if (format.list > 0) {
+        word("ls", format.list);
+        word("ilvl", format.listLevel);
+    }
+    if (!format.oldList.isEmpty()) {
+        m_stream += format.oldList;
+    } else if (format.bullet && format.list == 0) {
         m_stream += "{\\*\\pn\\pnlvlblt\\pnf" + QByteArray::number(fontNumber(bulletFont));
         word("pnindent", format.bulletIndent);
         m_stream += "{\\pntxtb\\'B7}}";
@@ -269,10 +305,9 @@ void Writer::characters(const RichText::CharacterFormat& format)
     if (current == format)
         return;
     const qsizetype before = m_stream.size();
-    if ((format.font.isEmpty() && !current.font.isEmpty()) || (!format.halfPoints && current.halfPoints) ||
-        (!format.color && current.color)) {
+    if ((format.font.isEmpty() && !current.font.isEmpty()) || (!format.color && current.color)) {
         m_stream += "\\plain"; // the only way back to what is the box's own
-        current = {};
+        current = plainCharacters;
     }
     const auto toggle = [this](bool from, bool to, const char* on, const char* off) {
         if (from != to)
@@ -281,13 +316,17 @@ void Writer::characters(const RichText::CharacterFormat& format)
     if (format.font != current.font)
         word("f", fontNumber(format.font));
     if (format.halfPoints != current.halfPoints)
-        word("fs", format.halfPoints);
+        word("fs", format.halfPoints ? format.halfPoints : RichText::ownHalfPoints);
     if (format.color != current.color)
         word("cf", colorIndex(*format.color));
     toggle(current.bold, format.bold, "\\b", "\\b0");
     toggle(current.italic, format.italic, "\\i", "\\i0");
     toggle(current.underline, format.underline, "\\ul", "\\ulnone");
     toggle(current.strikethrough, format.strikethrough, "\\strike", "\\strike0");
+    if (format.script != current.script)
+        m_stream += format.script == RichText::Script::Super ? "\\super"
+                    : format.script == RichText::Script::Sub ? "\\sub"
+                                                             : "\\nosupersub";
     if (m_stream.size() > before)
         m_stream += ' ';
     current = format;

@@ -10,6 +10,8 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include <array>
+
 namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
@@ -42,8 +44,9 @@ private:
         format.italic = below(4) == 0;
         format.underline = below(4) == 0;
         format.strikethrough = below(6) == 0;
+        format.script = static_cast<RichText::Script>(below(3));
         format.font = QStringList{u""_s, u"DejaVu Sans"_s, u"Nowhere, Sans"_s}[below(3)];
-        format.halfPoints = below(2) == 0 ? 0 : 1 + below(200);
+        format.halfPoints = below(2) == 0 ? 0 : 4 + below(200);
         if (below(2) == 0)
             format.color = m_random.bounded(0x1000000U);
         return format;
@@ -61,6 +64,10 @@ private:
         format.bulletIndent = twips();
         for (int i = below(3) == 0 ? below(5) : 0; i > 0; --i)
             format.tabs.push_back(below(9000));
+        format.list = below(3) == 0 ? 1 + below(4) : 0;
+        format.listLevel = format.list ? below(9) : 0;
+        if (format.list && below(2) == 0)
+            paragraph.runs.push_back({characterFormat(), u"1.\t"_s, {}, true});
         for (int i = below(6); i > 0; --i)
             addRun(paragraph.runs);
         return paragraph;
@@ -78,7 +85,7 @@ private:
         }
         // Two runs of one format side by side are one run.
         if (runs.empty() || !run.verbatim.isEmpty() || !runs.back().verbatim.isEmpty() ||
-            !(runs.back().format == run.format))
+            runs.back().isNumber || !(runs.back().format == run.format))
             runs.push_back(run);
     }
 
@@ -119,6 +126,11 @@ TEST(RichTextDocument, BreaksUpWordsThatTheLayoutCouldNotWrap)
 {
     RichText text;
     text.paragraphs.push_back({{}, {{{}, u"a "_s + QString(50'000, u'x') + u" b"_s, {}}}});
+    std::vector<RichText::Run>& runs = text.paragraphs.emplace_back().runs;
+    for (int i = 0; i < 20'000; ++i) {
+        runs.push_back({{}, u"x"_s, {}});
+        runs.back().format.bold = i % 2 == 0;
+    }
     QTextDocument document;
     setRichText(document, text);
     qsizetype longest = 0;
@@ -126,6 +138,7 @@ TEST(RichTextDocument, BreaksUpWordsThatTheLayoutCouldNotWrap)
     for (const QStringView piece : QStringView(shown).split(QChar::ObjectReplacementCharacter))
         longest = std::max(longest, piece.size());
     EXPECT_LT(longest, 5000);
+    EXPECT_GT(document.lastBlock().text().count(QChar::ObjectReplacementCharacter), 50) << "many short runs";
     EXPECT_TRUE(richTextOf(document) == text) << "the breaks are no part of it";
 }
 
@@ -198,6 +211,41 @@ TEST(RichTextDocument, LaysBulletsAndIndentsOutInPixels)
     EXPECT_EQ(left(0), 24);
     EXPECT_EQ(left(1), 48) << "the bullet takes the hanging part";
     EXPECT_EQ(left(2), 12) << "never upon the bullet";
+}
+
+TEST(RichTextDocument, ShowsWithinTheViewWhatLeadsOutOfIt)
+{
+    QTextDocument document;
+    RichText text;
+    for (const auto& [left, first, right] : {std::array{-720, 0, 0},
+                                             {300, -900, 0},
+                                             {30'000, 0, 0},
+                                             {0, 20'000, 0},
+                                             {0, 0, 9000},
+                                             {0, 0, -500}}) {
+        text.paragraphs.push_back(plain(u"words that take more than one line"_s));
+        RichText::ParagraphFormat& format = text.paragraphs.back().format;
+        format.leftIndent = left;
+        format.firstIndent = first;
+        format.rightIndent = right;
+    }
+    document.setTextWidth(400);
+    setRichText(document, text);
+    for (const double width : {400.0, 120.0, 300.0}) {
+        document.setTextWidth(width);
+        fitIndents(document);
+        document.documentLayout()->documentSize();
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            for (int i = 0; i < block.layout()->lineCount(); ++i) {
+                const QTextLine line = block.layout()->lineAt(i);
+                EXPECT_GE(line.naturalTextRect().left() + document.documentMargin(), 0)
+                    << block.blockNumber();
+                EXPECT_GE(line.width(), 25) << block.blockNumber();
+                EXPECT_LE(line.x() + line.width(), width) << block.blockNumber();
+            }
+        EXPECT_TRUE(richTextOf(document) == text) << width;
+        EXPECT_FALSE(document.isUndoAvailable() || document.isModified());
+    }
 }
 
 } // namespace varnhold::test

@@ -40,7 +40,9 @@ TEST(RtfReader, ReadsTextAndItsFormats)
         {"toggles", "\\ul a\\ulnone b\\uldb c\\uldb0 d\\ulwave e\\ul0\\striked1 f\\striked0\\strike g",
          u"<u>a<>b<u>c<>d<u>e<s>fg"_s},
         {"font, size, colour, plain", "\\f0\\fs24\\cf1 a\\cf0 b\\plain c\\cf2\\fs99999 d\\cf9\\f9\\fs0 e",
-         u"<Zero 24 #ff>a<Zero 24>b<>c<3276 #30201>d<>e"_s},
+         u"<Zero #ff>a<Zero>b<>c<3276 #30201>d<>e"_s},
+        {"raised and lowered, and the own size", "a\\super b\\nosupersub\\sub c\\up0\\fs17 d\\dn6 e\\plain f",
+         u"a<super>b<sub>c<own>d<sub own>e<>f"_s},
         {"paragraphs end with their last format",
          "\\qc a\\par\\qr\\li720\\fi-360\\ri10 b\\par\\pard\\qj\\tx900\\tx300 c",
          u"(center)a\n(right li720 ri10 fi-360)b\n(justify tx300 tx900)c"_s},
@@ -60,6 +62,9 @@ TEST(RtfReader, ReadsCharactersOfAnyCodePage)
         {"by the font", "\\f1\\'cf\\'f0", u"<One>\u041F\u0440"_s},
         {"two bytes, the second one a letter too", "\\f2\\'83\\'65\\'83X\\'b1a",
          u"<Two>\u30C6\u30B9\uFF71a"_s},
+        {"two raw bytes, the second one a sign",
+         "\\f2\x83\x5c\x94\x7d\x83\x7b\x83\x83\\b\x83\\'5c\\u8213\\'81?{\\*\\x \x83\x7d}",
+         u"<Two>\u30BD\u5A92\u30DC\u30E3<b Two>\u30BD\u2015?[{\\*\\x \\'83\\'7d}]"_s},
         {"unicode with what stands for it", "\\u1055?\\u-3913 ?\\uc2\\u20013\\'d6\\'d0{\\uc0\\u65}\\u66 xyz",
          u"\u041F\uF0B7\u4E2D"_s + u"AB"_s + u"z"_s},
         {"surrogates, apart and at once", "\\u-10179?\\u-8704?\\uc0\\u128512 !", u"\U0001F600\U0001F600!"_s},
@@ -86,13 +91,14 @@ TEST(RtfReader, ReadsListsOfBothKinds)
          "a\\par"
          "{\\pntext\\f3\\'B7\\tab}b\\par\\pard c",
          u"(li200 fi-200 bullet200)a\n(li200 fi-200 bullet200)b\nc"_s},
-        {"an old number is text",
+        {"an old number",
          "\\pard{\\pntext\\f0 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec\\pnindent200{\\pntxta .}}\\f0 a",
-         u"<Zero>1.~a"_s},
+         u"({\\*\\pn\\pnlvlbody\\pndec\\pnindent200{\\pntxta .}})<Zero>{1.~}<Zero>a"_s},
         {"a level of the tables",
          tables + "{\\listtext\\f3\\'b7\\tab}\\ls1\\ilvl0 a\\par{\\listtext 1.\\tab}\\ilvl1 b\\par"
                   "\\pard c",
-         u"(bullet0)a\n1.~b\nc"_s},
+         u"(bullet0 ls1)a\n(ls1 ilvl1){1.~}<>b\nc"_s},
+        {"a heading in a list that counts nothing", "{\\listtext\\tab}\\ls3\\ilvl0 a", u"(ls3)a"_s},
         {"a bullet that no table tells of", "{\\listtext\\u8226?\\tab}a\\par{\\listtext i.\\tab}b",
          u"(bullet0)a\ni.~b"_s},
     });
@@ -163,13 +169,14 @@ TEST(RtfReader, ReadsOtherNotesAsPlainText)
         QString shown;
     } cases[] = {
         {"", u""_s},
-        {"a {b}\\par\r\n\tc\rd\n", u"a {b}\\par\n~c\nd\n"_s},
-        {" {\\rtf1 a}", u" {\\rtf1 a}"_s},
-        {"\xEF\xBB\xBF\xC3\xA9", u"\u00E9"_s},
-        {"\xEF\xBB\xBF{\\rtf1 a}", u"a"_s},
-        {"caf\xE9", u"caf\u00E9"_s},
-        {QByteArray("a\0b\0", 4), u"ab"_s},
-        {QByteArray("\xFF\xFE\x16\x04", 4), u"\u0416"_s},
+        {"a {b}\\par\r\n\tc\rd\n", u"<own>a {b}\\par\n<own>~c\n<own>d\n"_s},
+        {" \r\n\t{\\rtf1 a}", u"a"_s},
+        {" {\\rt", u"<own> {\\rt"_s},
+        {"\xEF\xBB\xBF\xC3\xA9", u"<own>\u00E9"_s},
+        {"\xEF\xBB\xBF {\\rtf1 a}", u"a"_s},
+        {"caf\xE9", u"<own>caf\u00E9"_s},
+        {QByteArray("a\0b\0", 4), u"<own>ab"_s},
+        {QByteArray("\xFF\xFE\x16\x04", 4), u"<own>\u0416"_s},
     };
     for (const auto& one : cases)
         EXPECT_EQ(shown(readRtf(one.note)), one.shown) << one.note.toPercentEncoding().constData();

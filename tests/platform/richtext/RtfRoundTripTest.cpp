@@ -49,6 +49,8 @@ public:
             paragraph.format = number(3) && text.paragraphs.size() > 1
                                    ? text.paragraphs.at(text.paragraphs.size() - 2).format
                                    : paragraphFormat();
+            if (paragraph.format.list && !paragraph.format.bullet)
+                paragraph.runs.push_back({characterFormat(), u"1.\t"_s, {}, true});
             for (int runs = number(6); runs > 0; --runs)
                 addRun(paragraph.runs);
         }
@@ -74,7 +76,7 @@ private:
             run.verbatim = groups[number(6)];
         else
             run.text = characters();
-        const bool merges = !runs.empty() && runs.back().format == run.format &&
+        const bool merges = !runs.empty() && runs.back().format == run.format && !runs.back().isNumber &&
                             runs.back().verbatim.isEmpty() && run.verbatim.isEmpty();
         if (!merges)
             runs.push_back(run);
@@ -101,7 +103,8 @@ private:
         format.underline = chance();
         format.strikethrough = chance();
         format.font = fonts[number(5)];
-        format.halfPoints = chance() ? 0 : 1 + number(100);
+        format.halfPoints = chance() ? 0 : 18 + number(100); // from the size on that stands for the own one
+        format.script = static_cast<RichText::Script>(number(3));
         if (chance())
             format.color = colors[number(4)];
         return format;
@@ -118,7 +121,11 @@ private:
         if (chance())
             format.firstIndent = number(2000) - 1000;
         format.bullet = chance();
-        format.bulletIndent = format.bullet ? number(1000) : 0;
+        format.list = number(3);
+        format.listLevel = format.list ? number(9) : 0;
+        format.bulletIndent = format.bullet && !format.list ? number(1000) : 0;
+        if (!format.bullet && !format.list && chance())
+            format.oldList = "{\\*\\pn\\pnlvlbody{\\pntxta .}}";
         std::set<int> tabs;
         for (int left = chance() ? 0 : number(33); left > 0; --left)
             tabs.insert(1 + number(20000));
@@ -149,7 +156,8 @@ TEST(RtfRoundTrip, SamplesOfThreeKindsOfEditors)
               u"(li720 fi-360 bullet360)<Segoe UI 22>First point\n"
               u"(li720 fi-360 bullet360)<Segoe UI 22>Second, café for 5€\n"
               u"(center tx1440)<MS Gothic 22>テスト<Segoe UI 22> and При~end|broken\n"
-              u"(li200 ri600 fi-200)<Segoe UI 22>1.~Numbered"_s);
+              u"(li200 ri600 fi-200 {\\*\\pn\\pnlvlbody\\pnf0\\pnindent0\\pnstart1\\pndec{\\pntxta.}})"
+              u"<Segoe UI 22>{1.~}<Segoe UI 22>Numbered"_s);
     EXPECT_EQ(readRtf(sample(u"office-suite.rtf"_s)).plainText(),
               u"Heading\nSee the page there’s more — café.\nOne\nTwo\n1.\tNumbered\nleft\tright\n\u00A0Ж"_s);
     EXPECT_EQ(readRtf(sample(u"phone-editor.rtf"_s)).plainText(),
@@ -173,7 +181,7 @@ TEST(RtfRoundTrip, AnEditLosesNothing)
           "{\\field\\flddirty{\\*\\fldinst {\\rtlch\\fcs1 \\af31507 \\ltrch\\fcs0  HYPERLINK "
           "\"http://example.org/a\\\\b\" "
           "}{{\\*\\datafield 00d0c9}}}{\\fldrslt ",
-          "{\\footnote ", "{\\*\\bkmkstart here}", "{\\v hidden words}"})
+          "{\\footnote ", "\\ls2", "{\\listtext ", "{\\*\\bkmkstart here}", "{\\v hidden words}"})
         EXPECT_TRUE(written.contains(kept)) << kept;
     const qsizetype fourth = written.indexOf("\\colortbl ") + 10;
     EXPECT_EQ(written.sliced(fourth, written.indexOf('}', fourth) - fourth).split(';').at(4),
