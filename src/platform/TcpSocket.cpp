@@ -75,10 +75,15 @@ qint64 waitingAt(int descriptor)
     return ::ioctl(descriptor, FIONREAD, &waiting) == 0 ? std::min<qint64>(waiting, chunkLimit) : 0;
 }
 
-qsizetype peekAt(int descriptor, std::span<char> buffer)
+/// Negative with errno for a failure. A reset is told once: who passes over it here meets an orderly end
+/// next.
+ssize_t peekAt(int descriptor, std::span<char> buffer)
 {
-    const ssize_t copied = ::recv(descriptor, buffer.data(), buffer.size(), MSG_PEEK);
-    return std::max<qsizetype>(copied, 0);
+    ssize_t copied = 0;
+    do {
+        copied = ::recv(descriptor, buffer.data(), buffer.size(), MSG_PEEK);
+    } while (copied < 0 && errno == EINTR);
+    return copied;
 }
 
 struct MoveResult
@@ -103,7 +108,10 @@ MoveResult moveChunks(int socket, int file, qint64 offset, qint64 count, const Q
             break;
         count = waitingAt(socket);
         const auto looked = static_cast<std::size_t>(std::min<qint64>(start.size(), count));
-        if (looked > 0 && peekAt(socket, {start.data(), looked}) == except.size() && start == except)
+        const ssize_t seen = looked > 0 ? peekAt(socket, {start.data(), looked}) : 0;
+        if (seen < 0)
+            return {moved, errno};
+        if (seen == except.size() && start == except)
             break;
     }
     return {moved, 0};
@@ -152,6 +160,7 @@ void TcpSocket::release()
         ::close(std::exchange(m_descriptor, -1));
     m_addresses.clear();
     m_unsent.clear();
+    m_sendError = 0;
     m_waiting = 0;
     m_handling = false;
 }
@@ -273,7 +282,8 @@ void TcpSocket::sendData(const QByteArray& data)
     flush();
 }
 
-/// A peer that is gone is told by the reading side, after the data that it sent.
+/// A peer that is gone is told after the data that it sent. The system tells of a reset once, and might have
+/// told it here.
 void TcpSocket::flush()
 {
     while (!m_unsent.isEmpty()) {
@@ -283,10 +293,14 @@ void TcpSocket::flush()
             continue;
         if (sent < 0 && errno == EAGAIN)
             break;
-        if (sent < 0)
-            m_unsent.clear();
-        else
+        if (sent >= 0) {
             m_unsent.remove(0, sent);
+            continue;
+        }
+        m_sendError = errno;
+        m_unsent.clear();
+        if (waitingAt(m_descriptor) == 0)
+            failLater(errorNumber(m_sendError));
     }
     m_writable->setEnabled(!m_unsent.isEmpty());
 }
@@ -303,7 +317,9 @@ void TcpSocket::onReadable()
 
     char next = 0;
     const ssize_t seen = ::recv(m_descriptor, &next, 1, MSG_PEEK);
-    if (seen == 0) {
+    if (seen == 0 && m_sendError != 0) {
+        fail(errorNumber(m_sendError));
+    } else if (seen == 0) {
         retire(m_readable);
         retire(m_writable);
         m_state = State::Closing;
@@ -359,7 +375,13 @@ qsizetype TcpSocket::peekData(std::span<char> buffer)
     const auto count = std::min(buffer.size(), static_cast<std::size_t>(m_waiting));
     if (count == 0)
         return 0;
-    return peekAt(m_descriptor, buffer.first(count));
+    const ssize_t copied = peekAt(m_descriptor, buffer.first(count));
+    if (copied < 0) {
+        // What cannot be looked at is not moved either: a head would go to the file as if it were body.
+        m_waiting = 0;
+        failLater(errorNumber(errno));
+    }
+    return std::max<qsizetype>(copied, 0);
 }
 
 QByteArrayView TcpSocket::getData()
@@ -371,6 +393,8 @@ QByteArrayView TcpSocket::getData()
                                      static_cast<std::size_t>(m_chunk.size() - filled), 0);
         if (taken < 0 && errno == EINTR)
             continue;
+        if (taken < 0)
+            failLater(errorNumber(errno));
         if (taken <= 0)
             break;
         filled += taken;
@@ -388,6 +412,7 @@ void TcpSocket::moveData(int fileDescriptor, qint64 offset, const QByteArray& ex
 
 void TcpSocket::failLater(int number)
 {
+    m_addresses.clear();
     m_soonError = number;
     m_soon.start();
 }

@@ -71,6 +71,7 @@ private:
     QList<QHostAddress> m_addresses; ///< still to be tried
     quint16 m_port = 0;
     QTimer m_soon;            ///< starts from the event loop what needs no lookup
+    int m_sendError = 0;      ///< errno of the send that failed; told when what the peer sent has been read
     int m_soonError = 0;      ///< with it when there is no address to try
     int m_lookup = -1;        ///< running name lookup
     int m_lastError = 0;      ///< errno of the last address tried

@@ -1,0 +1,240 @@
+// The table of all paths by which the program changes files. One more is one more row:
+//   - a function `use...` that does what the program does, from the folder it is given to what it tells the
+//     user, with its own services and no fakes of files or sockets; true where it tells a success;
+//   - a function `check...` that says what must hold after any fault (the old or the new file is whole, and
+//     after a success the new one) and after the use that follows it without one;
+//   - what lies there before, and, where it needs a service, how `use` gets its address (`argument`).
+// All files stand below root.path("work"), which is `root` in `use`; faults reach no others. FaultsTest tries
+// each call that such a use makes: opening, writing, renaming, flushing, removing, connecting, sending and
+// receiving. `most` keeps a slow path's share of the tests' time small (all together: twenty seconds).
+
+#include "faults/WritingPaths.h"
+
+#include "download/DiskFiles.h"
+#include "download/DownloadClient.h"
+#include "platform/Clock.h"
+#include "platform/MessageBoxes.h"
+#include "platform/RunTimeError.h"
+#include "platform/TcpSocket.h"
+#include "platform/database/DatabaseConnection.h"
+#include "platform/database/Recordset.h"
+#include "state/ApplicationState.h"
+#include "state/SettingsFile.h"
+#include "support/FakePump.h"
+#include "support/PrintText.h"
+#include "support/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QUuid>
+
+#include <unistd.h>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Settings.ini and Skin.ini
+
+const QByteArray oldIni = "; note\r\n[Settings]\r\nServer=1\r\n\r\n[Position]\r\nLeft=10\r\n";
+const QByteArray newIni = "; note\r\n[Settings]\r\nServer=2\r\n\r\n[Position]\r\nLeft=10\r\n";
+
+bool useSettings(const QString& root, const QString& /*argument*/)
+{
+    const Paths paths{root};
+    const ApplicationState state;
+    SettingsFile file(paths, state);
+    file.clearLeftovers();
+    return file.replaceSections({{u"Settings"_s, {{u"Server"_s, u"2"_s}}}});
+}
+
+bool useSkinFile(const QString& root, const QString& /*argument*/)
+{
+    const Paths paths{root};
+    ApplicationState state;
+    state.SkinPath = root + u"/skin"_s;
+    SettingsFile file(paths, state);
+    file.clearLeftovers();
+    file.Skin_Write(u"Settings"_s, u"Server"_s, u"2"_s); // tells nothing
+    return file.Skin_Read(u"Settings"_s, u"Server"_s, {}) == u"2";
+}
+
+void checkIni(const TempRoot& root, const QString& folder, const QString& name, FaultOutcome outcome)
+{
+    const QByteArray bytes = root.read(folder + u'/' + name);
+    EXPECT_TRUE(bytes == newIni || (outcome != FaultOutcome::Acknowledged && bytes == oldIni))
+        << bytes.constData();
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(root.path(folder)).entryList(QDir::Files | QDir::Hidden), QStringList{name});
+    }
+}
+
+// A download by the window's road
+
+const QByteArray packageBytes = QByteArray("made-up package ").repeated(20'000);
+
+/// Boxes that a user would have to answer; the first ends the use.
+class CountedBoxes : public MessageBoxes
+{
+public:
+    BoxAnswer show(const MessageBox& /*box*/) override
+    {
+        ++count;
+        return BoxAnswer::Ok;
+    }
+    int count = 0;
+};
+
+bool useDownload(const QString& root, const QString& url)
+{
+    // What a kill left is what the windows ask about; here it is taken away without the calls under test.
+    static_cast<void>(::truncate(QFile::encodeName(root + u"/x.temp"_s).constData(), 0));
+    TcpSocketMaker sockets;
+    DiskFiles files;
+    MonotonicClock clock;
+    FakePump pump;
+    pump.ending = true; // the wait before the window closes ends at once
+    CountedBoxes boxes;
+    DownloadClient client({sockets, files, clock, pump, boxes});
+    bool isUnloaded = false;
+    QObject::connect(&client, &DownloadClient::unloadRequested, &client, [&] { isUnloaded = true; });
+    client.setUrl(url);
+    client.setNameTag(root + u"/x.pkg"_s);
+    client.Download1();
+    const bool isFaulty = !qEnvironmentVariableIsEmpty("VARNHOLD_FAULT");
+    const QDeadlineTimer patience(isFaulty ? 1'000 : 10'000); // an answer that never comes is no success
+    while (!isUnloaded && boxes.count == 0 && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    return isUnloaded && boxes.count == 0;
+}
+
+void checkDownload(FaultPlace& place, FaultOutcome outcome)
+{
+    const bool isThere = QFile::exists(place.root.path(u"work/x.pkg"_s));
+    EXPECT_TRUE(isThere || outcome != FaultOutcome::Acknowledged);
+    if (isThere) {
+        EXPECT_TRUE(place.root.read(u"work/x.pkg"_s) == packageBytes);
+        QFile::remove(place.root.path(u"work/x.pkg"_s)); // the windows would ask about it
+    }
+}
+
+// A download by the terminal
+
+const QString terminalPackage = u"work/down/UP0001-BLES00256_00-VARNHOLDSAMPLE00-A0102-V0100.pkg"_s;
+
+void prepareTerminal(FaultPlace& place)
+{
+    place.root.write(u"work/hosts.ini"_s, "[Hosts]\r\nUse=these\r\n[Servers]\r\n2=" +
+                                              place.service().httpAuthority().toLatin1() + "\r\n");
+    place.root.write(terminalPackage, "the old package");
+}
+
+/// The built program takes this process's place, faults and all.
+bool useTerminal(const QString& root, const QString& /*argument*/)
+{
+    const QByteArray program = QFile::encodeName(QCoreApplication::applicationDirPath() + u"/varnhold-cli"_s);
+    const QByteArray folder = QFile::encodeName(root);
+    const QByteArray down = folder + "/down";
+    ::execl(program.constData(), "varnhold-cli", "--root", folder.constData(), "download", "--overwrite",
+            "--to", down.constData(), "--server", "2", "BLES00256", nullptr);
+    return false;
+}
+
+void checkTerminal(FaultPlace& place, FaultOutcome outcome)
+{
+    const QByteArray bytes = place.root.read(terminalPackage);
+    const bool isNew =
+        bytes.size() > 32 &&
+        bytes.last(32).first(20) == QCryptographicHash::hash(bytes.chopped(32), QCryptographicHash::Sha1);
+    EXPECT_TRUE(isNew || (outcome != FaultOutcome::Acknowledged && bytes == "the old package"));
+}
+
+// A game database
+
+void prepareDatabase(FaultPlace& place)
+{
+    const TestDatabase database(place.root.path(u"work/Games.mdb"_s));
+    database.addGames(u"PS3Games"_s, {{u"A"_s, u"old"_s}, {u"B"_s, u"stays"_s}});
+}
+
+bool useDatabase(const QString& root, const QString& /*argument*/)
+{
+    try {
+        DatabaseConnection connection;
+        connection.Open(u"Data Source="_s + root + u"/Games.mdb"_s);
+        Recordset records;
+        records.Open(u"SELECT * FROM PS3Games where GameID='A'"_s, connection);
+        records.setValue(u"GameName"_s, u"new"_s);
+        records.Update();
+        records.AddNew();
+        records.setValue(u"GameID"_s, QUuid::createUuid().toString());
+        records.setValue(u"GameName"_s, u"added"_s);
+        records.Update();
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+void checkDatabase(FaultPlace& place, FaultOutcome outcome)
+{
+    const QString path = place.root.path(u"work/Games.mdb"_s);
+    const TestDatabase database = TestDatabase::opened(path);
+    EXPECT_TRUE(database.isSound());
+    const QStringList names = database.column(u"SELECT GameName FROM PS3Games ORDER BY GameID"_s);
+    EXPECT_TRUE(names.contains(u"stays"_s));
+    EXPECT_TRUE(names.contains(u"new"_s) ||
+                (outcome != FaultOutcome::Acknowledged && names.contains(u"old"_s)));
+    EXPECT_TRUE(names.contains(u"added"_s) || outcome != FaultOutcome::Acknowledged);
+}
+
+} // namespace
+
+const std::vector<WritingPath>& writingPaths()
+{
+    static const std::vector<WritingPath> paths = {
+        {.name = "Settings",
+         .prepare = [](FaultPlace& place) { place.root.write(u"work/Settings.ini"_s, oldIni); },
+         .use = useSettings,
+         .check = [](FaultPlace& place,
+                     FaultOutcome outcome) { checkIni(place.root, u"work"_s, u"Settings.ini"_s, outcome); }},
+        {.name = "SkinFile",
+         .prepare = [](FaultPlace& place) { place.root.write(u"work/skin/Skin.ini"_s, oldIni); },
+         .use = useSkinFile,
+         .check = [](FaultPlace& place,
+                     FaultOutcome outcome) { checkIni(place.root, u"work/skin"_s, u"Skin.ini"_s, outcome); },
+         .mayPassOverFlushes = true},
+        {.name = "DownloadWindow",
+         .prepare =
+             [](FaultPlace& place) {
+                 place.service().with([](host::SampleService& service) {
+                     service.site().addPage(u"/made/x.pkg"_s, "application/octet-stream", packageBytes);
+                 });
+             },
+         .use = useDownload,
+         .check = checkDownload,
+         .argument = [](FaultPlace& place) { return place.service().url(u"/made/x.pkg"_s); },
+         .most = 4},
+        {.name = "DownloadTerminal",
+         .prepare = prepareTerminal,
+         .use = useTerminal,
+         .check = checkTerminal,
+         .most = 3},
+        {.name = "Database",
+         .prepare = prepareDatabase,
+         .use = useDatabase,
+         .check = checkDatabase,
+         .most = 3,
+         .mayPassOverFlushes = true},
+    };
+    return paths;
+}
+
+} // namespace varnhold::test
