@@ -16,7 +16,7 @@ namespace {
 
 constexpr int signSide = 12;
 
-enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear, Reload, Clear };
+enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear, Reload, Clear, Up, Down };
 
 Sign signOf(const ButtonEx& button)
 {
@@ -35,6 +35,10 @@ Sign signOf(const ButtonEx& button)
         return Sign::Reload;
     if (name == "cmdClear"_L1)
         return Sign::Clear;
+    if (name == "btnSkinUpDwn(0)"_L1 || name == "btnSkinUpDwn(2)"_L1)
+        return Sign::Down;
+    if (name == "btnSkinUpDwn(1)"_L1 || name == "btnSkinUpDwn(3)"_L1)
+        return Sign::Up;
     return Sign::None;
 }
 
@@ -104,6 +108,14 @@ void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& col
         painter.drawLine(centre + QPointF(-2.5, -2.5), centre + QPointF(2.5, 2.5));
         painter.drawLine(centre + QPointF(-2.5, 2.5), centre + QPointF(2.5, -2.5));
         return;
+    case Sign::Up:
+    case Sign::Down: {
+        const double tip = sign == Sign::Up ? -1.5 : 1.5;
+        painter.setPen(QPen(color, 1.3));
+        painter.drawPolyline(
+            QPolygonF({centre + QPointF(-3, -tip), centre + QPointF(0, tip), centre + QPointF(3, -tip)}));
+        return;
+    }
     case Sign::Menu:
         for (const int top : {-3, 0, 3})
             line(-5, top - 1, 10, 1);

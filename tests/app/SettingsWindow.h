@@ -2,8 +2,10 @@
 
 #include "AppWorld.h"
 
+#include "app/settings/AboutPage.h"
 #include "app/settings/DatabasePage.h"
 #include "app/settings/DownloadPage.h"
+#include "app/settings/ListTextPage.h"
 #include "app/settings/OpacityPage.h"
 #include "app/settings/OptionsPage.h"
 #include "app/settings/SkinChoicePage.h"
@@ -13,6 +15,8 @@
 #include "appearance/SkinPage.h"
 #include "support/FakeFileDialogs.h"
 #include "support/FakePump.h"
+
+#include <QTimer>
 
 namespace varnhold::test {
 
@@ -27,10 +31,13 @@ struct SettingsWindow
           opacity(window.add<OpacityPage>(world.settings)),
           database(window.add<DatabasePage>(world.settings, skinPage))
     {
+        window.add<ListTextPage>(world.settings, world.sounds);
+        window.add<AboutPage>(world.settings, tmr_Scroll);
         window.add<SoundsPage>(world.settings, world.sounds, dialogs);
         window.add<DownloadPage>(world.settings, world.sounds, dialogs, world.root.paths());
     }
 
+    QTimer tmr_Scroll;
     frmSettings window;
     UnwantedPage& unwanted;
     SkinChoicePage& skin;

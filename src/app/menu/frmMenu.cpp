@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -15,10 +16,11 @@ namespace varnhold {
 using namespace Qt::StringLiterals;
 
 frmMenu::frmMenu(const MenuCommands& commands, Sounds& sounds)
-    : m_commands(commands), m_sounds(sounds), m_imgBlank(new QLabel(this))
+    : m_commands(commands), m_sounds(sounds), m_imgBlank(new QLabel(this)), m_scroll(new QTimer(this))
 {
     setObjectName("frmMenu"_L1);
     m_imgBlank->setObjectName("imgBlank"_L1);
+    m_scroll->setObjectName("tmr_Scroll"_L1);
     build();
     connect(&commands, &MenuCommands::bound, this, [this](const QString& name) {
         if (QAction* const found = m_entries.value(name))

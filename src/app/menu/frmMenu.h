@@ -8,6 +8,7 @@
 class QAction;
 class QLabel;
 class QMenu;
+class QTimer;
 
 namespace varnhold {
 
@@ -35,6 +36,8 @@ public:
     void setGlyphs(std::function<void()> attach) { m_attachGlyphs = std::move(attach); }
 
     [[nodiscard]] const QLabel& imgBlank() const { return *m_imgBlank; }
+    /// Scroller of the settings window's credits, switched off at first.
+    [[nodiscard]] QTimer& tmr_Scroll() { return *m_scroll; }
 
 private:
     void build();
@@ -46,6 +49,7 @@ private:
     QHash<QString, QAction*> m_entries;
     std::function<void()> m_attachGlyphs;
     QLabel* m_imgBlank; ///< picture of a title without a cover
+    QTimer* m_scroll;
 };
 
 } // namespace varnhold

@@ -20,8 +20,9 @@ constexpr int orderPitch = 92;
 } // namespace
 
 DatabasePage::DatabasePage(Settings& settings, const SkinPage& skin)
-    : SettingsPage({"frm_Database", u"Database"_s, u"Settings: Database"_s}, settings), m_skin(skin)
+    : SettingsPage({"frm_Database(0)", u"Database"_s, u"Settings: Database"_s}, settings), m_skin(skin)
 {
+    beginHalves({.frame = "frm_Database(1)", .firstButton = 2, .top = 0});
     m_file = addShownText(u"txt_IDList"_s, tr("Database"), {column, 4, controlWidth - 100, rowHeight});
     onRefresh([this] { showTagged(*m_file, this->settings().idList()); });
     ButtonEx* open = addButton(u"btnOpen"_s, u"Database Path"_s, {column + controlWidth - 92, 7, 92, 14});

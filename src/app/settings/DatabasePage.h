@@ -6,7 +6,7 @@ namespace varnhold {
 
 class SkinPage;
 
-/// The database in use, how its list is ordered, and what is stored in it. The lower part is free for the
+/// The database in use, how its list is ordered, and what is stored in it. The lower half is free for the
 /// tables and the id list.
 class DatabasePage : public SettingsPage
 {

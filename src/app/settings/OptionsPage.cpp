@@ -13,12 +13,17 @@ OptionsPage::OptionsPage(Settings& settings)
     : SettingsPage({"frm_Options", u"Options"_s, u"Settings: Options"_s}, settings)
 {
     addCheck("chk_Fade", u"Fade Out"_s, u"On Exit: Fade Out?"_s, Check::Fade, {column, 4});
+    auto* const mirrored = new QCheckBox(u"RighttoLeft"_s, this);
+    mirrored->setObjectName("chk_RighttoLeft"_L1);
+    mirrored->setToolTip(u"Switch ID List box"_s);
+    mirrored->setGeometry(column, 26, controlWidth, rowHeight);
+    connect(mirrored, &QCheckBox::toggled, this, &OptionsPage::rightToLeftChosen);
     addCheck("chk_Exit", u"Exit?"_s, u"Confirm Exit: Are you sure you want to exit?"_s, Check::Exit,
-             {column, 26});
-    addCheck("chk_Edge", u"Edge Detection"_s, u"Window edge detection."_s, Check::Edge, {column, 48});
+             {column, 48});
+    addCheck("chk_Edge", u"Edge Detection"_s, u"Window edge detection."_s, Check::Edge, {column, 70});
     for (int i = 0; i < 2; ++i) {
-        addAutoBox(i, 82 + 22 * i);
-        addWay(i, 130 + 22 * i);
+        addAutoBox(i, 104 + 22 * i);
+        addWay(i, 152 + 22 * i);
     }
 }
 

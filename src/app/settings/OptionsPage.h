@@ -15,6 +15,7 @@ public:
 Q_SIGNALS:
     /// The mouse let go of an Auto box; raised before the box's setting changes.
     void autoSslReleased();
+    void rightToLeftChosen(bool on); ///< chk_RighttoLeft, which is cleared at every start and stored nowhere
 
 private:
     void addAutoBox(int index, int top);

@@ -1,8 +1,10 @@
 #include "app/settings/SettingsPage.h"
 
 #include "controls/ButtonEx/ButtonEx.h"
+#include "platform/ToolTipText.h"
 #include "state/Settings.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -33,10 +35,39 @@ void SettingsPage::refresh()
     m_refreshing = false;
 }
 
+void SettingsPage::beginHalves(const Halves& halves)
+{
+    ButtonEx* const down = addButton(indexed("btnSkinUpDwn", halves.firstButton), tr("Lower half"),
+                                     {column + controlWidth - 44, 196, 20, 14});
+    ButtonEx* const up = addButton(indexed("btnSkinUpDwn", halves.firstButton + 1), tr("Upper half"),
+                                   {column + controlWidth - 20, 196, 20, 14});
+    auto* const window = new QWidget(this); // cuts away the half that does not show
+    window->setGeometry(0, halves.top, column + controlWidth + column, halfHeight);
+    auto* const frame = new QFrame(window);
+    frame->setObjectName(QLatin1StringView(halves.frame));
+    frame->setGeometry(0, 0, window->width(), 2 * halfHeight);
+    m_body = frame;
+    connect(down, &ButtonEx::Click, this, [this] { showHalf(1); });
+    connect(up, &ButtonEx::Click, this, [this] { showHalf(0); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { showHalfOf(now); });
+}
+
+void SettingsPage::showHalf(int half)
+{
+    m_body->move(0, -half * halfHeight);
+}
+
+void SettingsPage::showHalfOf(const QWidget* control)
+{
+    if (control == nullptr || !m_body->isAncestorOf(control))
+        return;
+    showHalf(control->mapTo(m_body, QPoint(0, control->height() / 2)).y() < halfHeight ? 0 : 1);
+}
+
 QCheckBox* SettingsPage::addCheck(const char* name, const QString& caption, const QString& toolTip,
                                   Check check, const QPoint& place)
 {
-    auto* box = new QCheckBox(caption, this);
+    auto* box = new QCheckBox(caption, m_body);
     box->setObjectName(QLatin1StringView(name));
     box->setToolTip(toolTip);
     box->setGeometry(QRect(place, QSize(controlWidth - place.x() + column, rowHeight)));
@@ -51,7 +82,7 @@ QCheckBox* SettingsPage::addCheck(const char* name, const QString& caption, cons
 
 void SettingsPage::addScroll(const Scroll& scroll)
 {
-    auto* bar = new QScrollBar(Qt::Vertical, this);
+    auto* bar = new QScrollBar(Qt::Vertical, m_body);
     bar->setObjectName(scroll.name);
     bar->setAccessibleName(scroll.accessibleName);
     bar->setRange(1, scroll.most);
@@ -71,7 +102,7 @@ void SettingsPage::addScroll(const Scroll& scroll)
 
 ButtonEx* SettingsPage::addButton(const QString& name, const QString& toolTip, const QRect& place)
 {
-    auto* button = new ButtonEx(this);
+    auto* button = new ButtonEx(m_body);
     button->setObjectName(name);
     button->setCaption({});
     button->setToolTip(toolTip);
@@ -82,7 +113,7 @@ ButtonEx* SettingsPage::addButton(const QString& name, const QString& toolTip, c
 
 QLabel* SettingsPage::addLabel(const QString& name, const QString& text, const QRect& place)
 {
-    auto* label = new QLabel(text, this);
+    auto* label = new QLabel(text, m_body);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setGeometry(place);
@@ -98,7 +129,7 @@ QLabel* SettingsPage::addQuietLabel(const QString& text, const QRect& place)
 
 QLineEdit* SettingsPage::addShownText(const QString& name, const QString& accessibleName, const QRect& place)
 {
-    auto* box = new QLineEdit(this);
+    auto* box = new QLineEdit(m_body);
     box->setObjectName(name);
     box->setAccessibleName(accessibleName);
     box->setReadOnly(true);
@@ -109,7 +140,7 @@ QLineEdit* SettingsPage::addShownText(const QString& name, const QString& access
 void SettingsPage::showTagged(QLineEdit& box, const TaggedText& value)
 {
     box.setText(value.text);
-    box.setToolTip(value.tag);
+    box.setToolTip(toolTipText(value.tag));
 }
 
 } // namespace varnhold

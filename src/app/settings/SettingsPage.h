@@ -57,6 +57,18 @@ protected:
 
     SettingsPage(Heading heading, Settings& settings);
 
+    /// What is added from now on stands in a taller frame of two halves, of which one shows at a time; what
+    /// was added before stays where it is. No control may lie across the seam at `halfHeight`.
+    struct Halves
+    {
+        const char* frame;
+        int firstButton; ///< btnSkinUpDwn(firstButton) shows the lower half, the next one the upper
+        int top;         ///< of the part that shows, within the page
+    };
+    static constexpr int halfHeight = 169; ///< 2535 twips
+    void beginHalves(const Halves& halves);
+    void showHalf(int half); ///< 0 upper, 1 lower
+
     [[nodiscard]] Settings& settings() const { return m_settings; }
     /// While controls are filled: they must not write, nor sound.
     [[nodiscard]] bool isRefreshing() const { return m_refreshing; }
@@ -75,8 +87,14 @@ protected:
     /// Shows the text in such a box; the tag becomes its tool tip.
     static void showTagged(QLineEdit& box, const TaggedText& value);
 
+    /// What the next control becomes a child of.
+    [[nodiscard]] QWidget* body() const { return m_body; }
+
 private:
+    void showHalfOf(const QWidget* control);
+
     Heading m_heading;
+    QWidget* m_body = this;
     Settings& m_settings;
     std::vector<std::function<void()>> m_refreshers;
     bool m_refreshing = false;

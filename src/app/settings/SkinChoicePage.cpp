@@ -3,6 +3,7 @@
 #include "appearance/SkinPage.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/SystemColorsUi.h"
+#include "platform/ToolTipText.h"
 #include "state/ApplicationState.h"
 
 #include <QFrame>
@@ -43,7 +44,7 @@ SkinChoicePage::SkinChoicePage(Settings& settings, const SkinPage& skin, const A
     m_choose = addButton(u"btn_Skin_Path"_s, tr("Skin"), {220, 8, 56, 16});
     m_choose->setCaption(tr("Choose"));
     connect(m_choose, &ButtonEx::MouseEnter, this,
-            [this, &state] { m_choose->setToolTip(u"Skin Patch: "_s + state.SkinPath); });
+            [this, &state] { m_choose->setToolTip(toolTipText(u"Skin Patch: "_s + state.SkinPath)); });
     connect(m_choose, &ButtonEx::Click, this,
             [this] { Q_EMIT skinMenuWanted(m_choose->mapToGlobal(QPoint(0, m_choose->height()))); });
     const struct

@@ -1,6 +1,7 @@
 #include "app/settings/UnwantedPage.h"
 
 #include "platform/MessagePump.h"
+#include "platform/ToolTipText.h"
 #include "state/Settings.h"
 #include "state/WaitLoop.h"
 
@@ -62,7 +63,7 @@ void UnwantedPage::onTextChanged()
 
 void UnwantedPage::updateTips()
 {
-    const QString tip = u"Remove Unwanted: "_s + m_text->toPlainText();
+    const QString tip = toolTipText(u"Remove Unwanted: "_s + m_text->toPlainText());
     m_text->setToolTip(tip);
     m_remove->setToolTip(tip);
 }

@@ -31,8 +31,8 @@ constexpr int listRow = 20;
 constexpr QRect pagePlace{108, 28, 284, 212};
 
 // The pages in their order, whoever adds them first.
-constexpr const char* pageOrder[] = {"frm_Covers",   "frm_Database", "frm_Download", "frm_Listtext",
-                                     "frm_Opacity",  "frm_Options",  "frm_Skin(0)",  "frm_Sound",
+constexpr const char* pageOrder[] = {"frm_Covers",   "frm_Database(0)", "frm_Download", "frm_Listtext",
+                                     "frm_Opacity",  "frm_Options",     "frm_Skin(0)",  "frm_Sound",
                                      "frm_Unwanted", "frm_About"};
 
 auto placeOf(const SettingsPage& page)

@@ -90,6 +90,85 @@ TEST_F(FrmSettings, WritesEachBoxWithItsClick)
     }
 }
 
+TEST_F(FrmSettings, SoundsMakesTheSampleAndWritesForEachLineOfTheReport)
+{
+    for (int i = 0; i < 7; ++i)
+        setCheck(static_cast<Check>(static_cast<int>(Check::ListText0) + i), false);
+    openPage(u"List>Text"_s);
+    const auto& sample = child<QLabel>(window, "lblExample");
+    EXPECT_EQ(sample.text(), QString()) << "made anew after the load";
+    const QStringList lines{u"BCUS10001-[Example Game]"_s,
+                            u"01.01"_s,
+                            u"03.4100"_s,
+                            u"1.72 MB (1805056 bytes)"_s,
+                            u"000a000000a00a0aaa0000000aaaa0"_s,
+                            u"http://LINK.TO.PKG"_s};
+    for (int i = 0; i < 6; ++i) {
+        player.played.clear();
+        click(qPrintable(u"chk_ListText(%1)"_s.arg(i)));
+        EXPECT_EQ(player.played, QStringList{u"0"_s});
+        EXPECT_EQ(sample.text(), lines.first(i + 1).join(u"\r\n"_s));
+        EXPECT_EQ(stored(u"ListText%1"_s.arg(i)), u"1"_s);
+    }
+    click("chk_ListText(6)");
+    EXPECT_TRUE(sample.text().endsWith(u"Link:\thttp://LINK.TO.PKG"_s));
+    EXPECT_EQ(child(window, "chk_ListText(6)").toolTip(),
+              u"Show front text \"PKg ver, Sys Ver, Size, SHA1, Link\""_s);
+}
+
+TEST_F(FrmSettings, ScrollsTheCreditsWhileTheyShow)
+{
+    const QTimer& timer = all.tmr_Scroll;
+    openPage(u"Sounds"_s);
+    EXPECT_FALSE(timer.isActive());
+    openPage(u"About"_s);
+    EXPECT_TRUE(timer.isActive());
+    EXPECT_GE(timer.interval(), 16) << "at most 64 steps a second";
+    const QWidget& scroll = child(window, "lblScroll");
+    const QWidget& endUser = child(window, "lblEndUser");
+    EXPECT_EQ(scroll.y(), 94);
+    QTest::qWait(200);
+    EXPECT_LT(scroll.y(), 94);
+    EXPECT_EQ(endUser.y(), scroll.geometry().bottom() + 1);
+    window.hide();
+    EXPECT_FALSE(timer.isActive());
+    window.open({100, 100});
+    EXPECT_TRUE(timer.isActive()) << "it opens on the same page";
+    openPage(u"Opacity"_s);
+    EXPECT_FALSE(timer.isActive());
+}
+
+TEST_F(FrmSettings, ShowsATallPageInTwoHalves)
+{
+    openPage(u"Database"_s);
+    const QWidget& frame = child(window, "frm_Database(1)");
+    const auto click = [this](const char* name) { QTest::mouseClick(&child(window, name), Qt::LeftButton); };
+    EXPECT_EQ(frame.y(), 0);
+    click("btnSkinUpDwn(2)");
+    EXPECT_EQ(frame.y(), -169);
+    window.hide();
+    window.open({100, 100});
+    EXPECT_EQ(frame.y(), -169) << "the half stays";
+    QApplication::setActiveWindow(&window);
+    child(window, "chk_Icons").setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(frame.y(), 0) << "what has the focus shows";
+    click("btnSkinUpDwn(2)");
+    click("btnSkinUpDwn(3)");
+    EXPECT_EQ(frame.y(), 0);
+}
+
+TEST_F(FrmSettings, MirrorsTheIdsWithoutWritingAnything)
+{
+    openPage(u"Options"_s);
+    const QSignalSpy mirrored(&all.options, &OptionsPage::rightToLeftChosen);
+    click("chk_Fade");
+    const QByteArray before = root.read(u"Settings.ini"_s);
+    click("chk_RighttoLeft");
+    click("chk_RighttoLeft");
+    EXPECT_EQ(mirrored, (QList<QVariantList>{{true}, {false}}));
+    EXPECT_EQ(root.read(u"Settings.ini"_s), before);
+}
+
 TEST_F(FrmSettings, WritesEachScrollBarAsItTurns)
 {
     settings.unwrittenValues().orders = {1, 1, 1};
@@ -143,7 +222,7 @@ TEST_F(FrmSettings, ShowsTheDatabaseAndAsksForOne)
     QWidget owner;
     window.showPageOver(owner, all.database);
     window.showCaption(u"ReName"_s);
-    EXPECT_TRUE(child(window, "frm_Database").isVisible());
+    EXPECT_TRUE(child(window, "frm_Database(0)").isVisible());
     EXPECT_EQ(child<QListWidget>(window, "List1").currentItem()->text(), u"Database"_s);
     EXPECT_EQ(child<QLabel>(window, "lbl_Caption").text(), u"ReName"_s);
     EXPECT_FALSE(window.isModal());
@@ -256,24 +335,25 @@ TEST_F(FrmSettings, ShowsOnePageAtATime)
 {
     QStringList shown;
     QStringList captions;
-    for (const QString& page :
-         {u"Database"_s, u"Download"_s, u"Opacity"_s, u"Options"_s, u"Skin"_s, u"Sounds"_s, u"UnWanted"_s}) {
+    for (const QString& page : {u"Database"_s, u"Download"_s, u"List>Text"_s, u"Opacity"_s, u"Options"_s,
+                                u"Skin"_s, u"Sounds"_s, u"UnWanted"_s, u"About"_s}) {
         player.played.clear();
         openPage(page);
         EXPECT_EQ(player.played, QStringList{u"0"_s});
         captions << child<QLabel>(window, "lbl_Caption").text();
         for (const QFrame* frame : window.findChildren<QFrame*>(QRegularExpression(u"^frm_"_s))) {
-            if (frame->isVisible())
+            if (frame->isVisible() && frame->parent() == &window)
                 shown << frame->objectName();
         }
     }
     EXPECT_EQ(shown,
-              u"frm_Database frm_Download frm_Opacity frm_Options frm_Skin(0) frm_Sound frm_Unwanted"_s.split(
-                  u' '));
+              u"frm_Database(0) frm_Download frm_Listtext frm_Opacity frm_Options frm_Skin(0) frm_Sound "
+              "frm_Unwanted frm_About"_s.split(u' '));
     EXPECT_EQ(captions.removeDuplicates(), 0);
-    EXPECT_EQ(captions.last(), u"Settings: ReMove Un-Wanted strings"_s);
+    EXPECT_EQ(captions[2], u"Settings: List to Text"_s);
+    EXPECT_EQ(captions.last(), u"Settings: About "_s);
     QTest::keyClick(&child(window, "List1"), Qt::Key_Up);
-    EXPECT_TRUE(child(window, "frm_Sound").isVisible());
+    EXPECT_TRUE(child(window, "frm_Unwanted").isVisible());
 }
 
 } // namespace varnhold::test

@@ -61,7 +61,7 @@ protected:
         EXPECT_TRUE(settingsWindow.isVisible());
         EXPECT_EQ(settingsWindow.pos(), main.pos());
         EXPECT_EQ(settingsWindow.windowHandle()->transientParent(), main.windowHandle());
-        EXPECT_TRUE(child(settingsWindow, "frm_Database").isVisible());
+        EXPECT_TRUE(child(settingsWindow, "frm_Database(0)").isVisible());
         EXPECT_TRUE(main.isVisible()) << "the start goes on";
         EXPECT_EQ(splash, nullptr);
         EXPECT_EQ(ids(), QStringList());
