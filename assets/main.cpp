@@ -1,6 +1,7 @@
 // Makes what is delivered beside the programs: skins, sounds and the game database.
 
 #include "ContactSheet.h"
+#include "CoverFiles.h"
 #include "DatabaseFile.h"
 #include "Delivery.h"
 
@@ -23,6 +24,7 @@ using namespace varnhold::assets;
 int usage()
 {
     std::cerr << "usage: varnhold-assets DIR TITLES        writes DIR/skin, DIR/wav and DIR/GameDB.mdb\n"
+                 "       varnhold-assets --service DIR TITLES     writes DIR/covers and DIR/scans\n"
                  "       varnhold-assets --sheet FILE.png [ZOOM]     all pictures of the skins on one sheet\n"
                  "       varnhold-assets --covers FILE.png TITLES    all covers on one sheet\n";
     return 2;
@@ -73,15 +75,20 @@ int main(int argc, char** argv)
     if (argc >= 3 && argc <= 4 && std::strcmp(argv[1], "--sheet") == 0)
         return writeSheet(argv[2], argc == 4 ? argv[3] : "1");
     const bool covers = argc == 4 && std::strcmp(argv[1], "--covers") == 0;
-    if (!covers && (argc != 3 || argv[1][0] == '-'))
+    const bool service = argc == 4 && std::strcmp(argv[1], "--service") == 0;
+    if (!covers && !service && (argc != 3 || argv[1][0] == '-'))
         return usage();
-    const char* target = covers ? argv[2] : argv[1];
+    const char* target = argc == 4 ? argv[2] : argv[1];
     const char* list = argv[argc - 1];
     const char* at = list;
     try {
         const std::vector<Title> titles = titlesOf(list);
         if (covers)
             return save(coverSheet(titles), target);
+        if (service) {
+            writeCoverFiles(titles, QString::fromLocal8Bit(target));
+            return 0;
+        }
         const DeliveredFile database{"GameDB.mdb", databaseFile(titles)};
         at = target;
         for (const SkinDesign& design : skinDesigns())

@@ -2,12 +2,15 @@
 
 #include "CoverScenes.h"
 #include "Lettering.h"
+#include "Surface.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 
 namespace varnhold::assets {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -90,7 +93,7 @@ std::span<const CoverInks> coverInks()
     return inkSets;
 }
 
-Picture drawCover(const CoverOrder& order)
+Picture drawCover(const CoverOrder& order, int height)
 {
     const CoverInks* inks = called<CoverInks>(order.inks, inkSets);
     const CoverScene* scene = called<CoverScene>(order.scene, landscapes());
@@ -99,15 +102,39 @@ Picture drawCover(const CoverOrder& order)
     if (inks == nullptr || scene == nullptr)
         throw std::runtime_error("there is no cover " + order.scene.toStdString() + ' ' +
                                  order.inks.toStdString());
-    CoverCanvas canvas(*inks, seedOf(order));
+    CoverCanvas canvas(*inks, seedOf(order), height);
     scene->draw(canvas);
     if (canvas.random(2) == 0)
         canvas.mirror();
     canvas.grain();
-    const int end = drawLettering(canvas, order.lettering, letteringArea, inks->letter);
-    canvas.box(letteringArea.x - 1, end + 11, 34, 2.5, inks->light);
+    // A title in a script that the series has no letters for stands without.
+    if (!order.lettering.isEmpty()) {
+        const int end = drawLettering(canvas, order.lettering, letteringArea, inks->letter);
+        canvas.box(letteringArea.x - 1, end + 11, 34, 2.5, inks->light);
+    }
     frame(canvas);
     return canvas.take();
+}
+
+CoverOrder coverOrderFor(const QString& id, const QString& name)
+{
+    CoverOrder order;
+    const std::uint32_t seed = seedOf({{}, id, {}});
+    const auto pick = [&](const auto& set, std::uint32_t salt) {
+        const auto at = static_cast<std::size_t>(noiseAt(seed, static_cast<int>(salt), 0)) % std::size(set);
+        const std::string_view found = (std::data(set) + at)->name;
+        return QString::fromLatin1(found.data(), static_cast<qsizetype>(found.size()));
+    };
+    order.scene = noiseAt(seed, 3, 0) % 2 == 0 ? pick(landscapes(), 1) : pick(works(), 1);
+    order.inks = pick(inkSets, 2);
+    for (const QString& word : drawableText(name).split(u' ', Qt::SkipEmptyParts)) {
+        constexpr qsizetype lineLength = 9;
+        if (!order.lettering.isEmpty() && order.lettering.last().size() + word.size() < lineLength)
+            order.lettering.last() += u' ' + word;
+        else
+            order.lettering.append(word);
+    }
+    return order;
 }
 
 } // namespace varnhold::assets

@@ -9,17 +9,19 @@ namespace varnhold::assets {
 
 namespace {
 
-constexpr int unit = 256;        ///< of a stroke's place, a pixel
-constexpr int samplesAcross = 4; ///< of a pixel
-constexpr int samples = samplesAcross * samplesAcross;
+constexpr int unit = 256; ///< of a stroke's place, a pixel
+/// Samples of a pixel across and down; a large picture's pixels are small enough for fewer.
+constexpr int mostSamples = 4;
+constexpr int leastSamples = 2;
 
 struct Extent
 {
     int from = 0;
-    int to = 0; ///< the first pixel behind it
+    int to = 0;
 };
 
-Extent extentOf(const Stroke& stroke, int Point::*axis, int end)
+/// The least and the greatest place of a stroke along an axis.
+Extent extentOf(const Stroke& stroke, int Point::*axis)
 {
     int low = std::numeric_limits<int>::max();
     int high = std::numeric_limits<int>::min();
@@ -28,7 +30,7 @@ Extent extentOf(const Stroke& stroke, int Point::*axis, int end)
         high = std::max(high, point.*axis);
     }
     const int reach = std::max(stroke.radius, stroke.width);
-    return {std::clamp((low - reach) / unit - 1, 0, end), std::clamp((high + reach) / unit + 2, 0, end)};
+    return {low - reach, high + reach};
 }
 
 } // namespace
@@ -41,9 +43,22 @@ int sineOf(int turn)
     return (turn & 128) != 0 ? -sine : sine;
 }
 
-CoverCanvas::CoverCanvas(const CoverInks& inksUsed, std::uint32_t seed)
-    : inks(inksUsed), m_picture(coverSize, inksUsed.skyLow), m_seed(seed)
+CoverCanvas::CoverCanvas(const CoverInks& inksUsed, std::uint32_t seed, int height)
+    : inks(inksUsed),
+      m_picture({(coverSize.width * height + coverSize.height / 2) / coverSize.height, height},
+                inksUsed.skyLow),
+      m_seed(seed)
 {
+}
+
+std::int64_t CoverCanvas::scaled(std::int64_t place) const
+{
+    return place * m_picture.height() / coverSize.height;
+}
+
+std::int64_t CoverCanvas::placeOf(std::int64_t pixel) const
+{
+    return pixel * coverSize.height / m_picture.height();
 }
 
 int CoverCanvas::random(int below)
@@ -61,26 +76,41 @@ void CoverCanvas::sky()
 {
     // Dark for long, so that the lettering stands out, then quickly lighter towards the horizon.
     constexpr int whole = coverSize.height * coverSize.height;
-    for (int y = 0; y < coverSize.height; ++y) {
-        for (int x = 0; x < coverSize.width; ++x)
-            m_picture.set(x, y, ditheredMix(inks.skyTop, inks.skyLow, y * y, whole, x, y));
+    for (int y = 0; y < m_picture.height(); ++y) {
+        const int part = static_cast<int>(placeOf(placeOf(std::int64_t{y} * y)));
+        for (int x = 0; x < m_picture.width(); ++x)
+            m_picture.set(x, y, ditheredMix(inks.skyTop, inks.skyLow, part, whole, x, y));
     }
 }
 
 void CoverCanvas::lay(const Stroke& stroke)
 {
-    const Extent across = extentOf(stroke, &Point::x, coverSize.width);
-    const Extent down = extentOf(stroke, &Point::y, coverSize.height);
-    const auto place = [](int pixel, int sample) {
-        return pixel * unit + (2 * sample + 1) * unit / (2 * samplesAcross);
+    const int across = m_picture.height() > 2 * coverSize.height ? leastSamples : mostSamples;
+    const auto pixels = [&](int Point::*axis, int end) {
+        const Extent extent = extentOf(stroke, axis);
+        return Extent{std::clamp(static_cast<int>(scaled(extent.from) / unit) - 1, 0, end),
+                      std::clamp(static_cast<int>(scaled(extent.to) / unit) + 2, 0, end)};
     };
-    for (int y = down.from; y < down.to; ++y) {
-        for (int x = across.from; x < across.to; ++x) {
+    const Extent columns = pixels(&Point::x, m_picture.width());
+    const Extent rows = pixels(&Point::y, m_picture.height());
+    const auto place = [&](int pixel, int sample) {
+        return static_cast<int>(placeOf(pixel * unit + (2 * sample + 1) * unit / (2 * across)));
+    };
+    std::vector<int> places; // of the columns' samples
+    for (int x = columns.from; x < columns.to; ++x)
+        for (int sample = 0; sample < across; ++sample)
+            places.push_back(place(x, sample));
+    for (int y = rows.from; y < rows.to; ++y) {
+        for (int x = columns.from; x < columns.to; ++x) {
+            const int* const first = &places[static_cast<std::size_t>((x - columns.from) * across)];
             int covered = 0;
-            for (int i = 0; i < samples; ++i)
-                covered += stroke.covers(place(x, i % samplesAcross), place(y, i / samplesAcross)) ? 1 : 0;
+            for (int i = 0; i < across; ++i) {
+                const int sampleY = place(y, i);
+                for (int j = 0; j < across; ++j)
+                    covered += stroke.covers(first[j], sampleY) ? 1 : 0;
+            }
             if (covered > 0)
-                blend(x, y, stroke.color, covered, samples);
+                blend(x, y, stroke.color, covered, across * across);
         }
     }
 }
@@ -112,10 +142,15 @@ void CoverCanvas::shape(std::initializer_list<Point> points, Color color)
 
 void CoverCanvas::glow(int x, int y, int radius, Color color, int percent)
 {
+    const auto pixel = [&](int place, int end) {
+        return std::clamp(static_cast<int>(scaled(place)), 0, end);
+    };
     const int reach = radius * radius;
-    for (int py = std::max(0, y - radius); py < std::min(coverSize.height, y + radius); ++py) {
-        for (int px = std::max(0, x - radius); px < std::min(coverSize.width, x + radius); ++px) {
-            const int left = reach - (px - x) * (px - x) - (py - y) * (py - y);
+    for (int py = pixel(y - radius, m_picture.height()); py < pixel(y + radius, m_picture.height()); ++py) {
+        for (int px = pixel(x - radius, m_picture.width()); px < pixel(x + radius, m_picture.width()); ++px) {
+            const std::int64_t dx = placeOf(std::int64_t{px} * unit) - x * unit;
+            const std::int64_t dy = placeOf(std::int64_t{py} * unit) - y * unit;
+            const int left = reach - static_cast<int>((dx * dx + dy * dy) / (unit * unit));
             if (left > 0)
                 blend(px, py, faint(color, percent), left / radius * (left / radius), reach);
         }
@@ -124,15 +159,22 @@ void CoverCanvas::glow(int x, int y, int radius, Color color, int percent)
 
 void CoverCanvas::below(const Height& height, Color top, Color bottom)
 {
+    const int pictureHeight = m_picture.height();
     std::vector<int> edge;
-    for (int x = 0; x < coverSize.width; ++x)
-        edge.push_back(Point::units(height(x)));
+    for (int x = 0; x < m_picture.width(); ++x) {
+        const std::int64_t place = placeOf(std::int64_t{x} * unit);
+        const int left = static_cast<int>(place / unit);
+        const std::int64_t part = place % unit;
+        const std::int64_t from = Point::units(height(left));
+        const std::int64_t to = part == 0 ? from : Point::units(height(left + 1));
+        edge.push_back(static_cast<int>(scaled((from * (unit - part) + to * part) / unit)));
+    }
     const int highest = *std::min_element(edge.begin(), edge.end()) / unit;
-    for (int x = 0; x < coverSize.width; ++x) {
+    for (int x = 0; x < m_picture.width(); ++x) {
         const int line = edge[static_cast<std::size_t>(x)];
-        for (int y = std::max(0, line / unit); y < coverSize.height; ++y) {
+        for (int y = std::max(0, line / unit); y < pictureHeight; ++y) {
             const Color color =
-                ditheredMix(top, bottom, y - std::min(y, highest), coverSize.height - highest, x, y);
+                ditheredMix(top, bottom, y - std::min(y, highest), pictureHeight - highest, x, y);
             blend(x, y, color, std::clamp((y + 1) * unit - line, 0, unit), unit);
         }
     }
@@ -162,19 +204,19 @@ CoverCanvas::Height CoverCanvas::swell(double base, double swing, int period, in
 
 void CoverCanvas::mirror()
 {
-    for (int y = 0; y < coverSize.height; ++y) {
-        for (int x = 0; x < coverSize.width / 2; ++x) {
+    for (int y = 0; y < m_picture.height(); ++y) {
+        for (int x = 0; x < m_picture.width() / 2; ++x) {
             const Color left = m_picture.at(x, y);
-            m_picture.set(x, y, m_picture.at(coverSize.width - 1 - x, y));
-            m_picture.set(coverSize.width - 1 - x, y, left);
+            m_picture.set(x, y, m_picture.at(m_picture.width() - 1 - x, y));
+            m_picture.set(m_picture.width() - 1 - x, y, left);
         }
     }
 }
 
 void CoverCanvas::grain()
 {
-    for (int y = 0; y < coverSize.height; ++y) {
-        for (int x = 0; x < coverSize.width; ++x)
+    for (int y = 0; y < m_picture.height(); ++y) {
+        for (int x = 0; x < m_picture.width(); ++x)
             m_picture.set(x, y, shifted(m_picture.at(x, y), noiseAt(m_seed, x, y) * 5 / 65536 - 2));
     }
 }

@@ -31,13 +31,15 @@ constexpr Color faint(Color color, int percent)
 /// 1024 times the sine of `turn` 256ths of a full turn, the same on every machine.
 int sineOf(int turn);
 
-/// A cover under work. Places are pixels from the top left; later things lie above earlier ones.
+/// A cover under work. Places are pixels of a cover of the usual size from the top left, however large the
+/// picture is; later things lie above earlier ones.
 class CoverCanvas
 {
 public:
     using Height = std::function<double(int x)>;
 
-    CoverCanvas(const CoverInks& inks, std::uint32_t seed);
+    /// `height`: of the picture in pixels.
+    CoverCanvas(const CoverInks& inks, std::uint32_t seed, int height = coverSize.height);
 
     const CoverInks& inks;
 
@@ -66,6 +68,9 @@ public:
     Picture take() { return std::move(m_picture); }
 
 private:
+    /// From a place, in any unit, to the picture's pixels in that unit, and back.
+    [[nodiscard]] std::int64_t scaled(std::int64_t place) const;
+    [[nodiscard]] std::int64_t placeOf(std::int64_t pixel) const;
     void blend(int x, int y, Color color, int part, int whole);
 
     Picture m_picture;

@@ -110,6 +110,23 @@ int hexDigit(char digit)
 
 } // namespace
 
+QString drawableText(const QString& text)
+{
+    QString drawable;
+    int count = 0;
+    bool kept = false; // the letter that a mark would stand over
+    for (const QChar sign : text.toUpper().normalized(QString::NormalizationForm_D)) {
+        const bool isMark = letterFor(marks, sign) != nullptr;
+        if (!isMark)
+            kept = letterFor(letters, sign) != nullptr;
+        if (kept)
+            drawable += sign;
+        count += kept && sign.isLetter() ? 1 : 0;
+    }
+    constexpr int leastLetters = 3;
+    return count < leastLetters ? QString() : drawable.normalized(QString::NormalizationForm_C).simplified();
+}
+
 int drawLettering(CoverCanvas& canvas, const QStringList& lines, const Area& area, Color color)
 {
     std::vector<std::vector<Placed>> rows;

@@ -24,6 +24,8 @@ constexpr std::array<QStringView, 5> withoutUpdates = {
     u"BLAS50579", u"BLES07302", u"BLUS40117", u"HMBR12345", u"NPUB31452",
 };
 
+constexpr std::array<QStringView, 3> withoutCovers = {u"QQLA00042", u"XVHD00017", u"ZTST90001"};
+
 /// Small numbers that follow from a text, one after the other.
 class Numbers
 {
@@ -123,6 +125,11 @@ const std::vector<SampleTitle>& knownTitles()
         return all;
     }();
     return titles;
+}
+
+bool hasCover(const QString& id)
+{
+    return std::ranges::find(withoutCovers, QStringView(id)) == withoutCovers.end();
 }
 
 QByteArray madeUpIdList(int count)

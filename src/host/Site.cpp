@@ -2,6 +2,7 @@
 
 #include "host/Cover.h"
 #include "host/UpdateXml.h"
+#include "platform/ReadFile.h"
 
 #include <QFutureWatcher>
 #include <QPointer>
@@ -160,9 +161,18 @@ Reply Site::page(const QString& path, const QByteArray& query, const QByteArray&
     // Covers lie in any folder, under the name of a title that there is.
     const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
     for (const SampleTitle& title : m_titles)
-        if (name.compare(title.id + u".jpg"_s, Qt::CaseInsensitive) == 0)
-            return bytesReply("image/jpeg", coverJpeg(title.id));
+        if (hasCover(title.id) && name.compare(title.id + u".jpg"_s, Qt::CaseInsensitive) == 0)
+            return bytesReply("image/jpeg", cover(title.id, path.startsWith(u"/scans/")));
     return statusReply(404);
+}
+
+QByteArray Site::cover(const QString& id, bool scan) const
+{
+    constexpr qint64 largest = 8 * 1024 * 1024;
+    const QString folder = scan ? u"/scans/"_s : u"/covers/"_s;
+    const FileBytes drawn =
+        m_coverFolder.isEmpty() ? FileBytes() : tryReadFile(m_coverFolder + folder + id + u".jpg"_s, largest);
+    return drawn.isRead ? drawn.bytes : coverJpeg(id);
 }
 
 /// The covers whose title or id holds what the query's "q" asks for.
@@ -176,7 +186,7 @@ QByteArray Site::imagesPage(const QByteArray& query) const
     QString found;
     int count = 0;
     for (const SampleTitle& title : m_titles) {
-        if (text.isEmpty() || count == mostImages ||
+        if (text.isEmpty() || count == mostImages || !hasCover(title.id) ||
             !(title.name.contains(text, Qt::CaseInsensitive) || title.id.contains(text, Qt::CaseInsensitive)))
             continue;
         ++count;

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] const std::vector<SampleTitle>& titles() const { return m_titles; }
     /// The version file, as it is.
     void setVersionText(const QByteArray& text) { m_versionText = text; }
+    /// Where the pictures of covers lie, in `covers` and `scans`; a cover that is not there is made up.
+    void setCoverFolder(const QString& folder) { m_coverFolder = folder; }
     /// The list of ids, as it is, in the place of the one of all titles.
     void setIdList(const QByteArray& list) { m_idList = list; }
 
@@ -49,6 +51,7 @@ private:
     [[nodiscard]] Reply page(const QString& path, const QByteArray& query, const QByteArray& origin) const;
     [[nodiscard]] QByteArray imagesPage(const QByteArray& query) const;
     [[nodiscard]] QByteArray idList() const;
+    [[nodiscard]] QByteArray cover(const QString& id, bool scan) const;
 
     std::vector<SampleTitle> m_titles;
     QHash<QString, Found> m_paths;
@@ -56,6 +59,7 @@ private:
     QHash<QString, QFuture<std::vector<PackageSums>>> m_sums; ///< by id, as far as they were asked for
     QByteArray m_versionText;
     std::optional<QByteArray> m_idList;
+    QString m_coverFolder;
 };
 
 } // namespace varnhold::host

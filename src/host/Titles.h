@@ -46,6 +46,9 @@ const std::vector<SampleTitle>& oddTitles();
 /// packages that follow from its id. Some of these have none, and no document.
 const std::vector<SampleTitle>& knownTitles();
 
+/// Delivered titles have covers, but for a few.
+bool hasCover(const QString& id);
+
 /// Lines of an id list, made up: the same ones for each count, and the first ones of a longer list.
 QByteArray madeUpIdList(int count);
 

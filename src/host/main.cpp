@@ -6,6 +6,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -36,6 +37,17 @@ quint16 portOf(const QString& text)
     if (!ok)
         throw Usage{u"\"%1\" is not a port number."_s.arg(text)};
     return port;
+}
+
+/// Beside the program in a build, else where it is installed; empty when they are nowhere.
+QString coverFolder()
+{
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const QString& folder :
+         {u"/../share"_s, u"/../share/varnhold-host"_s, u"/../../share/varnhold-host"_s})
+        if (QFileInfo(program + folder + u"/covers"_s).isDir())
+            return program + folder;
+    return {};
 }
 
 int idCount(const QString& text)
@@ -144,6 +156,7 @@ int main(int argc, char** argv)
             quitWithStandardInput();
         SampleService service;
         configure(service, options);
+        service.site().setCoverFolder(coverFolder());
         service.preferPort(usualPort);
         service.start(portOf(options.value(u"port"_s)), portOf(options.value(u"https-port"_s)),
                       options.value(u"ca-file"_s));

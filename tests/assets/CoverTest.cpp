@@ -89,4 +89,23 @@ TEST(Covers, LetteringKeepsWithinItsPlace)
     }
 }
 
+TEST(Covers, AreTheSamePictureAtEverySize)
+{
+    for (const char16_t* const title :
+         {u"Straße 3: Über Łódź", u"\u706f\u53f0\u306e\u5cac", u"E\u0301", u"A  B-C"}) {
+        const assets::CoverOrder order = assets::coverOrderFor(u"BLUS30443"_s, QString::fromUtf16(title));
+        const assets::Picture small = assets::drawCover(order);
+        const assets::Picture large = assets::drawCover(order, 4 * assets::coverSize.height);
+        ASSERT_EQ(large.size(), (assets::Size{4 * small.width(), 4 * small.height()}));
+        int differing = 0;
+        for (int y = 0; y < small.height(); ++y) {
+            for (int x = 0; x < small.width(); ++x) {
+                const int other = assets::greenOf(large.at(4 * x + 2, 4 * y + 2));
+                differing += qAbs(assets::greenOf(small.at(x, y)) - other) > 24 ? 1 : 0;
+            }
+        }
+        EXPECT_LT(differing, small.width() * small.height() / 25); // at edges
+    }
+}
+
 } // namespace varnhold::test
