@@ -100,7 +100,7 @@ void frm_Winsock::build()
     const int inner = windowSize.width() - 2 * margin;
     const int values = windowSize.width() - valueLeft - margin;
     m_lblCaption = addLabel("lblCaption", {margin, 3, inner - 20, 16});
-    m_lblCaption->setAccessibleName(tr("Progress of the download"));
+    m_lblCaption->setAccessibleDescription(tr("Progress of the download")); // its name is its text
     auto* drag =
         new CaptionDrag(*this, m_services.screen,
                         {.store = {},

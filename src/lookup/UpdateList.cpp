@@ -1,5 +1,6 @@
 #include "lookup/UpdateList.h"
 
+#include "lookup/UpdateListTip.h"
 #include "platform/RunTimeError.h"
 
 #include <functional>
@@ -211,6 +212,8 @@ QVariant UpdateList::data(const QModelIndex& index, int role) const
         return {};
     case IconKeyRole:
         return column == 0 ? mark.icon : column == Version ? mark.reportIcon : QString();
+    case Qt::AccessibleDescriptionRole:
+        return iconMeaning(mark.icon);
     default:
         return {};
     }

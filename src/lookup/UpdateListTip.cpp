@@ -2,6 +2,8 @@
 
 #include "lookup/UpdateList.h"
 
+#include <utility>
+
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,22 @@ QString updateListTip(const UpdateList& list, int row)
            list.subItem(row, UpdateList::Version) + u"\r\n§ize:                      "_s +
            list.subItem(row, UpdateList::Size) + u"\r\nUrl:                        "_s +
            list.subItem(row, UpdateList::Url);
+}
+
+QString iconMeaning(const QString& key)
+{
+    const std::pair<QLatin1StringView, QString> meanings[] = {
+        {"pkg"_L1, u"Not on disk"_s},
+        {"pkg-plus"_L1, u"On disk"_s},
+        {"pkg-red"_L1, u"On disk, but incomplete or of another size"_s},
+        {"plus"_L1, u"Marked as downloaded"_s},
+        {"pkg-dl"_L1, u"Download started"_s},
+    };
+    for (const auto& [name, meaning] : meanings) {
+        if (key == name)
+            return meaning;
+    }
+    return {};
 }
 
 } // namespace varnhold

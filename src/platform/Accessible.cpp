@@ -22,7 +22,7 @@ public:
 
 Traits* traitsOf(const QObject& control)
 {
-    return control.findChild<Traits*>(Qt::FindDirectChildrenOnly);
+    return control.findChild<Traits*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 class Interface : public QAccessibleWidget, public QAccessibleValueInterface
@@ -101,6 +101,9 @@ void tellAssistiveTools(QWidget& control, AccessibleTraits traits)
         known->given = std::move(traits);
     else
         new Traits(control, std::move(traits));
+    // A tool that listens has met the control with its name already, as a bare widget.
+    if (QAccessibleInterface* const met = QAccessible::queryAccessibleInterface(&control))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(met));
 }
 
 } // namespace varnhold

@@ -22,12 +22,11 @@ struct AccessibleTraits
     };
 
     QAccessible::Role role = QAccessible::Client;
-    std::function<void()> press; ///< what a click does; null for a control that takes none
-    std::optional<Value> value;
+    std::function<void()> press = {}; ///< what a click does; null for a control that takes none
+    std::optional<Value> value = {};
 };
 
-/// Tells assistive tools what the control is. Best said while it is built: what a tool has asked for once, it
-/// keeps. Name and description are the widget's own. A press is answered at once and done afterwards, since
+/// Tells assistive tools what the control is; to be said while it is built. Name and description are the widget's own. A press is answered at once and done afterwards, since
 /// it may open a box, and the caller would wait for its end.
 void tellAssistiveTools(QWidget& control, AccessibleTraits traits);
 

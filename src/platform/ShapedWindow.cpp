@@ -1,5 +1,6 @@
 #include "platform/ShapedWindow.h"
 
+#include "platform/Accessible.h"
 #include "platform/Wayland.h"
 
 #include <QGuiApplication>
@@ -15,6 +16,7 @@ ShapedWindow::ShapedWindow(QWidget* owner, Qt::WindowFlags extra)
     : QWidget(owner, (owner == nullptr ? Qt::Window : Qt::Dialog) | Qt::FramelessWindowHint |
                          Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | extra)
 {
+    tellAssistiveTools(*this, {.role = owner == nullptr ? QAccessible::Window : QAccessible::Dialog});
     if (onWayland()) // what is cut away is left blank; on X11 that would be black without a compositor
         setAttribute(Qt::WA_TranslucentBackground);
 }

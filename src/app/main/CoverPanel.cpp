@@ -2,6 +2,7 @@
 
 #include "covers/CoverBox.h"
 #include "covers/FitPreviewImage.h"
+#include "platform/Accessible.h"
 #include "platform/ReadFile.h"
 #include "state/Paths.h"
 #include "state/Sounds.h"
@@ -18,6 +19,8 @@ CoverPanel::CoverPanel(Parts parts, const Paths& paths, Sounds& sounds)
     : m_parts(std::move(parts)), m_paths(paths), m_sounds(sounds)
 {
     connect(&m_parts.PicPreview, &CoverBox::activated, this, &CoverPanel::onClick);
+    for (CoverBox* const box : {&m_parts.PicPreview, &m_parts.imgPreview})
+        tellAssistiveTools(*box, {.role = QAccessible::Graphic, .press = [this] { onClick(); }});
     connect(&m_parts.PicPreview, &CoverBox::menuWanted, this, &CoverPanel::mnuImageWanted);
 }
 

@@ -7,7 +7,7 @@ class QWidget;
 namespace varnhold {
 
 /// A column of the main window: a control, a bar that divides the column, a control below it. The bar is
-/// dragged with the left button.
+/// dragged with the left button or moved with the arrow keys.
 class SplitColumn : public QObject
 {
     Q_OBJECT
@@ -25,9 +25,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    void barMoved(); ///< barTop() is where the mouse wants it; lay() is the listener's
+    void barMoved(); ///< barTop() is where mouse or key want it; lay() is the listener's
 
 private:
+    void moveBar(double twips);
+
     QWidget& m_upper;
     QWidget& m_bar;
     QWidget& m_lower;

@@ -49,7 +49,7 @@ void UpdateListInput::colorToolTip()
     m_toolTip->setBackColor(m_tipColors->back());
 }
 
-void UpdateListInput::onHover(int row)
+void UpdateListInput::onHover(int row, bool onIcon)
 {
     QWidget* view = m_updates.viewport();
     if (m_toolTip == nullptr)
@@ -58,6 +58,11 @@ void UpdateListInput::onHover(int row)
     view->setToolTip({});
     if (row == 0)
         return;
+    // Over the icon, which is the only sign of what is on disk, stands what it says.
+    if (const QString meaning = onIcon ? iconMeaning(m_list.icon(row)) : QString(); !meaning.isEmpty()) {
+        view->setToolTip(meaning);
+        return;
+    }
     if (!m_list.hasSubItem(row, UpdateList::Url)) {
         view->setToolTip(toolTipText(m_list.text(row)));
         return;

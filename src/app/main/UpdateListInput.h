@@ -38,7 +38,7 @@ Q_SIGNALS:
     void rowActivated();
 
 private:
-    void onHover(int row);
+    void onHover(int row, bool onIcon);
 
     UpdateListView& m_updates;
     const UpdateList& m_list;

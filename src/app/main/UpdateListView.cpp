@@ -131,18 +131,33 @@ int UpdateListView::rowAt(const QPoint& position) const
     return index.isValid() ? index.row() + 1 : 0;
 }
 
-/// Two quick clicks on a check box toggle it twice and are no double click of the row.
-bool UpdateListView::isOnCheckBox(const QPoint& position) const
+QRect UpdateListView::partOf(const QModelIndex& index, QStyle::SubElement part) const
 {
-    const QModelIndex index = indexAt(position);
-    if (!index.flags().testFlag(Qt::ItemIsUserCheckable) || !index.data(Qt::CheckStateRole).isValid())
-        return false;
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     option.rect = visualRect(index);
     option.index = index;
-    option.features |= QStyleOptionViewItem::HasCheckIndicator;
-    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(position);
+    option.features |= QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasDisplay;
+    if (index.data(Qt::CheckStateRole).isValid())
+        option.features |= QStyleOptionViewItem::HasCheckIndicator;
+    option.decorationSize = QSize(iconSide, iconSide);
+    option.text = index.data().toString();
+    return style()->subElementRect(part, &option, this);
+}
+
+/// Two quick clicks on a check box toggle it twice and are no double click of the row.
+bool UpdateListView::isOnCheckBox(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    return index.flags().testFlag(Qt::ItemIsUserCheckable) && index.data(Qt::CheckStateRole).isValid() &&
+           partOf(index, QStyle::SE_ItemViewItemCheckIndicator).contains(position);
+}
+
+bool UpdateListView::isOnIcon(const QPoint& position) const
+{
+    const QModelIndex index = indexAt(position);
+    return index.isValid() && index.column() == 0 &&
+           partOf(index, QStyle::SE_ItemViewItemDecoration).contains(position);
 }
 
 void UpdateListView::mousePressEvent(QMouseEvent* event)
@@ -154,7 +169,8 @@ void UpdateListView::mousePressEvent(QMouseEvent* event)
 void UpdateListView::mouseMoveEvent(QMouseEvent* event)
 {
     QTreeView::mouseMoveEvent(event);
-    Q_EMIT rowHovered(rowAt(event->position().toPoint()));
+    const QPoint position = event->position().toPoint();
+    Q_EMIT rowHovered(rowAt(position), isOnIcon(position));
 }
 
 void UpdateListView::mouseReleaseEvent(QMouseEvent* event)
@@ -175,7 +191,7 @@ void UpdateListView::mouseDoubleClickEvent(QMouseEvent* event)
 void UpdateListView::leaveEvent(QEvent* event)
 {
     QTreeView::leaveEvent(event);
-    Q_EMIT rowHovered(0);
+    Q_EMIT rowHovered(0, false);
 }
 
 void UpdateListView::keyPressEvent(QKeyEvent* event)

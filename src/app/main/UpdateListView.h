@@ -29,7 +29,8 @@ public:
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
 Q_SIGNALS:
-    void rowHovered(int row); ///< on each move of the pointer; 0: no row below it
+    /// On each move of the pointer; 0: no row below it. `onIcon`: over the row's small icon.
+    void rowHovered(int row, bool onIcon);
     void buttonPressed();
     void buttonReleased();
     void menuWanted(const QPoint& globalPosition); ///< right button, after buttonReleased()
@@ -47,7 +48,9 @@ protected:
 
 private:
     [[nodiscard]] int rowAt(const QPoint& position) const;
+    [[nodiscard]] QRect partOf(const QModelIndex& index, QStyle::SubElement part) const;
     [[nodiscard]] bool isOnCheckBox(const QPoint& position) const;
+    [[nodiscard]] bool isOnIcon(const QPoint& position) const;
     void drawPicture(QPainter& painter) const;
 
     QPixmap m_picture;

@@ -135,6 +135,8 @@ void frmMain::buildLeftColumn()
     m_picPreview->setAccessibleName(tr("Cover"));
     m_barLeft = new PictureBox(m_picLeft);
     m_barLeft->setObjectName("barLeft"_L1);
+    m_barLeft->setAccessibleName(tr("Between games and cover"));
+    m_games->setRowDescriptions([this](int row) { return m_titles.row(row); });
 }
 
 void frmMain::buildMainColumn()
@@ -152,6 +154,7 @@ void frmMain::buildMainColumn()
     connect(m_notes, &NotesBox::linkActivated, this, &frmMain::linkActivated);
     m_barMain = new PictureBox(m_picMain);
     m_barMain->setObjectName("barMain"_L1);
+    m_barMain->setAccessibleName(tr("Between updates and notes"));
     for (QFrame* const framed : std::initializer_list<QFrame*>{m_updates, m_notes})
         framed->setFrameShape(QFrame::NoFrame); // the window's picture draws the well
     m_imgPreview = new CoverBox(m_picMain);
@@ -226,8 +229,8 @@ void frmMain::connectColumns()
 void frmMain::orderTabs()
 {
     QWidget* const order[] = {m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
-                              m_gameId,  m_fetch,          m_games,       m_picPreview,  m_updates,
-                              m_notes,   m_cmdClear,       m_cmdRefresh};
+                              m_gameId,  m_fetch,          m_games,       m_barLeft,     m_picPreview,
+                              m_updates, m_barMain,        m_notes,       m_cmdClear,    m_cmdRefresh};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
 }

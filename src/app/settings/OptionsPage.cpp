@@ -1,5 +1,6 @@
 #include "app/settings/OptionsPage.h"
 
+#include "platform/Accessible.h"
 #include "state/Settings.h"
 
 #include <QCheckBox>
@@ -35,6 +36,7 @@ void OptionsPage::addAutoBox(int index, int top)
     box->setToolTip(first ? u"Auto ACCEPT SSL Certificate? Vista and Above"_s
                           : u"Auto ACCEPT SSL Certificate? XP and Below."_s);
     box->setGeometry(column, top, controlWidth, rowHeight);
+    tellAssistiveTools(*box, {.role = QAccessible::CheckBox, .press = [box] { box->click(); }});
     // The release decides, whatever the click did to the box: once one is on, neither can be cleared.
     connect(box, &QCheckBox::released, this, [this, index] {
         Q_EMIT autoSslReleased();
@@ -49,6 +51,8 @@ void OptionsPage::addWay(int index, int top)
     auto* way = new QRadioButton(index == 0 ? u"WM_KEYDOWN, WM_KEYUP"_s : u"BM_CLICK"_s, this);
     way->setObjectName(indexed("optCert", index));
     way->setAutoExclusive(false); // both are off after a start without keys
+    // The toolkit takes a button that excludes no other for a check box.
+    tellAssistiveTools(*way, {.role = QAccessible::RadioButton, .press = [way] { way->click(); }});
     way->setGeometry(column + 20, top, controlWidth - 20, rowHeight);
     connect(way, &QRadioButton::clicked, this, [this, index] { settings().chooseCertOption(index); });
     onRefresh([this, way, index] { way->setChecked(settings().certOption(index)); });

@@ -57,7 +57,8 @@ SkinChoicePage::SkinChoicePage(Settings& settings, const SkinPage& skin, const A
     for (int i = 0; i < 3; ++i) {
         const int top = 40 + 24 * i;
         addLabel({}, cells[i].text, {column, top, 130, rowHeight});
-        addLabel(u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16});
+        addLabel(u"Shape_Color(%1)"_s.arg(i), {}, {valueColumn, top + 2, 28, 16})
+            ->setAccessibleName(cells[i].text);
         addLabel(QLatin1StringView(cells[i].number), {}, {valueColumn + 36, top, 90, rowHeight});
     }
     QLabel* const wayOn =

@@ -69,7 +69,8 @@ QStringList AccessibleButtonEx::actionNames() const
 void AccessibleButtonEx::doAction(const QString& name)
 {
     if (name == pressAction() || name == toggleAction())
-        button().click();
+        // Afterwards: what it opens may stay open, and the caller would wait for its end.
+        QMetaObject::invokeMethod(&button(), &ButtonEx::click, Qt::QueuedConnection);
     else
         QAccessibleWidget::doAction(name);
 }

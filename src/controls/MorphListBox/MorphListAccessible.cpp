@@ -33,7 +33,11 @@ public:
     [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name && isValid() ? m_list->List(m_index) : QString();
+        if (!isValid())
+            return {};
+        return kind == QAccessible::Name          ? m_list->List(m_index)
+               : kind == QAccessible::Description ? m_list->rowDescription(m_index)
+                                                  : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override
@@ -93,7 +97,10 @@ public:
             m_list->setFocus();
             m_list->setListIndex(m_index);
         } else if (actionNames().contains(name)) {
-            m_list->activateRow(m_index);
+            // Afterwards: what a click starts may take long, and the caller would wait for its end.
+            QMetaObject::invokeMethod(
+                m_list.data(), [list = m_list.data(), row = m_index] { list->activateRow(row); },
+                Qt::QueuedConnection);
         }
     }
     [[nodiscard]] QStringList keyBindingsForAction(const QString&) const override { return {}; }

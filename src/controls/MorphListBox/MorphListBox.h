@@ -9,6 +9,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -202,6 +203,10 @@ public:
         return 3;
     } ///< pixels, always
 
+    [[nodiscard]] const MorphListDesign& design() const
+    {
+        return m_look.design;
+    }
     [[nodiscard]] float BackAngle() const
     {
         return m_look.design.BackAngle;
@@ -295,6 +300,16 @@ public:
     }
     void setDisPictureMode(int mode);
 
+    /// What assistive tools read beside a row's text; asked for when they do.
+    void setRowDescriptions(std::function<QString(int)> describe)
+    {
+        m_describe = std::move(describe);
+    }
+    [[nodiscard]] QString rowDescription(int index) const
+    {
+        return m_describe ? m_describe(index) : QString();
+    }
+
     /// What a press on a row does, without a mouse: selects it and raises Click.
     void activateRow(int index);
     /// Where the item shows; empty when it does not.
@@ -372,6 +387,7 @@ private:
     PressedKeys m_keys;
     std::optional<KeyRelease> m_release; ///< not told yet
     QBasicTimer m_releaseTimer;
+    std::function<QString(int)> m_describe;
     int m_toldRow = -1; ///< the current row that assistive tools know
 };
 

@@ -33,6 +33,7 @@ public:
     void setCurrentValue(const QVariant& /*value*/) override {}
     [[nodiscard]] QVariant minimumValue() const override { return 0; }
     [[nodiscard]] QVariant maximumValue() const override { return 100; }
+    [[nodiscard]] QVariant minimumStepSize() const override { return 0; } // it only shows
 
 private:
     [[nodiscard]] const XP_ProgressBar& bar() const { return *static_cast<XP_ProgressBar*>(widget()); }

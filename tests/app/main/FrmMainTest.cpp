@@ -6,6 +6,7 @@
 #include "controls/CTooltip/CTooltip.h"
 #include "controls/MorphListBox/MorphListBox.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -247,6 +248,12 @@ TEST_F(FrmMain, ShowsABalloonOverARowWithAnUrl)
     EXPECT_TRUE(balloon->exists());
     EXPECT_EQ(balloon->BackColor(), 0x445566U) << "the skin came first";
     EXPECT_EQ(balloon->Title(), u"Ashgrove"_s);
+    const QRect firstCell = view.visualRect(list.index(0, 0));
+    QTest::mouseMove(view.viewport(), firstCell.topLeft() + QPoint(10, 9));
+    EXPECT_FALSE(balloon->exists());
+    EXPECT_EQ(view.viewport()->toolTip(), u"Not on disk"_s);
+    QTest::mouseMove(view.viewport(), firstCell.topRight() + QPoint(-4, 9));
+    EXPECT_TRUE(view.viewport()->toolTip().isEmpty());
     EXPECT_TRUE(balloon->TipText().startsWith(u"Package Version:  01.01\r\n§ystem Version:    03.4100"_s));
     QTest::mouseMove(view.viewport(), updateRow(2));
     EXPECT_FALSE(balloon->exists());
@@ -289,6 +296,54 @@ TEST_F(FrmMain, TogglesTheRawPage)
     window.mnuRaw();
     EXPECT_EQ(browser.x(), 573);
     EXPECT_EQ(text("lblStatus"), u"5055"_s) << "twips";
+}
+
+TEST_F(FrmMain, TellsAssistiveToolsWhatItsControlsAre)
+{
+    const auto tool = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
+    EXPECT_EQ(tool(window)->role(), QAccessible::Window);
+    fillGames();
+    EXPECT_EQ(tool(window.games())->child(0)->text(QAccessible::Description), u"Ashgrove: Circuit"_s);
+    addUpdate(u"01.01"_s, u"http://h/a.pkg"_s);
+    list.setIcon(1, u"pkg-plus"_s);
+    QCoreApplication::processEvents(); // a tool sees what has been laid out
+    EXPECT_EQ(
+        tool(child(window, "ListView1"))->tableInterface()->cellAt(0, 0)->text(QAccessible::Description),
+        u"On disk"_s);
+
+    QPixmap cover(30, 40);
+    cover.fill(Qt::red);
+    child(window, "PicPreview").setProperty("Picture", cover);
+    for (const char* const name : {"PicPreview", "imgPreview"}) {
+        QAccessibleInterface* const picture = tool(child(window, name));
+        EXPECT_EQ(picture->role(), QAccessible::Graphic) << name;
+        const bool large = child(window, "imgPreview").isVisible();
+        picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(child(window, "imgPreview").isVisible(), large) << "the caller is answered first";
+        QCoreApplication::processEvents();
+        EXPECT_NE(child(window, "imgPreview").isVisible(), large) << name;
+    }
+    const QSignalSpy reloads(&window, &frmMain::refreshRequested);
+    tool(child(window, "CmdRefresh"))->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(reloads.count(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(reloads.count(), 1);
+
+    for (const char* const name : {"barLeft", "barMain"}) {
+        QWidget& bar = child(window, name);
+        QAccessibleInterface* const splitter = tool(bar);
+        EXPECT_EQ(splitter->role(), QAccessible::Splitter);
+        EXPECT_FALSE(splitter->text(QAccessible::Name).isEmpty());
+        splitter->valueInterface()->setCurrentValue(100);
+        EXPECT_EQ(bar.y(), 100) << name;
+        QTest::keyClick(&bar, Qt::Key_Down);
+        EXPECT_EQ(bar.y(), 108) << name;
+        QTest::keyClick(&bar, Qt::Key_Up);
+        EXPECT_EQ(splitter->valueInterface()->currentValue(), 100) << name;
+    }
+    EXPECT_EQ(stored(u"LeftBar Top"_s), u"1500"_s);
+    QAccessibleValueInterface* const progress = tool(child(window, "ProgressBar1"))->valueInterface();
+    EXPECT_EQ(progress->minimumStepSize(), 0) << "it offers no change";
 }
 
 TEST_F(FrmMain, TakesThePointsOutOfAClickedTitle)

@@ -5,6 +5,7 @@
 #include "support/FakeFileDialogs.h"
 #include "support/FakePump.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -273,7 +274,11 @@ TEST_F(FrmSettings, NeverClearsBothAutoBoxes)
     click("optCert(1)");
     EXPECT_EQ(stored(u"Opt0 Cert"_s), u"False"_s);
     EXPECT_EQ(stored(u"Opt1 Cert"_s), u"True"_s);
-    click("optCert(0)");
+    QAccessibleInterface* const way = QAccessible::queryAccessibleInterface(&child(window, "optCert(0)"));
+    EXPECT_EQ(way->role(), QAccessible::RadioButton);
+    way->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(way->state().checked);
     EXPECT_FALSE(child<QRadioButton>(window, "optCert(1)").isChecked());
 }
 

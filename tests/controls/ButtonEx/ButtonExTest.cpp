@@ -299,6 +299,7 @@ TEST(ButtonExAccess, TellsRoleNameStateAndAction)
     QAccessibleActionInterface* action = access->actionInterface();
     ASSERT_TRUE(action);
     action->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents(); // it is done afterwards
     EXPECT_EQ(clicks, 1);
 
     button.setStyle(1);
@@ -306,6 +307,7 @@ TEST(ButtonExAccess, TellsRoleNameStateAndAction)
     EXPECT_EQ(access->role(), QAccessible::CheckBox);
     EXPECT_FALSE(access->state().checked);
     action->doAction(QAccessibleActionInterface::toggleAction());
+    QCoreApplication::processEvents(); // it is done afterwards
     EXPECT_TRUE(access->state().checked);
     EXPECT_EQ(clicks, 2);
     button.setEnabled(false);

@@ -207,6 +207,7 @@ TEST_F(MorphListBoxTest, IsAListToAssistiveTools)
 
     takeLog();
     item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents(); // it is done afterwards
     EXPECT_EQ(takeLog(), QStringList({u"Click"_s}));
     EXPECT_TRUE(item->state().selected);
     EXPECT_EQ(list->text(QAccessible::Value), u"3"_s);
@@ -216,6 +217,7 @@ TEST_F(MorphListBoxTest, IsAListToAssistiveTools)
     m_list->setStyle(1);
     EXPECT_TRUE(item->state().checkable);
     item->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCoreApplication::processEvents(); // it is done afterwards
     EXPECT_TRUE(item->state().checked);
     m_list->Clear();
     EXPECT_FALSE(item->isValid());
