@@ -3,6 +3,7 @@
 #include "Drawing.h"
 #include "Surface.h"
 
+#include <algorithm>
 #include <array>
 
 namespace varnhold::assets {
@@ -10,28 +11,21 @@ namespace varnhold::assets {
 namespace {
 
 constexpr int tileSide = 64;
+constexpr int updateRowHeight = 18;
+constexpr int plateLift = 14;
+constexpr int fade = 12; ///< pixels in which what runs to the right edge goes out
 constexpr Size coverSize{90, 104};
 
 /// Height of a low swell over a quarter of the tile, in pixels.
 constexpr std::array swell{0, 0, 1, 1, 2, 2, 2, 2, 2, 2, 2, 2, 1, 1, 0, 0};
 
-Picture drawTile(const SkinDesign& design, int pitch)
+/// A tile without a mark: only the grain of its ground.
+Picture drawGround(const SkinDesign& design, Size size)
 {
-    Picture tile({tileSide, tileSide}, design.panel);
-    for (int y = 0; y < tileSide; ++y) {
-        for (int x = 0; x < tileSide; ++x) {
-            Color color = shifted(design.panel, grainAt(design, x, y, tileSide) / 2);
-            if (design.texture == Texture::Glass) {
-                // Water: crests that every second row shifts by half a wave.
-                const int row = y / pitch;
-                const int place = (x + (row % 2) * (tileSide / 8)) % (tileSide / 4);
-                if (y % pitch == pitch / 2 + swell.at(static_cast<std::size_t>(place)))
-                    color = mix(design.panel, design.panelEdge, 1, 4);
-            } else if (design.texture == Texture::Paper && y % pitch == pitch - 1 && x % 4 == 0) {
-                color = mix(design.panel, design.grooveDark, 1, 2); // ruled with dots
-            }
-            tile.set(x, y, color);
-        }
+    Picture tile(size, design.panel);
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x)
+            tile.set(x, y, shifted(design.panel, grainAt(design, x, y, tileSide) / 2));
     }
     return tile;
 }
@@ -82,12 +76,26 @@ Drawing rivetedPlate(const SkinDesign& design)
 
 Picture drawListTile(const SkinDesign& design)
 {
-    return drawTile(design, 16);
+    return drawGround(design, {tileSide, tileSide}); // the font decides where its rows lie
 }
 
 Picture drawUpdatesTile(const SkinDesign& design)
 {
-    return drawTile(design, 32);
+    constexpr int rows = 4;
+    Picture tile = drawGround(design, {tileSide, rows * updateRowHeight});
+    for (int y = 0; y < tile.height(); ++y) {
+        const int row = y / updateRowHeight;
+        const int fromFoot = updateRowHeight - 1 - y % updateRowHeight;
+        for (int x = 0; x < tileSide; ++x) {
+            // Water: crests that every second row shifts by half a wave. Or ruled with dots.
+            const int place = (x + row % 2 * (tileSide / 8)) % (tileSide / 4);
+            if (design.texture == Texture::Glass && fromFoot == 2 - swell.at(static_cast<std::size_t>(place)))
+                tile.set(x, y, mix(design.panel, design.panelEdge, 1, 4));
+            else if (design.texture == Texture::Paper && fromFoot == 0 && x % 4 == 0)
+                tile.set(x, y, mix(design.panel, design.grooveDark, 1, 2));
+        }
+    }
+    return tile;
 }
 
 Picture drawBlankCover(const SkinDesign& design)
@@ -107,14 +115,19 @@ Picture drawBlankCover(const SkinDesign& design)
     Picture cover = render(drawing, coverSize, coverSize.width, seeThrough);
     for (int y = 0; y < cover.height(); ++y) {
         for (int x = 0; x < cover.width(); ++x) {
-            const Color ground =
-                design.texture == Texture::Glass
-                    ? ditheredMix(design.top, design.panel, y, cover.height(), x, y)
-                    : shifted(panelAt(design, cover.height(), x, y),
-                              design.texture == Texture::Brushed ? grainAt(design, x, y) + 14 : 0);
+            // Its ground is that of the column, in which it also shows large, so that no edge is seen; only
+            // the plate has one of its own.
+            const Color panel = panelAt(design, cover.height(), x, y);
+            const Color ground = design.texture == Texture::Brushed ? shifted(panel, plateLift) : panel;
             const Color sign = cover.at(x, y);
-            cover.set(x, y, mix(ground, rgb(sign & 0xFFFFFFU), alphaOf(sign), 255));
+            const int fromRight = cover.width() - 1 - x;
+            const int shown = design.texture == Texture::Glass ? std::min(fromRight, fade) : fade;
+            cover.set(x, y, mix(ground, rgb(sign & 0xFFFFFFU), alphaOf(sign) * shown / fade, 255));
         }
+    }
+    if (design.texture == Texture::Brushed) {
+        cover.frame({0, 0, cover.width(), cover.height()}, design.grooveDark);
+        cover.fill({1, 1, cover.width() - 2, 1}, design.grooveLight);
     }
     return cover;
 }

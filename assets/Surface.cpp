@@ -83,16 +83,17 @@ Color groundAt(const SkinDesign& design, Size window, int x, int y)
     const Color base = y < bend
                            ? ditheredMix(design.top, design.middle, y, bend, x, y)
                            : ditheredMix(design.middle, design.bottom, y - bend, window.height - bend, x, y);
-    int grain = grainAt(design, x, y);
-    if (design.texture == Texture::Brushed) {
-        // The lamp: a wide glow above the left third.
-        const int dx = (x - window.width / 3) * 2;
-        const int dy = y * 3;
-        const int reach = window.width * window.width;
-        const int glow = std::max(0, reach - dx * dx - dy * dy) / (reach / 8);
-        grain += glow;
-    }
-    return shifted(base, grain);
+    const int grain = grainAt(design, x, y);
+    if (design.texture != Texture::Brushed)
+        return shifted(base, grain);
+    // The lamp: a wide warm glow above the left third.
+    constexpr int steps = 64;
+    const int dx = (x - window.width / 3) * 2;
+    const int dy = y * 3;
+    const int reach = window.width * window.width;
+    const int glow = std::max(0, reach - dx * dx - dy * dy) / (reach / steps);
+    const Color lit = mix(base, design.faces[1].light, 1, 6);
+    return shifted(ditheredMix(base, lit, glow, steps, x, y), grain);
 }
 
 Color panelAt(const SkinDesign& design, int height, int x, int y)

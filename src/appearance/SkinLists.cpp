@@ -3,7 +3,9 @@
 #include "appearance/SkinColors.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
+#include "appearance/ToolkitLook.h"
 #include "controls/Contrast.h"
+#include "controls/MorphListBox/MorphListBox.h"
 
 #include <QVariant>
 #include <QWidget>
@@ -87,6 +89,7 @@ void SkinLists::changeTheme(int theme, SkinPictures& pictures)
         assign(m_games, "Theme", theme);
     else
         applyCustomColors();
+    dressScrollBars();
     // A theme takes the picture away.
     if (m_page.gameList.checked)
         showGamePicture(pictures);
@@ -113,8 +116,15 @@ void SkinLists::readUpdateList(SkinPictures& pictures)
     }
 }
 
+void SkinLists::dressScrollBars()
+{
+    if (const auto* const games = qobject_cast<MorphListBox*>(m_games))
+        varnhold::dressScrollBars(games->design());
+}
+
 void SkinLists::applyCustomColors()
 {
+    dressScrollBars();
     if (m_page.vscl_LBxTheme != customTheme || m_games == nullptr)
         return;
     assign(m_games, "RedrawFlag", false);
@@ -129,6 +139,7 @@ void SkinLists::applyCustomColors()
     const ColorValue grounds[] = {own("SelColor1"), own("SelColor2"), own("BackColor1"), own("BackColor2")};
     assign(m_games, "FocusRectColor", firstThatStandsOut(inks, grounds, visible));
     assign(m_games, "RedrawFlag", true);
+    dressScrollBars();
 }
 
 void SkinLists::applyForeColor()

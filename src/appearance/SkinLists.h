@@ -26,6 +26,7 @@ public:
 
 private:
     void changeTheme(int theme, SkinPictures& pictures);
+    void dressScrollBars();
     void showGamePicture(SkinPictures& pictures);
 
     SkinPage& m_page;

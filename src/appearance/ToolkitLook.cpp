@@ -95,15 +95,7 @@ QToolTip { color: @text; background: @ground; border: 1px solid @edge; padding: 
 QHeaderView { background: transparent; }
 QHeaderView::section { color: @text; background: @raised; border: none;
     border-right: 1px solid @edge; border-bottom: 1px solid @edge; padding: 2px 4px; }
-QAbstractScrollArea QScrollBar:vertical { background: @ground; width: 10px; margin: 0; }
-QAbstractScrollArea QScrollBar:horizontal { background: @ground; height: 10px; margin: 0; }
-QAbstractScrollArea QScrollBar::handle { background: @handle; border-radius: 3px; margin: 2px; }
-QAbstractScrollArea QScrollBar::handle:vertical { min-height: 20px; }
-QAbstractScrollArea QScrollBar::handle:horizontal { min-width: 20px; }
-QAbstractScrollArea QScrollBar::handle:hover { background: @accent; }
 QAbstractScrollArea::corner { background: transparent; border: none; }
-QAbstractScrollArea QScrollBar::add-line, QAbstractScrollArea QScrollBar::sub-line { width: 0; height: 0; }
-QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-page { background: none; }
 )"_s;
     const std::pair<QString, QColor> names[] = {{u"@chosenText"_s, tones.chosenText},
                                                 {u"@chosen"_s, tones.chosen},
@@ -112,8 +104,7 @@ QAbstractScrollArea QScrollBar::add-page, QAbstractScrollArea QScrollBar::sub-pa
                                                 {u"@dim"_s, mixed(tones.text, tones.ground, 0.45)},
                                                 {u"@edge"_s, tones.edge},
                                                 {u"@accent"_s, tones.accent},
-                                                {u"@raised"_s, mixed(tones.ground, tones.text, 0.12)},
-                                                {u"@handle"_s, mixed(tones.ground, tones.text, 0.4)}};
+                                                {u"@raised"_s, mixed(tones.ground, tones.text, 0.12)}};
     for (const auto& [name, color] : names)
         sheet.replace(name, color.name());
     return sheet;
@@ -144,6 +135,12 @@ void colorToolkit(const SkinColors& colors, ColorValue ground)
     const QString sheet = styleSheetOf(tones);
     if (sheet != qApp->styleSheet())
         qApp->setStyleSheet(sheet);
+}
+
+void dressScrollBars(const MorphListDesign& design)
+{
+    if (auto* const style = qApp->findChild<ToolkitStyle*>())
+        style->setScrollBarDesign(design);
 }
 
 } // namespace varnhold

@@ -1,11 +1,16 @@
 #include "appearance/ToolkitStyle.h"
 
+#include "appearance/ScrollBarLook.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
+
+#include <utility>
 
 namespace varnhold {
 
@@ -44,6 +49,15 @@ void drawFocusLine(QPainter& painter, const QRect& place, const QPalette& colors
 }
 
 } // namespace
+
+void ToolkitStyle::setScrollBarDesign(const MorphListDesign& design)
+{
+    m_scrollBars = design;
+    for (QWidget* const widget : QApplication::allWidgets()) {
+        if (qobject_cast<QScrollBar*>(widget) != nullptr)
+            widget->update();
+    }
+}
 
 ToolkitStyle::ToolkitStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
@@ -110,31 +124,65 @@ void ToolkitStyle::drawComplexControl(ComplexControl control, const QStyleOption
                                       QPainter* painter, const QWidget* widget) const
 {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || bar == nullptr || bar->orientation != Qt::Vertical ||
-        bar->rect.height() > 3 * bar->rect.width()) {
+    if (control != CC_ScrollBar || bar == nullptr)
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        return;
-    }
+    else if (bar->orientation == Qt::Vertical && bar->rect.height() <= 3 * bar->rect.width())
+        drawPickBar(*bar, *painter);
+    else
+        drawScrollBar(*bar, *painter, widget);
+}
+
+void ToolkitStyle::drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,
+                                 const QWidget* widget) const
+{
+    const auto part = [&](SubControl which) {
+        const bool pressed = (bar.activeSubControls & which) != 0 && (bar.state & State_Sunken) != 0;
+        return ScrollBarLook::Part{subControlRect(CC_ScrollBar, &bar, which, widget), pressed};
+    };
+    const ScrollBarLook::Part before = part(SC_ScrollBarSubPage);
+    const ScrollBarLook::Part after = part(SC_ScrollBarAddPage);
+    const bool hasRoom = bar.maximum > bar.minimum;
+    paintScrollBar(painter,
+                   {.less = part(SC_ScrollBarSubLine),
+                    .more = part(SC_ScrollBarAddLine),
+                    .before = before,
+                    .after = after,
+                    .thumb = hasRoom ? part(SC_ScrollBarSlider).place : QRect(),
+                    .orientation = bar.orientation,
+                    .enabled = (bar.state & State_Enabled) != 0},
+                   m_scrollBars);
+}
+
+void ToolkitStyle::drawPickBar(const QStyleOptionSlider& bar, QPainter& painter) const
+{
     // A bar without room for a handle picks a value by its arrows.
-    const QPalette& colors = bar->palette;
-    const bool lit = (bar->state & State_HasFocus) != 0;
-    const int half = bar->rect.height() / 2;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    for (const bool up : {true, false}) {
-        const SubControl part = up ? SC_ScrollBarSubLine : SC_ScrollBarAddLine;
-        const bool active = (bar->activeSubControls & part) != 0;
-        const bool pressed = active && (bar->state & State_Sunken) != 0;
-        const QRect plate(bar->rect.left(), up ? bar->rect.top() : bar->rect.bottom() + 1 - half,
-                          bar->rect.width(), half);
-        painter->setPen(active || lit ? colors.color(QPalette::Link) : colors.color(QPalette::Dark));
-        painter->setBrush(pressed ? colors.highlight() : colors.button());
-        painter->drawRect(plate.adjusted(0, 0, -1, -1));
-        const QPoint tip(plate.center().x(), plate.center().y() + (up ? -1 : 2));
-        for (int row = 0; row < 4; ++row)
-            painter->fillRect(tip.x() - row + 1, tip.y() + (up ? row : -row), 2 * row, 1, colors.text());
+    const int half = bar.rect.height() / 2;
+    const bool lit = (bar.state & State_HasFocus) != 0;
+    const auto plate = [&](SubControl which, int top) {
+        const bool active = (bar.activeSubControls & which) != 0;
+        return std::pair(ScrollBarLook::Part{{bar.rect.left(), top, bar.rect.width(), half},
+                                             active && (bar.state & State_Sunken) != 0},
+                         active || lit);
+    };
+    const auto [less, lessLit] = plate(SC_ScrollBarSubLine, bar.rect.top());
+    const auto [more, moreLit] = plate(SC_ScrollBarAddLine, bar.rect.bottom() + 1 - half);
+    paintScrollBar(painter,
+                   {.less = less,
+                    .more = more,
+                    .before = {},
+                    .after = {},
+                    .thumb = {},
+                    .orientation = bar.orientation,
+                    .enabled = (bar.state & State_Enabled) != 0},
+                   m_scrollBars);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [part, isLit] : {std::pair(less, lessLit), std::pair(more, moreLit)}) {
+        painter.setPen(bar.palette.color(isLit ? QPalette::Link : QPalette::Dark));
+        painter.drawRect(part.place.adjusted(0, 0, -1, -1));
     }
-    painter->restore();
+    painter.restore();
 }
 
 void ToolkitStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

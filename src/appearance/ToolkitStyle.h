@@ -1,10 +1,14 @@
 #pragma once
 
+#include "controls/MorphListBox/MorphListDesign.h"
+
 #include <QProxyStyle>
+
+class QStyleOptionSlider;
 
 namespace varnhold {
 
-/// Check boxes, option buttons, short scroll bars, the signs of message boxes and the line that shows the
+/// Check boxes, option buttons, scroll bars, the signs of message boxes and the line that shows the
 /// keyboard focus, told apart on any skin's ground.
 class ToolkitStyle : public QProxyStyle
 {
@@ -12,6 +16,8 @@ class ToolkitStyle : public QProxyStyle
 
 public:
     ToolkitStyle();
+
+    void setScrollBarDesign(const MorphListDesign& design);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
@@ -24,6 +30,12 @@ public:
                   QStyleHintReturn* returned) const override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                        const QWidget* widget) const override;
+
+private:
+    void drawPickBar(const QStyleOptionSlider& bar, QPainter& painter) const;
+    void drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
+
+    MorphListDesign m_scrollBars;
 };
 
 } // namespace varnhold

@@ -26,8 +26,9 @@ struct AccessibleTraits
     std::optional<Value> value = {};
 };
 
-/// Tells assistive tools what the control is; to be said while it is built. Name and description are the widget's own. A press is answered at once and done afterwards, since
-/// it may open a box, and the caller would wait for its end.
+/// Tells assistive tools what the control is; to be said while it is built. Name and description are the
+/// widget's own. A press is answered at once and done afterwards, since it may open a box, and the caller
+/// would wait for its end.
 void tellAssistiveTools(QWidget& control, AccessibleTraits traits);
 
 } // namespace varnhold

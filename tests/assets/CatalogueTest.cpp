@@ -44,7 +44,8 @@ const Sized pictures[] = {
     {u"background-dl.bmp"_s, {352, 164}},
     {u"background-slide.bmp"_s, {447, 221}},
     {u"background-splash.bmp"_s, {320, 160}},
-    {u"list.bmp back.bmp"_s, {64, 64}},
+    {u"list.bmp"_s, {64, 64}},
+    {u"back.bmp"_s, {64, 4 * 18}}, // rows of the update list
     {u"slider.ico flag-us.ico flag-uk.ico flag-jp.ico flag-asia.ico flag-kor.ico psn.ico unknown.ico"_s,
      {16, 16}},
     {u"btn-updown-11.bmp btn-updown-22.bmp btn-updown-33.bmp"_s, {14, 14}},
