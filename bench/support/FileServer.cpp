@@ -1,6 +1,7 @@
 #include "support/FileServer.h"
 
 #include <algorithm>
+#include <cctype>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -40,7 +41,12 @@ int makeBlock()
     return block;
 }
 
-void serve(int peer, int block)
+bool sendAll(int peer, const std::string& bytes)
+{
+    return ::write(peer, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+}
+
+void serve(int peer, int block, const std::string& document)
 {
     std::string request;
     char piece[4096];
@@ -52,9 +58,11 @@ void serve(int peer, int block)
         }
         request.append(piece, static_cast<std::size_t>(count));
     }
-    std::size_t rest = std::strtoull(request.c_str() + std::strlen("GET /"), nullptr, 10);
+    const char* path = request.c_str() + std::strlen("GET /");
+    const bool isFile = std::isdigit(static_cast<unsigned char>(*path)) != 0;
+    std::size_t rest = isFile ? std::strtoull(path, nullptr, 10) : document.size();
     const std::string header = "HTTP/1.0 200 OK\r\nContent-Length: " + std::to_string(rest) + "\r\n\r\n";
-    if (::write(peer, header.data(), header.size()) != static_cast<ssize_t>(header.size()))
+    if (!sendAll(peer, header) || (!isFile && !sendAll(peer, document)) || !isFile)
         rest = 0;
     while (rest > 0) {
         off_t offset = 0;
@@ -66,7 +74,7 @@ void serve(int peer, int block)
     ::close(peer);
 }
 
-[[noreturn]] void run(int listener)
+[[noreturn]] void run(int listener, const std::string& document)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     std::signal(SIGPIPE, SIG_IGN);
@@ -74,13 +82,13 @@ void serve(int peer, int block)
     for (;;) {
         const int peer = ::accept(listener, nullptr, nullptr);
         if (peer >= 0)
-            std::thread(serve, peer, block).detach();
+            std::thread(serve, peer, block, document).detach();
     }
 }
 
 } // namespace
 
-FileServer::FileServer()
+FileServer::FileServer(const std::function<std::string(std::uint16_t port)>& document)
 {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address = {};
@@ -94,7 +102,7 @@ FileServer::FileServer()
     m_port = ntohs(address.sin_port);
     m_process = ::fork();
     if (m_process == 0)
-        run(listener);
+        run(listener, document ? document(m_port) : std::string());
     ::close(listener);
 }
 

@@ -114,7 +114,7 @@ void waitFor(PackageFetch& fetch, const Package& package, Terminal& terminal)
 
 /// Throws RunTimeError with a sentence for what cannot be downloaded.
 ExitCode downloadOne(const Arguments& arguments, Session& session, const Package& package,
-                     const QString& folder)
+                     const QString& folder, FetchThreads& threads)
 {
     Terminal& terminal = session.terminal();
     if (package.url.isEmpty())
@@ -123,18 +123,18 @@ ExitCode downloadOne(const Arguments& arguments, Session& session, const Package
         fail(u"The address of package %1 %2: %3"_s.arg(package.version, fault, package.url));
     const PackageTarget target{(folder.endsWith(u'/') ? folder : folder + u'/') +
                                    packageFileName(package.url),
-                               package.size(), arguments.has(u"overwrite"_s)};
+                               package.size(), arguments.has(u"overwrite"_s), !package.sha1.isEmpty()};
     if (const std::optional<ExitCode> already = standsAlready(terminal, package, target))
         return *already;
 
-    PackageFetch fetch(package.url, target, session.patience());
+    PackageFetch fetch(package.url, target, session.patience(), threads);
     waitFor(fetch, package, terminal);
     if (!fetch.hasArrived())
         fail(fetch.problem());
     return report(
         terminal,
         printable(u"%1  %2  %3 bytes"_s.arg(package.version, target.path).arg(QFileInfo(target.path).size())),
-        compareSum(target.path, package.sha1));
+        compareSum(target.path, package.sha1, fetch.takeSums()));
 }
 
 ExitCode run(const Arguments& arguments, Terminal& terminal)
@@ -157,11 +157,12 @@ ExitCode run(const Arguments& arguments, Terminal& terminal)
         return ExitCode::NoSuchTitle;
     }
     const QString folder = folderFor(arguments, session.settings(), gameId, updates.title);
+    FetchThreads threads;
     ExitCode worst = ExitCode::Fine;
     for (const Package& package : packages) {
         ExitCode one = ExitCode::Failed;
         try {
-            one = downloadOne(arguments, session, package, folder);
+            one = downloadOne(arguments, session, package, folder, threads);
         } catch (const RunTimeError& error) {
             terminal.complain(printable(error.description()));
         }

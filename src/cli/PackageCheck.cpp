@@ -2,10 +2,10 @@
 
 #include "platform/RunTimeError.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 
-#include <algorithm>
+#include <cerrno>
+#include <optional>
 
 namespace varnhold::cli {
 
@@ -13,40 +13,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 tailSize = 32;
-constexpr qint64 blockSize = 1024 * 1024;
-
-void addBytes(QCryptographicHash& hash, QFile& file, qint64 count)
+PackageSums sumsOf(const QString& path)
 {
-    QByteArray block;
-    for (; count > 0; count -= block.size()) {
-        block = file.read(std::min(count, blockSize));
-        if (block.isEmpty())
-            throw RunTimeError(errors::pathFileAccess,
-                               u"%1 cannot be read: %2."_s.arg(file.fileName(), file.errorString()));
-        hash.addData(block);
-    }
+    QFile file(path);
+    PackageSum sum;
+    if (file.open(QIODevice::ReadOnly))
+        if (const std::optional<PackageSums> sums = sum.finish(file.handle(), file.size()))
+            return *sums;
+    throw RunTimeError(
+        errors::pathFileAccess,
+        u"%1 cannot be read: %2."_s.arg(path, file.isOpen() ? qt_error_string(errno) : file.errorString()));
 }
 
 } // namespace
 
-SumAgreement compareSum(const QString& path, const QString& documentSum)
+SumAgreement compareSum(const QString& path, const QString& documentSum,
+                        const std::optional<PackageSums>& known)
 {
     const QByteArray wanted = documentSum.trimmed().toLower().toLatin1();
     if (wanted.isEmpty())
         return SumAgreement::NotGiven;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(errors::pathFileAccess, u"%1 cannot be read: %2."_s.arg(path, file.errorString()));
-    const qint64 size = file.size();
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    addBytes(hash, file, std::max<qint64>(size - tailSize, 0));
-    // A result ends nothing: the sum of the whole file goes on from here, and the file is read once.
-    const bool allButTail = size >= tailSize && hash.result().toHex() == wanted;
-    addBytes(hash, file, std::min(size, tailSize));
-    if (hash.result().toHex() == wanted)
+    const PackageSums sums = known ? *known : sumsOf(path);
+    if (sums.whole == wanted)
         return SumAgreement::WholeFile;
-    return allButTail ? SumAgreement::AllButTail : SumAgreement::Neither;
+    return sums.allButTail == wanted ? SumAgreement::AllButTail : SumAgreement::Neither;
 }
 
 QString agreementText(SumAgreement agreement)

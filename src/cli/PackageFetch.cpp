@@ -3,7 +3,6 @@
 #include "cli/Terminal.h"
 #include "download/SplitUrl.h"
 #include "platform/Clock.h"
-#include "platform/TcpSocket.h"
 
 #include <QFileInfo>
 
@@ -67,8 +66,8 @@ QString progressLine(const QString& name, const DownloadLabels& labels)
 class WatchedSockets : public SocketMaker
 {
 public:
-    WatchedSockets(const QString& url, std::function<void()> answered)
-        : m_authority(authorityOf(url)), m_answered(std::move(answered))
+    WatchedSockets(SocketMaker& maker, const QString& url, std::function<void()> answered)
+        : m_maker(maker), m_authority(authorityOf(url)), m_answered(std::move(answered))
     {
     }
 
@@ -104,7 +103,7 @@ private:
         m_answered();
     }
 
-    TcpSocketMaker m_maker;
+    SocketMaker& m_maker;
     Socket* m_socket = nullptr;
     QString m_authority;
     QString m_status;
@@ -125,14 +124,15 @@ BoxAnswer PackageFetch::Boxes::show(const MessageBox& box)
 }
 
 PackageFetch::PackageFetch(const QString& url, const PackageTarget& target, std::chrono::seconds patience,
-                           QObject* parent)
+                           FetchThreads& threads, QObject* parent)
     : QObject(parent),
       m_url(url),
       m_target(target),
       m_patience(patience),
-      m_files(target, [this] { return m_client->fileSize(); }),
+      m_files(
+          target, [this] { return m_client->fileSize(); }, threads.sums),
       m_boxes(*this),
-      m_sockets(std::make_unique<WatchedSockets>(url,
+      m_sockets(std::make_unique<WatchedSockets>(threads.sockets, url,
                                                  [this] {
                                                      // After the client has acted on the answer.
                                                      QMetaObject::invokeMethod(

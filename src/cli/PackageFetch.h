@@ -4,6 +4,7 @@
 #include "download/DownloadClient.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"
+#include "platform/TcpSocket.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -29,6 +30,13 @@ QString packageFileName(const QString& url);
 /// One line for a terminal; `name` is how the package is called there.
 QString progressLine(const QString& name, const DownloadLabels& labels);
 
+/// The threads of all fetches: those that move bytes, and one that works out sums.
+struct FetchThreads
+{
+    TcpSocketMaker sockets;
+    std::shared_ptr<Workers> sums = std::make_shared<Workers>(1);
+};
+
 /// One package on its way from its address to its target; several may run on one event loop. Nothing is asked
 /// and nothing is printed. Not to be deleted from inside one of its signals.
 class PackageFetch : public QObject
@@ -38,7 +46,7 @@ class PackageFetch : public QObject
 public:
     /// `patience`: how long the peer may send nothing.
     PackageFetch(const QString& url, const PackageTarget& target, std::chrono::seconds patience,
-                 QObject* parent = nullptr);
+                 FetchThreads& threads, QObject* parent = nullptr);
     ~PackageFetch() override;
 
     /// Takes the target's place on the disk and asks the host. ended() comes from the event loop, or at once
@@ -49,6 +57,8 @@ public:
     [[nodiscard]] bool isEnded() const { return m_ended; }
     /// Whether the package stands at its target, of the document's size.
     [[nodiscard]] bool hasArrived() const { return m_files.hasArrived(); }
+    /// Of the package that has arrived, once, when they were wanted and could be worked out while it came.
+    std::optional<PackageSums> takeSums() { return m_files.takeSums(); }
     /// A sentence, when it has ended without having arrived.
     [[nodiscard]] const QString& problem() const { return m_files.problem(); }
     [[nodiscard]] const DownloadLabels& labels() const { return m_client->labels(); }

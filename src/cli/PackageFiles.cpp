@@ -40,24 +40,30 @@ QString folderOf(const QString& path)
     return QFileInfo(path).path();
 }
 
-/// The disk's own file, whose failing writes are told to the owner as well.
+/// The disk's own file, whose failing writes are told to the owner as well, and its growth to the sum, if
+/// any.
 class ToldFile : public DownloadFile
 {
 public:
-    ToldFile(std::unique_ptr<DownloadFile> file, std::function<void(const RunTimeError&)> failed)
-        : m_file(std::move(file)), m_failed(std::move(failed))
+    ToldFile(std::unique_ptr<DownloadFile> file, ArrivalSum* sum,
+             std::function<void(const RunTimeError&)> failed)
+        : m_file(std::move(file)), m_sum(sum), m_failed(std::move(failed))
     {
     }
 
     void open(const QString& path) override
     {
         telling([&] { m_file->open(path); });
+        if (m_sum)
+            m_sum->begin(path);
     }
     [[nodiscard]] bool isOpen() const override { return m_file->isOpen(); }
     void close() override { m_file->close(); }
     void write(QByteArrayView bytes) override
     {
         telling([&] { m_file->write(bytes); });
+        if (m_sum)
+            m_sum->grow(bytes.size());
     }
     void appendFrom(Socket& socket, const QByteArray& except,
                     std::function<void(const Appended&)> done) override
@@ -66,6 +72,8 @@ public:
             m_file->appendFrom(socket, except, [this, done = std::move(done)](const Appended& appended) {
                 if (appended.failure)
                     m_failed(*appended.failure);
+                else if (m_sum)
+                    m_sum->grow(appended.bytes);
                 done(appended);
             });
         });
@@ -83,6 +91,7 @@ private:
     }
 
     std::unique_ptr<DownloadFile> m_file;
+    ArrivalSum* m_sum;
     std::function<void(const RunTimeError&)> m_failed;
 };
 
@@ -98,8 +107,9 @@ QString PackageTarget::marker() const
     return QString(path).replace(u".pkg"_s, u".txt"_s);
 }
 
-PackageFiles::PackageFiles(PackageTarget target, std::function<qint64()> told)
-    : m_target(std::move(target)), m_told(std::move(told))
+PackageFiles::PackageFiles(PackageTarget target, std::function<qint64()> told,
+                           std::shared_ptr<Workers> workers)
+    : m_target(std::move(target)), m_told(std::move(told)), m_sum(std::move(workers))
 {
 }
 
@@ -181,7 +191,8 @@ void PackageFiles::release()
 
 std::unique_ptr<DownloadFile> PackageFiles::makeFile()
 {
-    return std::make_unique<ToldFile>(m_disk.makeFile(), [this](const RunTimeError& error) {
+    ArrivalSum* sum = m_target.summed ? &m_sum : nullptr;
+    return std::make_unique<ToldFile>(m_disk.makeFile(), sum, [this](const RunTimeError& error) {
         const QString temporary = m_target.temporary();
         if (error.number() == errors::diskFull)
             noteFailure(temporary, ENOSPC);

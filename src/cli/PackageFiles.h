@@ -1,5 +1,6 @@
 #pragma once
 
+#include "download/ArrivalSum.h"
 #include "download/DiskFiles.h"
 
 #include <QString>
@@ -15,6 +16,7 @@ struct PackageTarget
     QString path;                    ///< absolute, ends in ".pkg"
     std::optional<qint64> size = {}; ///< what the document says
     bool overwrite = false;
+    bool summed = false; ///< its sums are wanted
 
     [[nodiscard]] QString temporary() const;
     [[nodiscard]] QString marker() const;
@@ -28,7 +30,7 @@ class PackageFiles : public DownloadFiles
 {
 public:
     /// `told`: the size that the server named, below 0 when it named none.
-    PackageFiles(PackageTarget target, std::function<qint64()> told);
+    PackageFiles(PackageTarget target, std::function<qint64()> told, std::shared_ptr<Workers> workers);
     ~PackageFiles() override { release(); }
     PackageFiles(const PackageFiles&) = delete;
     PackageFiles& operator=(const PackageFiles&) = delete;
@@ -39,6 +41,8 @@ public:
     /// Takes away what claim() has made, unless the package is there.
     void release();
     [[nodiscard]] bool hasArrived() const { return m_arrived; }
+    /// Of the package that has arrived, once, as far as they could be worked out while it came.
+    std::optional<PackageSums> takeSums() { return m_sum.finish(m_target.path); }
     /// A sentence about the first thing that failed.
     [[nodiscard]] const QString& problem() const { return m_problem; }
     void note(const QString& problem);
@@ -59,6 +63,7 @@ private:
     PackageTarget m_target;
     std::function<qint64()> m_told;
     DiskFiles m_disk;
+    ArrivalSum m_sum;
     QString m_problem;
     bool m_claimed = false;
     bool m_madeMarker = false;

@@ -20,7 +20,9 @@ namespace varnhold {
 
 namespace {
 
-// What an ordinary pipe of the kernel holds. Larger turns would starve timers and other connections.
+// What a handler may take on the event loop's thread in one turn.
+constexpr qint64 handedLimit = qint64{128} << 10;
+// What an ordinary pipe of the kernel holds.
 constexpr qint64 chunkLimit = qint64{1} << 20;
 // One order of a mover: more would be long to wait for, less leaves the movers idle between two.
 constexpr qint64 moveLimit = 4 * chunkLimit;
@@ -313,7 +315,7 @@ void TcpSocket::onReadable()
         return;
     }
     if (const qint64 waiting = waitingAt(m_descriptor); waiting > 0)
-        return handOver(waiting);
+        return handOver(std::min(waiting, handedLimit));
 
     char next = 0;
     const ssize_t seen = ::recv(m_descriptor, &next, 1, MSG_PEEK);

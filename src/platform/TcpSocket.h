@@ -17,7 +17,7 @@ namespace varnhold {
 
 /// A socket of the system, non-blocking, watched by the event loop. Names are resolved beside the event loop;
 /// the addresses of a name are tried one after another, IPv6 and IPv4 alike. One event hands over at most
-/// 1 MiB, so that other connections and timers get their turn, and no event of a connection is raised
+/// 128 KiB, so that other connections and timers get their turn, and no event of a connection is raised
 /// while one of it is still being handled or moved.
 class TcpSocket : public Socket
 {
