@@ -1,5 +1,6 @@
 #include "platform/richtext/RichTextBox.h"
 
+#include "platform/Twips.h"
 #include "platform/richtext/RichTextClipboard.h"
 #include "platform/richtext/RichTextDocument.h"
 #include "platform/richtext/RichTextFormats.h"
@@ -24,6 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double tabDistance = 48; // half an inch
+constexpr int leastWidth = 60;     // of a line, in pixels, whatever the right margin
 
 /// The bytes that readRtf wants. Rich text is ASCII; characters beyond it that got into it literally keep
 /// their meaning as escapes.
@@ -74,6 +76,55 @@ void RichTextBox::setTextRTF(const QString& rtf)
         setTextCursor(QTextCursor(document()));
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
+}
+
+void RichTextBox::replaceContents(const RichText& text)
+{
+    RichText shown = text;
+    prepare(shown);
+    replaceRichText(*document(), shown);
+    if (!Locked())
+        setTextCursor(QTextCursor(document()));
+}
+
+RichText RichTextBox::contents() const
+{
+    return richTextOf(*document());
+}
+
+QString RichTextBox::plainText() const
+{
+    return plainTextOf(document()->toRawText());
+}
+
+bool RichTextBox::isEmpty() const
+{
+    return document()->isEmpty();
+}
+
+void RichTextBox::edit(const std::function<void(QTextCursor&)>& change)
+{
+    if (Locked())
+        return;
+    QTextCursor selection = textCursor();
+    change(selection);
+    setTextCursor(selection);
+}
+
+void RichTextBox::setRightMargin(int twips)
+{
+    m_rightMargin = std::max(twips, 0);
+    wrap();
+    fitIndents(*document());
+    refreshColors();
+}
+
+void RichTextBox::wrap()
+{
+    const int width = viewport()->width() - pixelsFromTwips(m_rightMargin);
+    setLineWrapMode(m_rightMargin > 0 ? FixedPixelWidth : WidgetWidth);
+    if (m_rightMargin > 0)
+        setLineWrapColumnOrWidth(std::max(width, leastWidth));
 }
 
 void RichTextBox::prepare(RichText&) const {}
@@ -173,8 +224,11 @@ void RichTextBox::changeEvent(QEvent* event)
 void RichTextBox::resizeEvent(QResizeEvent* event)
 {
     QTextEdit::resizeEvent(event);
-    if (event->size().width() != event->oldSize().width())
+    if (event->size().width() != event->oldSize().width()) {
+        if (m_rightMargin > 0)
+            wrap();
         fitIndents(*document());
+    }
     refreshColors();
 }
 

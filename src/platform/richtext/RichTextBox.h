@@ -2,6 +2,8 @@
 
 #include <QTextEdit>
 
+#include <functional>
+
 namespace varnhold {
 
 struct RichText;
@@ -18,6 +20,20 @@ public:
     [[nodiscard]] QString TextRTF() const;
     /// Replaces the contents and shows their start; a text that is no RTF shows as it stands. Not undoable.
     void setTextRTF(const QString& rtf);
+
+    /// The same contents as values, and as one step that Undo takes back.
+    void replaceContents(const RichText& text);
+    [[nodiscard]] RichText contents() const;
+    /// Without what stands for kept groups; lines end with "\n".
+    [[nodiscard]] QString plainText() const;
+    /// Neither text nor a kept group.
+    [[nodiscard]] bool isEmpty() const;
+
+    /// Runs a change of RichTextTools.h on the selection; not while the box is locked.
+    void edit(const std::function<void(QTextCursor&)>& change);
+    /// Room that lines leave free at the view's right, in twips; not part of the contents.
+    [[nodiscard]] int RightMargin() const { return m_rightMargin; }
+    void setRightMargin(int twips);
 
     [[nodiscard]] bool Locked() const { return isReadOnly(); }
     /// While locked the text can be read, selected and copied; the keys scroll.
@@ -55,8 +71,10 @@ private:
     void layColors();
     void drawBullet(QPainter& painter, const QTextBlock& block) const;
     bool endBullet();
+    void wrap();
 
     bool m_colorsAreOld = true;
+    int m_rightMargin = 0;
 };
 
 } // namespace varnhold

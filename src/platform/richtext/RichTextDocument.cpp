@@ -36,11 +36,11 @@ struct CharacterFormatHash
     }
 };
 
-/// Twips between the document's margins; 0 where it has no width.
-int viewWidthOf(const QTextDocument& document)
+void keepHeader(QTextFrame& root, const std::vector<QByteArray>& header)
 {
-    const double width = document.textWidth() - 2 * document.documentMargin();
-    return width > 0 ? qRound(width * twipsPerPixel) : 0;
+    QTextFrameFormat format = root.frameFormat();
+    format.setProperty(headerProperty, QVariant::fromValue(QByteArrayList(header.begin(), header.end())));
+    root.setFrameFormat(format);
 }
 
 /// A document holds few formats many times over.
@@ -49,14 +49,29 @@ class Fill
 public:
     /// Empties the document. Done inside the edit, the whole counts as new to the layout, which then lays out
     /// what is seen and leaves the rest for idle moments.
-    explicit Fill(QTextDocument& document) : m_cursor(&document), m_viewWidth(viewWidthOf(document))
+    Fill(QTextDocument& document, const RichText& text)
+        : m_cursor(&document), m_viewWidth(viewWidthOf(document))
     {
+        QAbstractTextDocumentLayout& layout = *document.documentLayout();
+        if (layout.handlerForObject(verbatimObject) == nullptr)
+            layout.registerHandler(verbatimObject, new EmptyObject(&layout));
         m_cursor.beginEditBlock();
-        document.clear();
+        if (document.isUndoRedoEnabled()) {
+            m_cursor.select(QTextCursor::Document);
+            m_cursor.removeSelectedText();
+            m_cursor.setBlockCharFormat({});
+        } else {
+            document.clear();
+        }
+        if (text.header != richTextHeader(document))
+            keepHeader(*document.rootFrame(), text.header);
+        for (const RichText::Paragraph& each : text.paragraphs)
+            paragraph(each);
     }
     ~Fill() { m_cursor.endEditBlock(); }
     Q_DISABLE_COPY_MOVE(Fill)
 
+private:
     void paragraph(const RichText::Paragraph& paragraph)
     {
         if (!m_block || *m_blockValue != paragraph.format) {
@@ -72,7 +87,6 @@ public:
             run(each);
     }
 
-private:
     void run(const RichText::Run& run)
     {
         if (!run.verbatim.isEmpty()) {
@@ -228,31 +242,26 @@ private:
     bool m_maybeNumber = false; ///< no text has come yet but the paragraph's number
 };
 
-void keepHeader(QTextFrame& root, const std::vector<QByteArray>& header)
-{
-    QTextFrameFormat format = root.frameFormat();
-    format.setProperty(headerProperty, QVariant::fromValue(QByteArrayList(header.begin(), header.end())));
-    root.setFrameFormat(format);
-}
-
 } // namespace
 
 void setRichText(QTextDocument& document, const RichText& text)
 {
-    QAbstractTextDocumentLayout& layout = *document.documentLayout();
-    if (layout.handlerForObject(verbatimObject) == nullptr)
-        layout.registerHandler(verbatimObject, new EmptyObject(&layout));
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
-    {
-        Fill fill(document);
-        if (!text.header.empty())
-            keepHeader(*document.rootFrame(), text.header);
-        for (const RichText::Paragraph& paragraph : text.paragraphs)
-            fill.paragraph(paragraph);
-    }
+    Fill(document, text);
     document.setUndoRedoEnabled(undo);
     document.setModified(false);
+}
+
+void replaceRichText(QTextDocument& document, const RichText& text)
+{
+    Fill(document, text);
+}
+
+int viewWidthOf(const QTextDocument& document)
+{
+    const double width = document.textWidth() - 2 * document.documentMargin();
+    return width > 0 ? qRound(width * twipsPerPixel) : 0;
 }
 
 void fitIndents(QTextDocument& document)

@@ -230,6 +230,8 @@ RichText::CharacterFormat toCharacterFormat(const QTextCharFormat& text)
         format.halfPoints = qRound(text.fontPointSize() * 2);
     else if (text.hasProperty(QTextFormat::FontPixelSize))
         format.halfPoints = qRound(text.intProperty(QTextFormat::FontPixelSize) * halfPointsPerPixel);
+    if (format.halfPoints == RichText::ownHalfPoints)
+        format.halfPoints = 0;
     if (text.hasProperty(QTextFormat::ForegroundBrush)) {
         const QRgb color = text.foreground().color().rgb();
         format.color = static_cast<quint32>(qRed(color)) | static_cast<quint32>(qGreen(color)) << 8U |

@@ -46,7 +46,7 @@ private:
         format.strikethrough = below(6) == 0;
         format.script = static_cast<RichText::Script>(below(3));
         format.font = QStringList{u""_s, u"DejaVu Sans"_s, u"Nowhere, Sans"_s}[below(3)];
-        format.halfPoints = below(2) == 0 ? 0 : 4 + below(200);
+        format.halfPoints = below(2) == 0 ? 0 : 18 + below(200);
         if (below(2) == 0)
             format.color = m_random.bounded(0x1000000U);
         return format;
