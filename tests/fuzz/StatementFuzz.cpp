@@ -1,0 +1,143 @@
+// Reading damaged statements, and matching damaged patterns.
+
+#include "fuzz/FuzzTarget.h"
+#include "platform/RunTimeError.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/DatabaseStatement.h"
+#include "platform/database/TextFolding.h"
+#include "platform/database/TextPattern.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <optional>
+
+namespace varnhold::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::optional<DatabaseStatement> tryRead(const QString& text, const QByteArray& input)
+{
+    try {
+        return readStatement(text);
+    } catch (const RunTimeError& error) {
+        require(error.number() == errors::database::badSyntax, "another error", input);
+        return {};
+    }
+}
+
+bool isWord(const QString& text)
+{
+    return !text.isEmpty() &&
+           std::ranges::all_of(text, [](QChar c) { return c.isLetterOrNumber() || c == u'_'; });
+}
+
+QString written(const DatabaseStatement& statement)
+{
+    const bool deletes = statement.kind == DatabaseStatement::Kind::Delete;
+    QString text = (deletes ? u"DELETE * FROM "_s : u"SELECT * FROM "_s) + statement.table;
+    if (statement.condition) {
+        const bool like = statement.condition->comparison == DatabaseStatement::Comparison::Like;
+        text += u" where "_s + statement.condition->column + (like ? u" LIKE '"_s : u" ='"_s) +
+                statement.condition->value + u'\'';
+    }
+    if (statement.order)
+        text += u" ORDER BY "_s + statement.order->column +
+                (statement.order->descending ? u" Desc"_s : u" Asc"_s);
+    return text;
+}
+
+void checkStatement(const QString& text, const QByteArray& input)
+{
+    const std::optional<DatabaseStatement> read = tryRead(text, input);
+    if (!read)
+        return;
+    require(isWord(read->table), "a table that is no word", input);
+    require(!read->condition || isWord(read->condition->column), "a column that is no word", input);
+    require(!read->order || isWord(read->order->column), "an order that is no word", input);
+    require(!read->condition || !read->condition->value.contains(u'\''), "a value that ends earlier", input);
+    if (read->kind == DatabaseStatement::Kind::Delete)
+        require(read->condition && !read->order &&
+                    read->condition->comparison == DatabaseStatement::Comparison::Equal,
+                "a delete of more than was named", input);
+    const std::optional<DatabaseStatement> again = tryRead(written(*read), input);
+    require(again && written(*again) == written(*read), "not what it was read as", input);
+}
+
+/// Row by row of the table that a plain search fills.
+bool matchesPlainly(const QList<uint>& pattern, const QList<uint>& text)
+{
+    std::vector<bool> reached(static_cast<std::size_t>(text.size()) + 1);
+    reached[0] = true;
+    for (const uint wanted : pattern) {
+        std::vector<bool> next(reached.size());
+        for (std::size_t i = 0; i < reached.size(); ++i) {
+            if (wanted == U'%')
+                next[i] = reached[i] || (i > 0 && next[i - 1]);
+            else if (i > 0)
+                next[i] = reached[i - 1] && (wanted == U'_' || wanted == text[static_cast<qsizetype>(i - 1)]);
+        }
+        reached = std::move(next);
+    }
+    return reached.back();
+}
+
+void checkPattern(QByteArrayView pattern, QByteArrayView text, const QByteArray& input)
+{
+    const auto characters = [](QByteArrayView utf8) {
+        return QString::fromUtf8(QByteArray::fromStdString(folded(utf8))).toUcs4();
+    };
+    const TextPattern read(pattern);
+    require(read.matches(text) == matchesPlainly(characters(pattern), characters(text)), "another match",
+            input);
+    require(!read.matchesNull() || read.matches(text), "everything, but not this", input);
+}
+
+} // namespace
+
+void check(const QByteArray& input)
+{
+    checkStatement(QString::fromUtf8(input), input);
+    const qsizetype cut = std::min<qsizetype>(input.indexOf('\n') + 1, 200);
+    checkPattern(QByteArrayView(input).first(cut),
+                 QByteArrayView(input).sliced(cut).first(std::min<qsizetype>(input.size() - cut, 400)),
+                 input);
+}
+
+const std::vector<QByteArray>& pieces()
+{
+    static const std::vector<QByteArray> all = {"SELECT * FROM ",
+                                                "DELETE * FROM ",
+                                                " where ",
+                                                " LIKE ",
+                                                " ORDER BY ",
+                                                " Desc",
+                                                " Asc",
+                                                "'",
+                                                "''",
+                                                "=",
+                                                ";",
+                                                "*",
+                                                "GameID",
+                                                "PS3Games",
+                                                "%",
+                                                "_",
+                                                "%%",
+                                                "[",
+                                                "]",
+                                                "\n",
+                                                "a%_b",
+                                                "\xc3\x84",
+                                                "\xc3\xa4",
+                                                "\xf0\x9f\x8e\xae",
+                                                "\xff",
+                                                "\xe2\x84\xaa",
+                                                "--",
+                                                "/*",
+                                                QByteArray(1, '\0')};
+    return all;
+}
+
+} // namespace varnhold::test
