@@ -109,12 +109,15 @@ bool benchSearches(const QString& folder, int pairs)
     return kept;
 }
 
-/// Most memory that the process ever held, in MiB.
+/// Most memory that the process held since the last call, in MiB.
 int peakMemory()
 {
     QFile status(u"/proc/self/status"_s);
     status.open(QIODevice::ReadOnly);
     const QByteArray text = status.readAll();
+    QFile reset(u"/proc/self/clear_refs"_s);
+    reset.open(QIODevice::WriteOnly);
+    reset.write("5");
     const qsizetype at = text.indexOf("VmHWM:");
     return text.mid(at + 6, text.indexOf("kB", at) - at - 6).trimmed().toInt() / 1024;
 }
@@ -127,6 +130,7 @@ bool benchFiles(const QString& folder, int pairs, int megabytes)
     makePictures(source, megabytes);
     const auto sync = [](const QString& path) { run(u"sync"_s, {path}); };
     const std::string size = std::to_string(megabytes) + " MB";
+    peakMemory();
     const int idle = peakMemory();
     bool kept = printPaired("compaction of " + size,
                             comparePaired(

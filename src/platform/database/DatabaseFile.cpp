@@ -60,6 +60,7 @@ DatabaseFile::DatabaseFile(const QString& path, DatabaseWatch* watch) : m_patien
         throw databaseError(errors::database::cannotOpen, path);
     }
     m_patience.watchOver(m_engine.get());
+    m_isUtf8 = askOf(m_engine.get(), "PRAGMA encoding") == "UTF-8";
     m_readOnly = sqlite3_db_readonly(m_engine.get(), "main") != 0;
 }
 
@@ -94,14 +95,14 @@ EngineStatement DatabaseFile::statement(const QByteArray& sql)
 {
     const auto found = m_statements.find(sql);
     if (found != m_statements.end())
-        return EngineStatement(found->second.get(), m_patience);
+        return EngineStatement(found->second.get(), m_patience, m_isUtf8);
     sqlite3_stmt* prepared = nullptr;
     const int result = sqlite3_prepare_v3(m_engine.get(), sql.constData(), static_cast<int>(sql.size()),
                                           SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
     if (result != SQLITE_OK)
         fail(result);
     m_statements.emplace(sql, PreparedStatement(prepared, &sqlite3_finalize));
-    return EngineStatement(prepared, m_patience);
+    return EngineStatement(prepared, m_patience, m_isUtf8);
 }
 
 void DatabaseFile::fail(int result) const

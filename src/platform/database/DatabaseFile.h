@@ -81,6 +81,7 @@ private:
     std::unordered_map<std::string, std::shared_ptr<const TableSchema>> m_tables; ///< by folded name
     std::unique_ptr<OpenValue> m_value;
     bool m_readOnly = false;
+    bool m_isUtf8 = false;
     quint64 m_writes = 0;
     bool m_writeAhead = false; ///< the file has a write-ahead log
     bool m_goesBehind = false; ///< which its owner did not want: it goes at the close

@@ -19,8 +19,9 @@ using PreparedStatement = std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)>;
 class EngineStatement
 {
 public:
-    EngineStatement(sqlite3_stmt* statement, EnginePatience& patience)
-        : m_statement(statement), m_patience(patience)
+    /// `isUtf8`: the file holds its texts so.
+    EngineStatement(sqlite3_stmt* statement, EnginePatience& patience, bool isUtf8)
+        : m_statement(statement), m_patience(patience), m_isUtf8(isUtf8)
     {
         patience.progressed();
     }
@@ -50,6 +51,7 @@ private:
 
     sqlite3_stmt* m_statement;
     EnginePatience& m_patience;
+    bool m_isUtf8;
 };
 
 /// A failure of the engine as the layer's error. `result` is the extended code.
