@@ -16,7 +16,9 @@
 #include "platform/MessageBoxes.h"
 #include "platform/RunTimeError.h"
 #include "platform/TcpSocket.h"
+#include "platform/database/DatabaseCompaction.h"
 #include "platform/database/DatabaseConnection.h"
+#include "platform/database/DatabaseCopy.h"
 #include "platform/database/Recordset.h"
 #include "state/ApplicationState.h"
 #include "state/SettingsFile.h"
@@ -195,6 +197,76 @@ void checkDatabase(FaultPlace& place, FaultOutcome outcome)
     EXPECT_TRUE(names.contains(u"added"_s) || outcome != FaultOutcome::Acknowledged);
 }
 
+// Its compaction and its backup
+
+/// Kept by its owner with a log, which is folded in first and wanted again afterwards.
+void prepareMaintenance(FaultPlace& place)
+{
+    const TestDatabase database(place.root.path(u"work/Games.mdb"_s));
+    QList<GameRow> rows;
+    for (int i = 0; i < 100; ++i)
+        rows.append({QString::number(i), u"name"_s, QString(900, u'n')});
+    database.addGames(u"PS3Games"_s, rows);
+    database.execute(u"DELETE FROM PS3Games WHERE GameID % 2; PRAGMA journal_mode = WAL"_s);
+    place.root.write(u"work/Backup/GameDB.mdb"_s, "the old backup");
+}
+
+template <typename Work> bool succeeds(Work&& work)
+{
+    try {
+        work();
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+bool useCompaction(const QString& root, const QString& /*argument*/)
+{
+    return succeeds([&] { compactDatabaseFile(root + u"/Games.mdb"_s); });
+}
+
+bool useBackup(const QString& root, const QString& /*argument*/)
+{
+    return succeeds([&] {
+        clearDatabaseLeftovers(root + u"/Backup"_s);
+        copyDatabaseFile(root + u"/Games.mdb"_s, root + u"/Backup/GameDB.mdb"_s);
+    });
+}
+
+void expectWhole(const QString& path)
+{
+    const TestDatabase database = TestDatabase::opened(path);
+    EXPECT_TRUE(database.isSound());
+    EXPECT_EQ(database.column(u"SELECT count(*) || ' ' || sum(GameID) || ' ' || sum(length(GameNotes)) FROM "
+                              "PS3Games"_s),
+              QStringList{u"50 2450 45000"_s});
+}
+
+void checkCompaction(FaultPlace& place, FaultOutcome outcome)
+{
+    expectWhole(place.root.path(u"work/Games.mdb"_s));
+    if (outcome == FaultOutcome::Acknowledged) {
+        QStringList files = QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden);
+        files.removeIf(
+            [](const QString& name) { return name.endsWith(u"-journal"); }); // where nothing can be removed
+        EXPECT_EQ(files, QStringList{u"Games.mdb"_s});
+    }
+}
+
+void checkBackup(FaultPlace& place, FaultOutcome outcome)
+{
+    expectWhole(place.root.path(u"work/Games.mdb"_s));
+    if (outcome != FaultOutcome::Acknowledged &&
+        place.root.read(u"work/Backup/GameDB.mdb"_s) == "the old backup")
+        return;
+    expectWhole(place.root.path(u"work/Backup/GameDB.mdb"_s));
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(place.root.path(u"work/Backup"_s)).entryList(QDir::Files | QDir::Hidden),
+                  QStringList{u"GameDB.mdb"_s});
+    }
+}
+
 } // namespace
 
 const std::vector<WritingPath>& writingPaths()
@@ -232,6 +304,18 @@ const std::vector<WritingPath>& writingPaths()
          .use = useDatabase,
          .check = checkDatabase,
          .most = 3,
+         .mayPassOverFlushes = true},
+        {.name = "Compaction",
+         .prepare = prepareMaintenance,
+         .use = useCompaction,
+         .check = checkCompaction,
+         .most = 5,
+         .mayPassOverFlushes = true},
+        {.name = "Backup",
+         .prepare = prepareMaintenance,
+         .use = useBackup,
+         .check = checkBackup,
+         .most = 5,
          .mayPassOverFlushes = true},
     };
     return paths;

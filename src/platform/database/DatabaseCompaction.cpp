@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -104,7 +105,11 @@ void compactDatabaseFile(const QString& path, DatabaseWatch* watch)
     if (path.contains(QChar(u'\0')) || !isRegularFile(path) || QFileInfo(path).size() == 0)
         throw databaseError(errors::database::cannotOpen, path);
     const QString source = QFileInfo(path).canonicalFilePath();
-    clearDatabaseLeftovers(QFileInfo(source).path());
+    // Before for what a kill has left, and afterwards for the journal, should the engine not have got rid of
+    // it.
+    const auto clear = [folder = QFileInfo(source).path()] { clearDatabaseLeftovers(folder); };
+    clear();
+    const auto cleared = qScopeGuard(clear);
     LockedDatabase old(source, watch);
     FileReplacement fresh(source);
     runOn(old.engine(),
