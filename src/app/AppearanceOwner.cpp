@@ -8,6 +8,7 @@
 #include "app/settings/frmSettings.h"
 #include "appearance/ButtonSigns.h"
 #include "download/SkinDownloads.h"
+#include "state/Settings.h"
 
 #include <QLabel>
 
@@ -39,6 +40,12 @@ void AppearanceOwner::dressDownload(QWidget& window)
 {
     m_skin.Load_DL(window);
     drawButtonSigns(window);
+}
+
+void AppearanceOwner::dressRenamer(QWidget& window)
+{
+    m_skin.loadRenamer(window);
+    SetOpacity(m_common.settings.opacity(OpacityOf::Main), window);
 }
 
 void AppearanceOwner::connectWindows()

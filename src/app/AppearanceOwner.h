@@ -28,6 +28,8 @@ public:
     void setOpacity(OpacityOf which, int value) { m_windows.setOpacity(which, value); }
     /// Dresses and shapes a download window; failures are ignored.
     void dressDownload(QWidget& window);
+    /// Gives the renamer its buttons' faces and the main window's opacity.
+    void dressRenamer(QWidget& window);
 
 Q_SIGNALS:
     /// The user moved a slider of the opacity page; its key is written.

@@ -4,13 +4,15 @@
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
 #include "lookup/Lookup.h"
+#include "state/ApplicationState.h"
 
 #include <QCoreApplication>
 
 namespace varnhold {
 
 DownloadOwner::DownloadOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance)
-    : m_windows({.client = {common.world.sockets, m_files, m_clock, common.pump, common.world.boxes,
+    : m_state(common.state),
+      m_windows({.client = {common.world.sockets, m_files, m_clock, common.pump, common.world.boxes,
                             QCoreApplication::applicationName()},
                  .state = common.state,
                  .settings = common.settings,
@@ -63,6 +65,11 @@ void DownloadOwner::bindActions(MenuCommands& commands)
     commands.bind("mnuKill", [this] { m_actions->mnuKill_Click(); });
     commands.bind("mnuExplore", [this] { m_actions->mnuExplore_Click(); });
     commands.bind("mnuOpenDir", [this] { m_actions->mnuOpenDir_Click(); });
+}
+
+QString DownloadOwner::batchFolder() const
+{
+    return m_batch.isRunning() ? m_state.DLFolder : QString();
 }
 
 void DownloadOwner::unloadAll()

@@ -30,7 +30,8 @@ public:
     [[nodiscard]] DownloadPlanner& planner() { return m_planner; }
     /// frmSearch leaves the screen when a batch starts.
     void onSearchInTheWay(std::function<void()> action) { m_batchHost.onSearchInTheWay(std::move(action)); }
-    [[nodiscard]] const BatchDownload& batch() const { return m_batch; }
+    /// Empty while no batch runs.
+    [[nodiscard]] QString batchFolder() const;
     [[nodiscard]] QStringList filesInUse() const { return m_windows.filesInUse(); }
     /// At the program's end.
     void unloadAll();
@@ -39,6 +40,7 @@ private:
     void bindBatch(MenuCommands& commands);
     void bindActions(MenuCommands& commands);
 
+    const ApplicationState& m_state;
     MonotonicClock m_clock;
     DiskFiles m_files;
     DownloadWindows m_windows;

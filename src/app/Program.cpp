@@ -56,6 +56,9 @@ Program::Program(const Paths& paths, World world)
       m_appearance(m_common),
       m_lookups(m_common),
       m_downloads(m_common, m_lookups.lookup(), m_appearance),
+      m_renamer(m_common, {.filesInUse = [this] { return m_downloads.filesInUse(); },
+                           .batchFolder = [this] { return m_downloads.batchFolder(); },
+                           .dress = [this](QWidget& window) { m_appearance.dressRenamer(window); }}),
       m_database(m_common, m_lookups.lookup(), m_appearance.page()),
       m_covers(m_common),
       m_settingsPages(m_common, m_lookups.certificates()),
@@ -84,6 +87,10 @@ Program::Program(const Paths& paths, World world)
       m_exitPath({m_settings, m_world.boxes, m_sounds, m_pump}, *this)
 {
     connectMainWindow();
+    connect(&m_appearance, &AppearanceOwner::opacityMoved, this, [this](OpacityOf which, int value) {
+        if (which == OpacityOf::Main)
+            m_renamer.followOpacity(value);
+    });
     m_startUp.onAbandoned([this] { endProgram(); });
 }
 

@@ -5,6 +5,7 @@
 #include "app/DatabaseOwner.h"
 #include "app/DownloadOwner.h"
 #include "app/LookupOwner.h"
+#include "app/RenamerOwner.h"
 #include "app/SettingsOwner.h"
 #include "app/World.h"
 #include "app/main/frmMain.h"
@@ -79,6 +80,7 @@ private:
     AppearanceOwner m_appearance;
     LookupOwner m_lookups;
     DownloadOwner m_downloads;
+    RenamerOwner m_renamer;
     DatabaseOwner m_database;
     CoverOwner m_covers;
     SettingsOwner m_settingsPages;

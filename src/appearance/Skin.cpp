@@ -270,17 +270,28 @@ void Skin::reshapeWindows()
 
 void Skin::Load_DL(QWidget& window)
 {
-    const SkinColors& colors = m_services.page.Shape_Color;
-    SkinPictures pictures(m_services.state.SkinPath);
-    for (const SkinTarget& target : downloadTargets()) {
+    dress(window, downloadTargets(), m_services.state.SkinPath);
+    for (XP_ProgressBar* const bar : controlsOf<XP_ProgressBar>(window))
+        colorBar(*bar, m_services.page.Shape_Color[SkinPage::Back]);
+    shape(window);
+}
+
+void Skin::loadRenamer(QWidget& window)
+{
+    const QString folder =
+        m_services.file.INI_Read(settingsKeys::skinSection(), u"Skin Path"_s, m_services.paths.defaultSkin());
+    dress(window, renamerTargets(), folder);
+}
+
+void Skin::dress(QWidget& window, std::span<const SkinTarget> targets, const QString& folder)
+{
+    SkinPictures pictures(folder);
+    for (const SkinTarget& target : targets) {
         QWidget* const found = *target.control == '\0' ? &window : controlOf(window, target.control);
         if (found != nullptr)
             silently([&] { applyTarget(target, *found, pictures); });
     }
-    for (XP_ProgressBar* const bar : controlsOf<XP_ProgressBar>(window))
-        colorBar(*bar, colors[SkinPage::Back]);
-    assignSkinColorsInside(window, colors);
-    shape(window);
+    assignSkinColorsInside(window, m_services.page.Shape_Color);
 }
 
 void Skin::makeTextsReadable()

@@ -78,6 +78,8 @@ public:
     bool loadLayout(int layout);
     /// Dresses and shapes a download window; failures are ignored.
     void Load_DL(QWidget& window);
+    /// The renamer's faces, from the skin that Settings.ini names now; failures are ignored.
+    void loadRenamer(QWidget& window);
     /// Cuts a window to its picture's shape.
     void shape(QWidget& window);
 
@@ -92,6 +94,8 @@ public:
     [[nodiscard]] const SkinCatalogue& catalogue() const { return m_catalogue; }
 
 private:
+    /// A window that no skin's application walks: its pictures and colours; failures are ignored.
+    void dress(QWidget& window, std::span<const SkinTarget> targets, const QString& folder);
     void apply();
     void applyMain(SkinPictures& pictures);
     void readColors(const SkinIni& ini);

@@ -151,6 +151,14 @@ constexpr SkinTarget databaseButtonRows[] = {
     faces("frmDB", "cmdSave", wide),
 };
 
+constexpr SkinTarget renamerRows[] = {
+    faces("frmReNamer", "btnLoad", narrow),
+    faces("frmReNamer", "btnProcess", narrow),
+    faces("frmReNamer", "btnReName", narrow),
+    faces("frmReNamer", "btnSearch", narrow),
+    faces("frmReNamer", "btnCancel", narrow),
+};
+
 constexpr SkinTarget downloadRows[] = {
     picture("frm_Winsock", "", "background-dl.bmp"),
     faces("frm_Winsock", "btnExit", updown),
@@ -189,6 +197,11 @@ std::span<const SkinTarget> databaseButtonTargets()
 std::span<const SkinTarget> downloadTargets()
 {
     return downloadRows;
+}
+
+std::span<const SkinTarget> renamerTargets()
+{
+    return renamerRows;
 }
 
 std::span<const SkinTarget> normalTargets()
