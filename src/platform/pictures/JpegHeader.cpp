@@ -49,15 +49,17 @@ public:
         return std::nullopt;
     }
 
-    /// What stands behind a marker, and goes behind it; empty where its length is none or is not there.
-    QByteArrayView takeSegment()
+    /// What stands behind a marker, and goes behind it; none where not all of it is there. A length too short
+    /// for itself counts as empty: decoders pass over it.
+    std::optional<QByteArrayView> takeSegment()
     {
-        if (m_bytes.size() - m_at < 2)
-            return {};
-        const qsizetype length = wordAt(m_at);
-        if (length < 2 || length > m_bytes.size() - m_at)
-            return {};
-        const QByteArrayView segment = m_bytes.sliced(m_at + 2, length - 2);
+        constexpr int lengthBytes = 2;
+        if (m_bytes.size() - m_at < lengthBytes)
+            return std::nullopt;
+        const int length = std::max(wordAt(m_at), lengthBytes);
+        if (length > m_bytes.size() - m_at)
+            return std::nullopt;
+        const QByteArrayView segment = m_bytes.sliced(m_at + lengthBytes, length - lengthBytes);
         m_at += length;
         return segment;
     }
@@ -134,10 +136,12 @@ JpegHeader jpegHeader(QByteArrayView bytes, int countTo, bool toEnd)
             header.hasEnd = header.scans > 0;
             break;
         }
-        const QByteArrayView segment = walk.takeSegment();
+        const std::optional<QByteArrayView> segment = walk.takeSegment();
+        if (!segment)
+            break;
         const bool isFrame = *marker == Baseline || *marker == Extended || *marker == Progressive;
         if (isFrame && !frame) {
-            frame = frameOf(segment, *marker == Progressive);
+            frame = frameOf(*segment, *marker == Progressive);
             if (!frame)
                 return {};
             header.size = frame->size;
@@ -149,7 +153,7 @@ JpegHeader jpegHeader(QByteArrayView bytes, int countTo, bool toEnd)
             return {};
         if (++header.scans == 1) {
             header.inOnePass =
-                !frame->isProgressive && !segment.isEmpty() && byteOf(segment, 0) == frame->components;
+                !frame->isProgressive && !segment->isEmpty() && byteOf(*segment, 0) == frame->components;
             header.heldBytes = header.inOnePass ? 0 : frame->coefficientBytes;
         }
         if (!toEnd && (header.inOnePass || header.scans > countTo))

@@ -188,7 +188,8 @@ bool isWithinLimits(const PictureHeader& header, qint64 byteCount)
     const qint64 count = qint64{header.size.width()} * header.size.height();
     return !header.size.isEmpty() && header.size.width() <= side && header.size.height() <= side &&
            count <= (header.inOnePass ? pixelsInOnePass : pixels) && header.heldBytes < memory &&
-           (!isJpeg || (byteCount <= jpegBytes && header.scans > 0 && header.scans <= scans));
+           (!isJpeg || (byteCount <= jpegBytes && header.scans > 0 && header.scans <= scans &&
+                        (header.inOnePass || count * header.scans <= pixelScans)));
 }
 
 bool isWholePicture(QByteArrayView bytes)

@@ -25,6 +25,7 @@ inline constexpr qint64 pixelsInOnePass = 64'000'000;
 inline constexpr qint64 pixels = 24'000'000; ///< of what is unpacked whole, and of what comes out of anything
 inline constexpr qint64 jpegBytes = qint64{32} << 20;
 inline constexpr int scans = 64;
+inline constexpr qint64 pixelScans = 400'000'000; ///< each scan passes over all pixels: a third of a second
 inline constexpr qint64 memory = 150'000'000; ///< bytes while one picture is read
 } // namespace pictureLimits
 

@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QImageReader>
 
-#include <cmath>
+#include <algorithm>
 
 namespace varnhold {
 
@@ -33,32 +33,28 @@ QByteArray formatOf(PictureKind kind)
     return {};
 }
 
-/// `size`, or one in its proportions of so many pixels.
-QSize bounded(const QSize& size, qint64 pixels)
-{
-    const double count = static_cast<double>(size.width()) * size.height();
-    if (count <= static_cast<double>(pixels))
-        return size;
-    const double scale = std::sqrt(static_cast<double>(pixels) / count);
-    return fittedSize(size, QSize(std::max(1, static_cast<int>(size.width() * scale)),
-                                  std::max(1, static_cast<int>(size.height() * scale))));
-}
-
+/// The size in which a picture is to come. A large JPEG comes in so many eighths of its own as there is room
+/// for twice, since the decoder may need both sides of its last step at once.
 QSize sizeToShow(const PictureHeader& header, const QSize& most)
 {
-    QSize size = header.size;
-    if (!most.isEmpty() && (size.width() > most.width() || size.height() > most.height()))
-        size = fittedSize(size, most);
-    // Two pictures stand side by side while one is scaled into the other.
+    const QSize& told = header.size;
+    const bool isTooLarge = !most.isEmpty() && (told.width() > most.width() || told.height() > most.height());
+    const QSize wanted = isTooLarge ? fittedSize(told, most) : told;
+    if (header.kind != PictureKind::Jpeg)
+        return wanted;
     constexpr qint64 pixelBytes = 4;
-    if (header.kind == PictureKind::Jpeg) {
-        const qint64 room = (pictureLimits::memory - header.heldBytes) / pixelBytes;
-        const bool fits = size == header.size && header.size.width() * qint64{header.size.height()} <=
-                                                     std::min(room, pictureLimits::pixels);
-        if (!fits)
-            size = bounded(size, room / 2);
-    }
-    return size;
+    constexpr int whole = 8;
+    const qint64 room = (pictureLimits::memory - header.heldBytes) / pixelBytes;
+    const auto count = [](const QSize& size) { return qint64{size.width()} * size.height(); };
+    if (wanted == told && count(told) <= std::min(room, pictureLimits::pixels))
+        return wanted;
+    int eighths = whole;
+    const auto inEighths = [&](int length) { return (length * eighths + whole - 1) / whole; };
+    while (eighths > 1 && 2 * count({inEighths(told.width()), inEighths(told.height())}) > room)
+        --eighths;
+    const QSize largest(std::max(1, told.width() * eighths / whole),
+                        std::max(1, told.height() * eighths / whole));
+    return wanted.boundedTo(largest) == wanted ? wanted : largest;
 }
 
 /// 32 bits a pixel, in place where the pixels are as large already.

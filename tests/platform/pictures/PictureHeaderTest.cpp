@@ -104,6 +104,7 @@ TEST(PictureHeader, HoldsBackWhatWouldTakeTooMuch)
         {sized(jpeg, jpegSize, "0000 0001"), false},
         {sized(progressive(grayScan), jpegSize, "1388 1388"), false}, // 25 million
         {sized(progressive(grayScan), jpegSize, "1200 1200"), true},  // 21 million
+        {sized(progressive(grayScan.repeated(19)), jpegSize, "1200 1200"), false},
         {sized(png, 16, "00001388 00001388"), false},
         {sized(png, 16, "00001200 00001200"), true},
         {sized(png, 16, "00001200 00001200 10"), false}, // of 16 bits a channel
