@@ -26,6 +26,8 @@ public:
     void shape(QWidget& window) { m_skin.shape(window); }
     /// Of a window that stays; see SkinnedWindows.
     void setOpacity(OpacityOf which, int value) { m_windows.setOpacity(which, value); }
+    /// Fills the menu of cover servers; a step of every run of the skin's colours.
+    void setCoverMenu(std::function<void()> build) { m_windows.setCoverMenu(std::move(build)); }
     /// Dresses and shapes a download window; failures are ignored.
     void dressDownload(QWidget& window);
     /// Gives the renamer its buttons' faces and the main window's opacity.

@@ -20,7 +20,9 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, const SkinPag
       m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
 {
     frmMain& main = common.main;
-    const auto loadEntry = [this, common] { loadGameDetails(m_database, common.settings, common.main); };
+    const auto loadEntry = [this, common] {
+        loadGameDetails(m_database, common.settings, common.main.covers(), common.main);
+    };
     main.setEntryLoader(loadEntry);
     lookup.setEntryLoader(loadEntry);
     lookup.setLinkSaver([this, common] { saveUpdateLinks(m_database, common.list, common.main); });

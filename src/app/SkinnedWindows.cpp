@@ -56,6 +56,12 @@ void SkinnedWindows::takeColors(const SkinPage& page)
     m_windows.main.setTipColors(page.Shape_Color[SkinPage::Fore], page.Shape_Color[SkinPage::Back]);
 }
 
+void SkinnedWindows::buildCoverServerMenu()
+{
+    if (m_buildCoverMenu)
+        m_buildCoverMenu();
+}
+
 void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
 {
     QStringList captions;

@@ -3,7 +3,9 @@
 #include "appearance/Skin.h"
 #include "state/SettingsValues.h"
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace varnhold {
 
@@ -32,16 +34,20 @@ public:
     /// and on download windows.
     void setOpacity(OpacityOf which, int value);
 
+    void setCoverMenu(std::function<void()> build) { m_buildCoverMenu = std::move(build); }
+
     void showStatus(const QString& text) override;
     void showMessage(const QString& text) override;
     QWidget* window(const char* name) override;
     void enlargeMainWindow() override;
     void takeColors(const SkinPage& page) override;
+    void buildCoverServerMenu() override;
     void showCatalogue(const SkinCatalogue& catalogue) override;
     void askForSkinFolder() override;
 
 private:
     Windows m_windows;
+    std::function<void()> m_buildCoverMenu;
 };
 
 } // namespace varnhold

@@ -249,6 +249,7 @@ void Skin::ApplySkinColors()
     SkinLists lists(page, ini, control("frmMain", "MorphListBox1"), control("frmMain", "ListView1"));
     host.showStatus(u"Loading: Listbox Skins"_s);
     lists.applyForeColor();
+    host.buildCoverServerMenu();
     lists.applyCustomColors();
     buildCatalogue();
     Q_EMIT page.changed();

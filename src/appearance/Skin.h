@@ -39,6 +39,8 @@ public:
     virtual void enlargeMainWindow() = 0;
     /// Takes the skin's colours for what is no control of a window: the signs on buttons, tool tips.
     virtual void takeColors(const SkinPage& page) = 0;
+    /// Fills the menu of cover servers from what Settings.ini holds.
+    virtual void buildCoverServerMenu() = 0;
     /// Fills the menu mnuSkins from the catalogue; its entries are actions of the window frmMenu.
     virtual void showCatalogue(const SkinCatalogue& catalogue) = 0;
     /// The skin's folder is gone: opens the settings at the main window's corner on the skin page, with the

@@ -24,6 +24,7 @@ public:
     void setBarMainTop(double) override {}
     void setBarLeftTop(double) override {}
     void applyOpacity(OpacityOf, int) override {}
+    void loadCoverServers() override {} // whoever asks them reads them
 };
 
 /// The address of the id list where the settings give none. A hosts.ini that cannot be read gives none

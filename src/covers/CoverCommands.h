@@ -4,30 +4,47 @@
 
 namespace varnhold {
 
+class CoverFolder;
+class FileDialogs;
 class MessageBoxes;
 class Settings;
 class Shell;
+struct Hosts;
+struct Paths;
 
-/// The cover of a game in the cover folder, under its id; empty when no folder is set or no such file is
-/// there.
-QString coverFile(const Settings& settings, const QString& gameId);
-
-/// The entries of mnuImage.
+/// The entries of mnuImage, and those of mnuCovers that fetch nothing.
 class CoverCommands
 {
 public:
-    CoverCommands(const Settings& settings, Shell& shell, MessageBoxes& boxes);
+    struct Services
+    {
+        Settings& settings;
+        const CoverFolder& folder;
+        const Hosts& hosts;
+        const Paths& paths;
+        Shell& shell;
+        FileDialogs& dialogs;
+        MessageBoxes& boxes;
+        QString title; ///< the program's
+    };
+
+    explicit CoverCommands(const Services& services) : m_services(services) {}
 
     void mnuImageView_Click(const QString& gameId); ///< nothing without a file
     void mnuImageExplore_Click();
     void mnuImageOpen_Click();
 
+    /// Chooses the cover folder and writes its keys; a cancel changes nothing. True when one was chosen.
+    bool mnuCoverPath_Click();
+    void clearCoverPath(); ///< right button of cmdCovers, without a question
+    /// Searches pictures of the game in the desktop's browser.
+    void mnuGoogle_Click(const QString& gameText);
+
 private:
     void withFolder(void (Shell::*show)(const QString&));
+    void tell(const QString& text);
 
-    const Settings& m_settings;
-    Shell& m_shell;
-    MessageBoxes& m_boxes;
+    Services m_services;
 };
 
 } // namespace varnhold

@@ -1,6 +1,6 @@
 #include "gamedb/EntryDetails.h"
 
-#include "covers/CoverCommands.h"
+#include "covers/CoverFolder.h"
 #include "gamedb/EntryView.h"
 #include "gamedb/SharedDatabase.h"
 #include "gamedb/Statements.h"
@@ -21,9 +21,9 @@ QByteArray storedPicture(Recordset& records)
     return size >= 1 ? records.GetChunk(column, size) : QByteArray();
 }
 
-void showCover(const Settings& settings, const QString& gameId, EntryView& view)
+void showCover(const CoverFolder& covers, const QString& gameId, EntryView& view)
 {
-    const QString file = coverFile(settings, gameId);
+    const QString file = covers.find(gameId);
     if (file.isEmpty())
         view.showBlankPicture();
     else
@@ -32,7 +32,8 @@ void showCover(const Settings& settings, const QString& gameId, EntryView& view)
 
 } // namespace
 
-void loadGameDetails(SharedDatabase& database, const Settings& settings, EntryView& view)
+void loadGameDetails(SharedDatabase& database, const Settings& settings, const CoverFolder& covers,
+                     EntryView& view)
 {
     if (view.gameCount() == 0)
         return;
@@ -50,7 +51,7 @@ void loadGameDetails(SharedDatabase& database, const Settings& settings, EntryVi
         if (!picture.isEmpty())
             view.showStoredPicture(picture);
         else
-            showCover(settings, database.DBKey, view);
+            showCover(covers, database.DBKey, view);
         database.close();
         view.Make_Links();
     });

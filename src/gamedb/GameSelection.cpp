@@ -1,6 +1,6 @@
 #include "gamedb/GameSelection.h"
 
-#include "covers/CoverCommands.h"
+#include "covers/CoverFolder.h"
 #include "gamedb/EntryView.h"
 #include "lookup/LookupView.h"
 #include "lookup/TitleCleaner.h"
@@ -50,7 +50,7 @@ void GameSelection::MorphListBox1_KeyUp()
     m_services.updates.clear();
     view.setGameIdText(view.selectedGameText());
     showTitle();
-    const QString cover = coverFile(m_services.settings, view.gameIdText());
+    const QString cover = m_services.covers.find(view.gameIdText());
     if (!cover.isEmpty())
         entry.showCoverFile(cover);
 }

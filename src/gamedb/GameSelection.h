@@ -4,6 +4,7 @@
 
 namespace varnhold {
 
+class CoverFolder;
 class EntryView;
 class LookupView;
 class Settings;
@@ -19,6 +20,7 @@ public:
     {
         ApplicationState& state;
         const Settings& settings;
+        const CoverFolder& covers;
         UpdateList& updates;
         Sounds& sounds;
         LookupView& view;

@@ -95,7 +95,7 @@ void Lookup::ID_Click()
     m_services.list.clear();
     if (m_loadEntry)
         silently(m_loadEntry);
-    m_services.state.LookupID = view.selectedGameText().left(gameIdLength);
+    m_services.state.LookupID = view.gameIdText().left(gameIdLength);
     lookUpSelectedRow();
 }
 

@@ -105,6 +105,7 @@ void Load::run(const QString& updateListUrl)
     for (const OpacityOf window :
          {OpacityOf::Main, OpacityOf::Settings, OpacityOf::Search, OpacityOf::Database})
         m_host.applyOpacity(window, m_values.opacities.at(static_cast<std::size_t>(window)));
+    m_host.loadCoverServers();
 }
 
 QString Load::readText(const QString& key, const QString& fallback)

@@ -22,6 +22,7 @@ public:
     virtual void setBarMainTop(double twips) = 0;      ///< then Splitbar_Main, which writes its key
     virtual void setBarLeftTop(double twips) = 0;      ///< then Splitbar_Left, which writes its key
     virtual void applyOpacity(OpacityOf window, int value) = 0;
+    virtual void loadCoverServers() = 0; ///< the last step
 };
 
 /// Reads all keys in their fixed order. Throws RunTimeError (13 a word in a numeric key, 6 overflow, 380 out

@@ -1,28 +1,29 @@
-#include "covers/CoverCommands.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
-#include "support/FakeMessageBoxes.h"
-#include "support/FakeShell.h"
-#include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "CoverWorld.h"
 
-#include <gtest/gtest.h>
+#include "covers/CoverCommands.h"
+#include "state/Hosts.h"
+#include "support/FakeFileDialogs.h"
+#include "support/FakeShell.h"
 
 namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
 
-TEST(CoverCommands, ShowsTheCoverAndItsFolder)
-{
-    const TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
-    FakeShell shell;
-    FakeMessageBoxes boxes;
-    CoverCommands commands(settings, shell, boxes);
+namespace {
 
+class CoverCommandsTest : public CoverWorld
+{
+protected:
+    Hosts hosts;
+    FakeShell shell;
+    FakeFileDialogs dialogs;
+    CoverCommands commands{{settings, folder, hosts, root.paths(), shell, dialogs, boxes, u"Varnhold"_s}};
+};
+
+} // namespace
+
+TEST_F(CoverCommandsTest, ShowsTheCoverAndItsFolder)
+{
     commands.mnuImageView_Click(u"BLUS30443"_s);
     boxes.expect(u"Folder does not exist"_s);
     commands.mnuImageExplore_Click();
@@ -31,24 +32,48 @@ TEST(CoverCommands, ShowsTheCoverAndItsFolder)
     EXPECT_TRUE(shell.opened.isEmpty());
 
     const QString cover = root.write(u"covers/BLUS30443.jpg"_s, "JFIF");
-    const QString folder = root.path(u"covers"_s);
-    settings.unwrittenValues().covers.tag = folder;
+    const QString path = root.path(u"covers"_s);
+    settings.unwrittenValues().covers.tag = path;
     commands.mnuImageView_Click(u"BCES00509"_s);
     EXPECT_TRUE(shell.opened.isEmpty()) << "a game without a cover";
     commands.mnuImageView_Click(u"BLUS30443"_s);
     commands.mnuImageOpen_Click();
     commands.mnuImageExplore_Click();
-    EXPECT_EQ(shell.opened, (QStringList{cover, folder}));
-    EXPECT_EQ(shell.explored, QStringList{folder});
+    EXPECT_EQ(shell.opened, (QStringList{cover, path}));
+    EXPECT_EQ(shell.explored, QStringList{path});
 }
 
-TEST(CoverFile, IsARegularFileOfTheFolderItself)
+TEST_F(CoverCommandsTest, ChoosesAndClearsTheFolder)
 {
-    const TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
-    settings.unwrittenValues().covers.tag = root.path(u"covers"_s);
+    dialogs.cancelNext();
+    EXPECT_FALSE(commands.mnuCoverPath_Click());
+    EXPECT_EQ(dialogs.asked.constLast().title, u"Select Cover Path"_s);
+    EXPECT_EQ(dialogs.asked.constLast().startFolder, root.paths().root);
+    dialogs.answer(u"/media/my.covers"_s);
+    EXPECT_TRUE(commands.mnuCoverPath_Click());
+    EXPECT_EQ(settings.covers().text, u"my.covers"_s);
+    EXPECT_EQ(file.INI_Read(u"Settings"_s, u"Cover Path"_s, {}), u"/media/my.covers"_s);
+    dialogs.answer(u"/"_s);
+    commands.mnuCoverPath_Click();
+    EXPECT_EQ(dialogs.asked.constLast().startFolder, u"/media/my.covers"_s);
+    EXPECT_EQ(settings.covers().text, u"/"_s);
+    commands.clearCoverPath();
+    EXPECT_EQ(settings.covers().tag, QString());
+    EXPECT_EQ(file.INI_Read(u"Settings"_s, u"Cover Name"_s, u"gone"_s), QString());
+}
+
+TEST_F(CoverCommandsTest, SearchesPicturesInTheDesktopsBrowser)
+{
+    boxes.expect(u"hosts.ini names no host to search pictures on."_s, u"Varnhold"_s);
+    commands.mnuGoogle_Click(selected);
+    hosts.imageSearch.authority = u"images.example:8"_s;
+    commands.mnuGoogle_Click(u"A&B C"_s);
+    EXPECT_EQ(shell.opened, QStringList{u"http://images.example:8/images?q=A%26B%20C+PS3"_s});
+}
+
+TEST_F(CoverCommandsTest, FindsRegularFilesOfTheFolderItself)
+{
+    setFolder();
     for (const QString& name :
          {u"outside.jpg"_s, u"covers/in/side.jpg"_s, u"covers/B1.JPG"_s, u"covers/B2.JPG"_s,
           u"covers/B2.jpg"_s, u"covers/b3.Jpg"_s, u"covers/B3.jpG"_s, u"covers/\u00C4.JPG"_s})
@@ -67,8 +92,7 @@ TEST(CoverFile, IsARegularFileOfTheFolderItself)
         {u"B1.JPG\0"_s, {}},    {u"gone"_s, {}},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(coverFile(settings, c.id),
-                  c.found.isEmpty() ? QString() : root.path(u"covers/"_s + c.found))
+        EXPECT_EQ(folder.find(c.id), c.found.isEmpty() ? QString() : root.path(u"covers/"_s + c.found))
             << qPrintable(c.id);
 }
 

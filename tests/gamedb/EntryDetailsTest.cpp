@@ -1,5 +1,6 @@
 #include "gamedb/EntryDetails.h"
 #include "GameWorld.h"
+#include "covers/CoverFolder.h"
 
 namespace varnhold::test {
 
@@ -25,7 +26,7 @@ protected:
     QStringList load(const QString& id)
     {
         window.gameId = id;
-        loadGameDetails(shared, settings, window);
+        loadGameDetails(shared, settings, CoverFolder(settings), window);
         return window.taken();
     }
     [[nodiscard]] QString cover(const QString& id) const

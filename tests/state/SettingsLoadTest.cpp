@@ -32,6 +32,8 @@ public:
         events.append(u"opacity %1 %2"_s.arg(static_cast<int>(window)).arg(value));
     }
 
+    void loadCoverServers() override { events.append(u"cover servers"_s); }
+
     QStringList events;
 };
 
@@ -82,9 +84,9 @@ TEST_F(SettingsLoadTest, NothingThere)
         settings.unwantedStrings().endsWith(u"\u2122, (v01.01), (v01.02), (v01.03), (v01.04), "
                                             "(v01.05), (v01.06), (v01.07), (v01.08), (v01.09), (v01.10)"_s));
     EXPECT_FALSE(settings.certOption(0) || settings.certOption(1));
-    EXPECT_EQ(host.events,
-              (QStringList{u"status Applying: Settings"_s, u"main bar 3285"_s, u"left bar 3285"_s,
-                           u"opacity 0 220"_s, u"opacity 1 220"_s, u"opacity 3 220"_s, u"opacity 4 220"_s}));
+    EXPECT_EQ(host.events, (QStringList{u"status Applying: Settings"_s, u"main bar 3285"_s,
+                                        u"left bar 3285"_s, u"opacity 0 220"_s, u"opacity 1 220"_s,
+                                        u"opacity 3 220"_s, u"opacity 4 220"_s, u"cover servers"_s}));
     EXPECT_EQ(settings.opacity(OpacityOf::Download), 220);
     EXPECT_FALSE(QFileInfo::exists(root.paths().settingsIni())) << "the load alone writes nothing";
     EXPECT_EQ(changes, 0);
@@ -122,9 +124,9 @@ TEST_F(SettingsLoadTest, EverythingSet)
     EXPECT_EQ(settings.sound(1), (TaggedText{{}, u"/gone.wav"_s})) << "taken untested";
     EXPECT_EQ(settings.opacity(OpacityOf::Download), 10)
         << "the number is kept though windows do not take it";
-    EXPECT_EQ(host.events,
-              (QStringList{u"status Applying: Settings"_s, u"watch"_s, u"main bar 100"_s, u"left bar 200.5"_s,
-                           u"opacity 0 220"_s, u"opacity 1 220"_s, u"opacity 3 220"_s, u"opacity 4 255"_s}));
+    EXPECT_EQ(host.events, (QStringList{u"status Applying: Settings"_s, u"watch"_s, u"main bar 100"_s,
+                                        u"left bar 200.5"_s, u"opacity 0 220"_s, u"opacity 1 220"_s,
+                                        u"opacity 3 220"_s, u"opacity 4 255"_s, u"cover servers"_s}));
     EXPECT_EQ(root.read(u"Settings.ini"_s), "[Settings]\r\n" + keys);
     EXPECT_EQ(changes, 0);
 }

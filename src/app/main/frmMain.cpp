@@ -34,7 +34,8 @@ using namespace Qt::StringLiterals;
 frmMain::frmMain(const Services& services)
     : ShapedWindow(nullptr),
       m_services(services),
-      m_selection({services.state, services.settings, services.list, services.sounds, *this, *this})
+      m_covers(services.settings),
+      m_selection({services.state, services.settings, m_covers, services.list, services.sounds, *this, *this})
 {
     setObjectName("frmMain"_L1);
     setWindowTitle(QCoreApplication::applicationName());

@@ -2,6 +2,7 @@
 
 #include "app/main/HiddenList.h"
 #include "controls/SystemColors.h"
+#include "covers/CoverFolder.h"
 #include "gamedb/EntryView.h"
 #include "gamedb/GameSelection.h"
 #include "lookup/LookupView.h"
@@ -66,6 +67,8 @@ public:
     /// Asked for the pictures of a size (1 normal, 2 enlarged) before the window takes it; false leaves the
     /// window as it is.
     void setLayoutPictures(std::function<bool(int)> load) { m_layoutPictures = std::move(load); }
+    /// In PicPreview; a file that is no picture leaves what shows there.
+    void showIfPicture(const QString& path);
     /// Asked for the picture of a title without a cover.
     void setBlankPicture(std::function<QPixmap()> picture) { m_blankPicture = std::move(picture); }
     /// Runs when a game was chosen by click, double click or Enter; tells its failures itself.
@@ -99,6 +102,7 @@ public:
     [[nodiscard]] HiddenList& titles() { return m_titles; }        ///< List1
     [[nodiscard]] UpdateListView& updates() { return *m_updates; } ///< ListView1
     [[nodiscard]] int selectedUpdateRow() const;                   ///< from 1; 0 when none
+    [[nodiscard]] const CoverFolder& covers() const { return m_covers; }
 
     [[nodiscard]] QString gameIdText() const override;
     void setGameIdText(const QString& text) override;
@@ -170,6 +174,7 @@ private:
 
     Services m_services;
     HiddenList m_titles;
+    CoverFolder m_covers;
     GameSelection m_selection;
     std::function<bool(int)> m_layoutPictures;
     std::optional<QPoint> m_placeBefore; ///< before the button enlarged it

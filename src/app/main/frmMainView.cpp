@@ -121,6 +121,11 @@ void frmMain::showStoredPicture(const QByteArray& bytes)
         showBlankPicture();
 }
 
+void frmMain::showIfPicture(const QString& path)
+{
+    m_picPreview->setPictureFrom([path](const QSize& most) { return readPictureFile(path, most); });
+}
+
 void frmMain::showCoverFile(const QString& path)
 {
     if (!m_picPreview->setPictureFrom([path](const QSize& most) { return readPictureFile(path, most); }))

@@ -80,21 +80,31 @@ void frmMenu::popUp(const char* name, const QPoint& globalPosition, WithSound so
 
 void frmMenu::fill(const char* array, const QStringList& captions)
 {
-    const auto nameOf = [array](qsizetype index) {
-        return u"%1(%2)"_s.arg(QLatin1StringView(array)).arg(index);
-    };
-    const QAction& design = entry(nameOf(0));
+    QMap<int, QString> entries;
+    for (int i = 0; i < captions.size(); ++i)
+        entries.insert(i + 1, captions.at(i));
+    fill(array, entries);
+}
+
+void frmMenu::fill(const char* array, const QMap<int, QString>& captions)
+{
+    const QString start = QLatin1StringView(array) + u"("_s;
+    const QAction& design = entry(start + u"0)"_s);
     auto* const menu = qobject_cast<QMenu*>(design.parent());
-    for (qsizetype i = 1; QAction* const old = m_entries.take(nameOf(i)); ++i) {
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* const old : actions) {
+        if (old == &design || !old->objectName().startsWith(start))
+            continue;
+        m_entries.remove(old->objectName());
         menu->removeAction(old);
         old->setParent(nullptr);
         old->deleteLater(); // what refills a menu may have been started from this entry
     }
     QAction* const next = menu->actions().value(menu->actions().indexOf(&design) + 1);
-    for (qsizetype i = 1; i <= captions.size(); ++i) {
-        auto* const added = new QAction(QString(captions[i - 1]).replace(u'&', u"&&"_s), menu);
+    for (auto caption = captions.cbegin(); caption != captions.cend(); ++caption) {
+        auto* const added = new QAction(QString(caption.value()).replace(u'&', u"&&"_s), menu);
         menu->insertAction(next, added);
-        prepare(*added, nameOf(i));
+        prepare(*added, start + QString::number(caption.key()) + u')');
     }
     menu_ImgCheck();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QMap>
 #include <QWidget>
 
 #include <functional>
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] QAction& entry(const QString& name) const;
     /// Entries 1 and on of an array, behind its hidden entry 0. A "&" in a caption shows as it stands.
     void fill(const char* array, const QStringList& captions);
+    /// The same by index, from 1: there may be gaps.
+    void fill(const char* array, const QMap<int, QString>& captions);
     /// Gives all entries the skin's glyphs anew; runs after entries change.
     void menu_ImgCheck();
     void setGlyphs(std::function<void()> attach) { m_attachGlyphs = std::move(attach); }

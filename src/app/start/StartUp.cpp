@@ -180,4 +180,9 @@ void StartUp::applyOpacity(OpacityOf window, int value)
     m_services.setOpacity(window, value);
 }
 
+void StartUp::loadCoverServers()
+{
+    m_services.loadCoverServers();
+}
+
 } // namespace varnhold

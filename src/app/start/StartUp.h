@@ -50,6 +50,7 @@ public:
         std::function<void()> loadGameList; ///< tells its failures itself
         std::function<void(QWidget&)> shape;
         std::function<void(OpacityOf, int)> setOpacity; ///< of a window that stays
+        std::function<void()> loadCoverServers;         ///< the page's rows and the menu
 
         std::function<bool()> isFirst;          ///< false: another instance of the program runs
         std::function<bool()> activatePrevious; ///< true when that one answered and came to the front
@@ -84,6 +85,7 @@ private:
     void setBarMainTop(double twips) override;
     void setBarLeftTop(double twips) override;
     void applyOpacity(OpacityOf window, int value) override;
+    void loadCoverServers() override;
 
     Services m_services;
     std::function<void()> m_onAbandoned;

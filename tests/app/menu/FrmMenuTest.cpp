@@ -106,15 +106,17 @@ TEST_F(FrmMenu, RefillsAnArrayFromInsideItsOwnEntry)
     QString ran;
     commands.bindEach("mnuCServs", [&](int index) {
         ran += QString::number(index);
-        menu.fill("mnuCServs", {u"c"_s});
+        menu.fill("mnuCServs", QStringList{u"c"_s});
     });
-    menu.fill("mnuCServs", {u"a & b"_s, u"b"_s});
+    menu.fill("mnuCServs", QMap<int, QString>{{3, u"x"_s}, {7, u"y"_s}});
+    EXPECT_EQ(entries("mnuCovers"), u"mnuCoverPath mnuGoogle +mnuCServs(3) +mnuCServs(7)"_s);
+    menu.fill("mnuCServs", QStringList{u"a & b"_s, u"b"_s});
     EXPECT_EQ(menu.entry(u"mnuCServs(1)"_s).text(), u"a && b"_s);
     EXPECT_EQ(entries("mnuCovers"), u"mnuCoverPath mnuGoogle +mnuCServs(1) +mnuCServs(2)"_s);
     menu.entry(u"mnuCServs(2)"_s).trigger();
     EXPECT_EQ(entries("mnuCovers"), u"mnuCoverPath mnuGoogle +mnuCServs(1)"_s);
     EXPECT_EQ(ran, u"2"_s);
-    EXPECT_EQ(glyphs, 2);
+    EXPECT_EQ(glyphs, 3);
 }
 
 } // namespace varnhold::test

@@ -74,6 +74,7 @@ struct StartUpWorld : AppWorld
                              if (which == OpacityOf::Main)
                                  SetOpacity(value, main);
                          },
+                     .loadCoverServers = [] {},
                      .isFirst = [this] { return first; },
                      .activatePrevious = [this] { return previousAnswers; },
                      .findHosts = [this] { return findHosts(); }}};
