@@ -111,8 +111,6 @@ void frmMain::buildWindowButtons()
     });
     m_winState[1] = addButton("btn_WinState(1)", u"Exit"_s);
     connect(m_winState[1], &ButtonEx::Click, this, [this] {
-        // The focus would pass on to the game list, and there the key that answers the question clears rows.
-        m_gameId->setFocus();
         m_winState[1]->setEnabled(false);
         Q_EMIT exitRequested();
     });
