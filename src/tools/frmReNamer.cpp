@@ -1,6 +1,7 @@
 #include "tools/frmReNamer.h"
 
 #include "controls/ButtonEx/ButtonEx.h"
+#include "platform/Accessible.h"
 #include "platform/ElidedLabel.h"
 #include "platform/ToolTipText.h"
 
@@ -40,6 +41,7 @@ QString withoutMnemonic(QString text)
 frmReNamer::frmReNamer(FolderRenamer& renamer) : m_renamer(renamer)
 {
     setObjectName("frmReNamer"_L1);
+    tellAssistiveTools(*this, {.role = QAccessible::Window});
     setWindowTitle(tr("ReName Dir"));
     build();
     buildMenu();
