@@ -16,14 +16,17 @@ namespace varnhold {
 
 AppearanceOwner::AppearanceOwner(const Common& common)
     : m_common(common),
-      m_choice(common.settingsWindow.add<SkinChoicePage>(common.settings, m_page, common.state)),
-      m_windows({common.main, common.settingsWindow, m_choice, common.menu, common.splash}),
+      m_skinChoicePage(common.settingsWindow.add<SkinChoicePage>(common.settings, m_page, common.state)),
+      m_windows({common.main, common.settingsWindow, m_skinChoicePage, common.menu, common.splash}),
       m_transForm(common.world.boxes),
       m_skin({common.state, common.settings, common.file, common.paths, m_page, common.world.boxes,
-              common.world.dialogs, common.sounds, common.pump, m_transForm, m_windows})
+              common.world.dialogs, common.sounds, common.pump, m_transForm, m_windows}),
+      m_choices({m_page, common.state, common.file, common.world.dialogs, common.world.colors,
+                 common.world.boxes, common.sounds, m_skin, m_windows})
 {
     connectWindows();
     bindCommands();
+    m_skinChoicePage.bind(m_choices);
     const auto& opacity = common.settingsWindow.add<OpacityPage>(common.settings);
     connect(&opacity, &OpacityPage::opacityMoved, this, &AppearanceOwner::opacityMoved);
     connect(&opacity, &OpacityPage::opacityMoved, this, &AppearanceOwner::setOpacity);
@@ -59,7 +62,7 @@ void AppearanceOwner::connectWindows()
         m_skin.shape(main);
         drawButtonSigns(main);
     });
-    connect(&m_choice, &SkinChoicePage::skinMenuWanted, &menu,
+    connect(&m_skinChoicePage, &SkinChoicePage::skinMenuWanted, &menu,
             [&menu](const QPoint& place) { menu.popUp("mnuSkins", place); });
 }
 

@@ -3,6 +3,7 @@
 #include "app/Common.h"
 #include "app/SkinnedWindows.h"
 #include "appearance/Skin.h"
+#include "appearance/SkinChoices.h"
 #include "appearance/SkinPage.h"
 #include "appearance/TransForm.h"
 
@@ -28,6 +29,7 @@ public:
     void setOpacity(OpacityOf which, int value) { m_windows.setOpacity(which, value); }
     /// Fills the menu of cover servers; a step of every run of the skin's colours.
     void setCoverMenu(std::function<void()> build) { m_windows.setCoverMenu(std::move(build)); }
+    void setIconRedraw(std::function<void()> redraw) { m_windows.setIconRedraw(std::move(redraw)); }
     /// Dresses and shapes a download window; failures are ignored.
     void dressDownload(QWidget& window);
     /// Gives the renamer its buttons' faces and the main window's opacity.
@@ -43,10 +45,11 @@ private:
 
     Common m_common;
     SkinPage m_page;
-    SkinChoicePage& m_choice;
+    SkinChoicePage& m_skinChoicePage;
     SkinnedWindows m_windows;
     clsTransForm m_transForm;
     Skin m_skin;
+    SkinChoices m_choices;
 };
 
 } // namespace varnhold

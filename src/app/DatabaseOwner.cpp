@@ -1,5 +1,6 @@
 #include "app/DatabaseOwner.h"
 
+#include "app/AppearanceOwner.h"
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
 #include "app/settings/DatabasePage.h"
@@ -12,9 +13,9 @@
 
 namespace varnhold {
 
-DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, const SkinPage& skin)
+DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance)
     : m_database(common.settings, common.world.boxes, &m_painter),
-      m_page(common.settingsWindow.add<DatabasePage>(common.settings, skin)),
+      m_page(common.settingsWindow.add<DatabasePage>(common.settings, appearance.page())),
       m_view({common.main, common.menu, common.settingsWindow, m_page, common.list, common.splash},
              m_painter),
       m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
@@ -35,6 +36,7 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, const SkinPag
     connect(&m_page, &DatabasePage::btnOpen_Click, this, [this, common] {
         btnOpen_Click(common.settings, common.world.dialogs, common.sounds, common.world.boxes, m_gameList);
     });
+    appearance.setIconRedraw([this] { m_gameList.redrawIcons(); });
     common.commands.bind("mnuLBIcons", [this] { m_gameList.mnuLBIcons_Click(); });
 }
 

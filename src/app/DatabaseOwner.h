@@ -10,9 +10,9 @@
 
 namespace varnhold {
 
+class AppearanceOwner;
 class DatabasePage;
 class Lookup;
-class SkinPage;
 
 /// The game database: the list of games, the chosen entry, and the choice of another file.
 class DatabaseOwner : public QObject
@@ -20,7 +20,7 @@ class DatabaseOwner : public QObject
     Q_OBJECT
 
 public:
-    DatabaseOwner(const Common& common, Lookup& lookup, const SkinPage& skin);
+    DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance);
 
     [[nodiscard]] GameList& gameList() { return m_gameList; }
 

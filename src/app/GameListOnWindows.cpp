@@ -115,6 +115,10 @@ void GameListOnWindows::setItemImageSize(int size)
 
 void GameListOnWindows::addImage(const QString& file)
 {
+    constexpr int usedImages = 7;
+    if (m_images == usedImages)
+        return;
+    ++m_images;
     const qsizetype cut = file.lastIndexOf(u'/');
     QPixmap picture;
     silently([&] { picture = SkinPictures(file.left(cut)).load(file.mid(cut + 1)); });

@@ -77,6 +77,7 @@ public:
 
 private:
     Windows m_windows;
+    int m_images = 0; ///< in the game list's strip
     DatabaseWatch& m_painter;
     QElapsedTimer m_painted;
 };

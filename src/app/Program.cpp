@@ -59,7 +59,7 @@ Program::Program(const Paths& paths, World world)
       m_renamer(m_common, {.filesInUse = [this] { return m_downloads.filesInUse(); },
                            .batchFolder = [this] { return m_downloads.batchFolder(); },
                            .dress = [this](QWidget& window) { m_appearance.dressRenamer(window); }}),
-      m_database(m_common, m_lookups.lookup(), m_appearance.page()),
+      m_database(m_common, m_lookups.lookup(), m_appearance),
       m_covers(m_common, m_appearance),
       m_settingsPages(m_common, m_lookups.certificates()),
       m_startUp({.state = m_state,

@@ -62,6 +62,12 @@ void SkinnedWindows::buildCoverServerMenu()
         m_buildCoverMenu();
 }
 
+void SkinnedWindows::redrawIcons()
+{
+    if (m_redrawIcons)
+        m_redrawIcons();
+}
+
 void SkinnedWindows::showCatalogue(const SkinCatalogue& catalogue)
 {
     QStringList captions;

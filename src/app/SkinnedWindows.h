@@ -33,6 +33,8 @@ public:
     /// Opacity 0 to 255 of a window that stays, kept at 20 or above. Without effect on one that is not made,
     /// and on download windows.
     void setOpacity(OpacityOf which, int value);
+    /// How the game list gets its icons anew.
+    void setIconRedraw(std::function<void()> redraw) { m_redrawIcons = std::move(redraw); }
 
     void setCoverMenu(std::function<void()> build) { m_buildCoverMenu = std::move(build); }
 
@@ -42,12 +44,14 @@ public:
     void enlargeMainWindow() override;
     void takeColors(const SkinPage& page) override;
     void buildCoverServerMenu() override;
+    void redrawIcons() override;
     void showCatalogue(const SkinCatalogue& catalogue) override;
     void askForSkinFolder() override;
 
 private:
     Windows m_windows;
     std::function<void()> m_buildCoverMenu;
+    std::function<void()> m_redrawIcons;
 };
 
 } // namespace varnhold

@@ -148,6 +148,15 @@ bool Skin::ApplySkin()
     return false;
 }
 
+void Skin::recolor()
+{
+    try {
+        ApplySkinColors();
+    } catch (const RunTimeError& error) {
+        report(error);
+    }
+}
+
 void Skin::apply()
 {
     SkinHost& host = m_services.host;
@@ -162,8 +171,7 @@ void Skin::apply()
     host.showStatus(u"Loading: Settings Skin"_s);
     applyTargets(settingsTargets(), pictures);
     readColors(ini);
-    SkinLists lists(m_services.page, ini, control("frmMain", "MorphListBox1"),
-                    control("frmMain", "ListView1"));
+    SkinLists lists(m_services.page, ini, host);
     lists.readGameList(pictures);
     lists.readUpdateList(pictures);
 
@@ -244,13 +252,12 @@ void Skin::ApplySkinColors()
     }
     page.availableSkinsColor[1] = page.Shape_Color[SkinPage::Highlight];
     host.takeColors(page);
+    host.buildCoverServerMenu();
 
     SkinIni ini(m_services.file);
-    SkinLists lists(page, ini, control("frmMain", "MorphListBox1"), control("frmMain", "ListView1"));
+    SkinLists lists(page, ini, host);
     host.showStatus(u"Loading: Listbox Skins"_s);
-    lists.applyForeColor();
-    host.buildCoverServerMenu();
-    lists.applyCustomColors();
+    lists.fillColorRows();
     buildCatalogue();
     Q_EMIT page.changed();
 }

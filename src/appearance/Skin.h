@@ -41,6 +41,8 @@ public:
     virtual void takeColors(const SkinPage& page) = 0;
     /// Fills the menu of cover servers from what Settings.ini holds.
     virtual void buildCoverServerMenu() = 0;
+    /// Redraws the game list's icons, where they show.
+    virtual void redrawIcons() = 0;
     /// Fills the menu mnuSkins from the catalogue; its entries are actions of the window frmMenu.
     virtual void showCatalogue(const SkinCatalogue& catalogue) = 0;
     /// The skin's folder is gone: opens the settings at the main window's corner on the skin page, with the
@@ -75,6 +77,8 @@ public:
     bool ApplySkin();
     /// Colours of the skin page to every control, then the lists' colours and the catalogue.
     void ApplySkinColors();
+    /// The same when the user has changed a colour; tells its failures itself.
+    void recolor();
     /// Pictures of the main window in one of its sizes: 1 normal, 2 enlarged. A failure is told; false then,
     /// and the window had better stay as it is.
     bool loadLayout(int layout);

@@ -32,6 +32,11 @@ std::optional<ColorValue> colorFromText(const QString& text)
 
 } // namespace
 
+QString colorText(ColorValue color)
+{
+    return QString::number(static_cast<qint32>(color));
+}
+
 QString skinSettingsSection()
 {
     return u"Settings"_s;
@@ -68,6 +73,16 @@ std::optional<ColorValue> SkinIni::color(const QString& key) const
 std::optional<ColorValue> SkinIni::customColor(const QString& key) const
 {
     return colorFromText(m_file.Skin_Read(customListSection(), key, {}));
+}
+
+void SkinIni::writeCustomColor(const QString& key, ColorValue color)
+{
+    m_file.Skin_Write(customListSection(), key, colorText(color));
+}
+
+void SkinIni::deleteCustomColors()
+{
+    m_file.Skin_Delete_Section(customListSection());
 }
 
 std::optional<int> SkinIni::number(const QString& key, int most) const

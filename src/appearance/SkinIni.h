@@ -26,6 +26,8 @@ public:
     [[nodiscard]] std::optional<int> number(const QString& key, int most) const;
 
     void write(const QString& key, const QString& value);
+    void writeCustomColor(const QString& key, ColorValue color);
+    void deleteCustomColors();
 
 private:
     SettingsFile& m_file;
@@ -33,6 +35,9 @@ private:
 
 /// The names of the section's seventeen colours of the list, in their order; each is a property of the list.
 const QStringList& customListColors();
+
+/// A colour in decimal as the file has it; a system colour is a negative number.
+QString colorText(ColorValue color);
 
 /// Section names.
 QString skinSettingsSection();

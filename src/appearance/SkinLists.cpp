@@ -1,11 +1,14 @@
 #include "appearance/SkinLists.h"
 
+#include "appearance/Skin.h"
 #include "appearance/SkinColors.h"
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
 #include "appearance/ToolkitLook.h"
+#include "appearance/WindowControls.h"
 #include "controls/Contrast.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "state/ErrorReport.h"
 
 #include <QVariant>
 #include <QWidget>
@@ -48,10 +51,25 @@ void readPicture(SkinPage::ListPicture& held, const SkinIni& ini, const QString&
         held.file = {folder.path() + u'/' + usual, folder.path() + u'/' + usual};
 }
 
+QPixmap pictureOf(const SkinPage::ListPicture& held, SkinPictures& pictures)
+{
+    return held.file.tag.isEmpty() ? QPixmap() : pictures.loadPath(held.file.tag);
+}
+
+QWidget* listOf(SkinHost& host, const char* name)
+{
+    const QWidget* const window = host.window("frmMain");
+    return window == nullptr ? nullptr : controlOf(*window, name);
+}
+
 } // namespace
 
-SkinLists::SkinLists(SkinPage& page, SkinIni& ini, QWidget* games, QWidget* updates)
-    : m_page(page), m_ini(ini), m_games(games), m_updates(updates)
+SkinLists::SkinLists(SkinPage& page, SkinIni& ini, SkinHost& host)
+    : m_page(page),
+      m_ini(ini),
+      m_host(host),
+      m_games(listOf(host, "MorphListBox1")),
+      m_updates(listOf(host, "ListView1"))
 {
 }
 
@@ -59,43 +77,22 @@ void SkinLists::readGameList(SkinPictures& pictures)
 {
     readPicture(m_page.gameList, m_ini, u"LBx"_s, u"list.bmp"_s, pictures.folder());
     const int mode = m_ini.number(u"LBxMode"_s, mostModes).value_or(0);
-    if (mode != m_page.vscl_LBxAlign) {
-        m_page.vscl_LBxAlign = mode;
-        assign(m_games, "PictureMode", mode);
-        m_ini.write(u"LBxMode"_s, QString::number(mode));
-    }
+    if (mode != m_page.vscl_LBxAlign)
+        changePictureMode(mode);
     if (const std::optional<int> check = m_ini.number(u"LBxPicture"_s, grayed)) {
         m_page.gameList.checked = *check == 1;
-        if (m_page.gameList.checked)
-            showGamePicture(pictures);
-        else
-            assign(m_games, "Picture", QPixmap());
+        assign(m_games, "Picture",
+               m_page.gameList.checked ? pictureOf(m_page.gameList, pictures) : QPixmap());
     }
     const int theme = m_ini.number(u"LBx Theme"_s, customTheme).value_or(defaultTheme);
-    if (theme != m_page.vscl_LBxTheme)
-        changeTheme(theme, pictures);
-}
-
-void SkinLists::showGamePicture(SkinPictures& pictures)
-{
-    const QString& path = m_page.gameList.file.tag;
-    assign(m_games, "Picture", path.isEmpty() ? QPixmap() : pictures.loadPath(path));
-}
-
-void SkinLists::changeTheme(int theme, SkinPictures& pictures)
-{
+    if (theme == m_page.vscl_LBxTheme)
+        return;
+    // The custom colours wait for this skin's rows.
     m_page.vscl_LBxTheme = theme;
     if (theme < customTheme)
-        assign(m_games, "Theme", theme);
-    else
-        applyCustomColors();
-    dressScrollBars();
-    // A theme takes the picture away.
-    if (m_page.gameList.checked)
-        showGamePicture(pictures);
-    else
-        assign(m_games, "Picture", QPixmap());
-    m_ini.write(u"LBxPicture"_s, m_page.gameList.checked ? u"1"_s : u"0"_s);
+        setTheme(theme);
+    m_host.redrawIcons();
+    showGamePicture(m_page.gameList.checked, pictures);
     m_ini.write(u"LBx Theme"_s, QString::number(theme));
 }
 
@@ -104,16 +101,98 @@ void SkinLists::readUpdateList(SkinPictures& pictures)
     readPicture(m_page.updateList, m_ini, u"Lv"_s, u"back.bmp"_s, pictures.folder());
     if (const std::optional<int> check = m_ini.number(u"LvPicture"_s, grayed)) {
         m_page.updateList.checked = *check == 1;
-        const QString& path = m_page.updateList.file.tag;
         assign(m_updates, "Picture",
-               m_page.updateList.checked && !path.isEmpty() ? pictures.loadPath(path) : QPixmap());
+               m_page.updateList.checked ? pictureOf(m_page.updateList, pictures) : QPixmap());
     }
     const int alignment = m_ini.number(u"PictureAlignment"_s, mostAlignments).value_or(tiled);
-    if (alignment != m_page.vscl_Align) {
-        m_page.vscl_Align = alignment;
-        assign(m_updates, "PictureAlignment", alignment);
-        m_ini.write(u"PictureAlignment"_s, QString::number(alignment));
+    if (alignment != m_page.vscl_Align)
+        changePictureAlignment(alignment);
+}
+
+void SkinLists::fillColorRows()
+{
+    if (m_games == nullptr)
+        return;
+    if (m_page.vscl_LBxTheme == 0) { // which has no colour of its own
+        assign(m_games, "ForeColor", m_page.Shape_Color[SkinPage::Fore]);
+        assign(m_games, "RedrawFlag", true);
     }
+    m_page.customColors.clear();
+    for (const QString& name : customListColors()) {
+        const std::optional<ColorValue> stored = m_ini.customColor(name);
+        m_page.customColors.push_back(stored ? *stored : m_games->property(qPrintable(name)).toUInt());
+    }
+    dressScrollBars();
+    if (m_page.vscl_LBxTheme == customTheme)
+        applyCustomColors();
+}
+
+void SkinLists::setTheme(int theme)
+{
+    assign(m_games, "Theme", theme);
+    dressScrollBars();
+}
+
+void SkinLists::changeTheme(int theme, SkinPictures& pictures)
+{
+    m_page.vscl_LBxTheme = theme;
+    if (theme < customTheme)
+        setTheme(theme);
+    else
+        applyCustomColors();
+    m_host.redrawIcons();
+    silently([&] { showGamePicture(m_page.gameList.checked, pictures); });
+    m_ini.write(u"LBx Theme"_s, QString::number(theme));
+}
+
+void SkinLists::changePictureMode(int mode)
+{
+    m_page.vscl_LBxAlign = mode;
+    assign(m_games, "PictureMode", mode);
+    m_ini.write(u"LBxMode"_s, QString::number(mode));
+}
+
+void SkinLists::changePictureAlignment(int alignment)
+{
+    m_page.vscl_Align = alignment;
+    assign(m_updates, "PictureAlignment", alignment);
+    m_ini.write(u"PictureAlignment"_s, QString::number(alignment));
+}
+
+void SkinLists::showGamePicture(bool checked, SkinPictures& pictures)
+{
+    const QPixmap picture = checked ? pictureOf(m_page.gameList, pictures) : QPixmap();
+    m_page.gameList.checked = checked;
+    assign(m_games, "Picture", picture);
+    m_ini.write(u"LBxPicture"_s, checked ? u"1"_s : u"0"_s);
+}
+
+void SkinLists::showUpdatePicture(bool checked, SkinPictures& pictures)
+{
+    const QPixmap picture = checked ? pictureOf(m_page.updateList, pictures) : QPixmap();
+    m_page.updateList.checked = checked;
+    assign(m_updates, "Picture", picture);
+    m_ini.write(u"LvPicture"_s, checked ? u"1"_s : u"0"_s);
+}
+
+void SkinLists::takeGamePicture(const TaggedText& file, SkinPictures& pictures)
+{
+    const QPixmap picture = pictures.loadPath(file.tag); // also unchecked: it would stop each later start
+    m_page.gameList.file = file;
+    m_ini.write(u"LBxPicture Path"_s, file.tag);
+    m_ini.write(u"LBxPicture Name"_s, file.text);
+    if (m_page.gameList.checked)
+        assign(m_games, "Picture", picture);
+}
+
+void SkinLists::takeUpdatePicture(const TaggedText& file, SkinPictures& pictures)
+{
+    const QPixmap picture = pictures.loadPath(file.tag);
+    m_page.updateList.file = file;
+    m_ini.write(u"LvPicture Path"_s, file.tag);
+    m_ini.write(u"LvPicture Name"_s, file.text);
+    if (m_page.updateList.checked)
+        assign(m_updates, "Picture", picture);
 }
 
 void SkinLists::dressScrollBars()
@@ -124,14 +203,12 @@ void SkinLists::dressScrollBars()
 
 void SkinLists::applyCustomColors()
 {
-    dressScrollBars();
-    if (m_page.vscl_LBxTheme != customTheme || m_games == nullptr)
+    if (m_games == nullptr || m_page.customColors.empty())
         return;
     assign(m_games, "RedrawFlag", false);
-    for (const QString& name : customListColors()) {
-        if (const std::optional<ColorValue> color = m_ini.customColor(name))
-            assign(m_games, qPrintable(name), *color);
-    }
+    for (qsizetype i = 0; i < customListColors().size(); ++i)
+        assign(m_games, qPrintable(customListColors()[i]),
+               m_page.customColors.at(static_cast<std::size_t>(i)));
     // The dots round a row have no key of their own.
     const auto own = [this](const char* name) { return m_games->property(name).toUInt(); };
     const ColorValue inks[] = {m_page.Shape_Color[SkinPage::Highlight], own("HighlightColor"),
@@ -142,12 +219,10 @@ void SkinLists::applyCustomColors()
     dressScrollBars();
 }
 
-void SkinLists::applyForeColor()
+void SkinLists::writeCustomColors()
 {
-    if (m_page.vscl_LBxTheme != 0)
-        return;
-    assign(m_games, "ForeColor", m_page.Shape_Color[SkinPage::Fore]);
-    assign(m_games, "RedrawFlag", true);
+    for (std::size_t i = 0; i < m_page.customColors.size(); ++i)
+        m_ini.writeCustomColor(customListColors()[static_cast<qsizetype>(i)], m_page.customColors[i]);
 }
 
 } // namespace varnhold

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <array>
+#include <vector>
 
 namespace varnhold {
 
@@ -32,13 +33,15 @@ public:
     int vscl_LBxAlign = 0;
     int vscl_LBxTheme = 0;
     int vscl_Align = 0;
-    ColorValue menuGround = 0; ///< of the plates that menu glyphs are drawn on
+    std::vector<ColorValue> customColors; ///< rows of ListView2, as customListColors(); empty before a skin
+    int chosenColor = -1;                 ///< the row that lblLbColor(0) and shLstSkin show
+    ColorValue menuGround = 0;            ///< of the plates that menu glyphs are drawn on
     bool skinLoaded = false;
     QString availableSkins;                              ///< lbl_Available_Skins(1)
     std::array<ColorValue, 2> availableSkinsColor{0, 0}; ///< of both labels
 
 Q_SIGNALS:
-    /// After a run changed anything of the above.
+    /// After anything of the above changed.
     void changed();
 };
 

@@ -24,6 +24,11 @@ QString layoutErrorText(const RunTimeError& error)
            error.description() + u"\r\nSolution: Please update the skin folder in question."_s;
 }
 
+QString pictureNotShownText(const RunTimeError& error)
+{
+    return u"This picture cannot be shown: "_s + error.description();
+}
+
 QString skinNotFoundStatus()
 {
     return u"Loading: Skin not found"_s;

@@ -187,7 +187,7 @@ void GameList::Load_LBIcons()
 {
     GameListView& view = m_services.view;
     view.setShowItemImages(true);
-    // Nothing empties the strip before: only its first seven pictures are ever used.
+    // Nothing empties the strip before: only its first seven pictures are ever used, and kept.
     for (const QString& file : regionImageFiles)
         view.addImage(m_services.state.SkinPath + file);
     view.setRedrawFlag(false);
@@ -196,6 +196,14 @@ void GameList::Load_LBIcons()
         view.setImageIndex(row, regionImage(view.game(row)));
     view.setStatus(u"0"_s);
     view.setRedrawFlag(true);
+}
+
+void GameList::redrawIcons()
+{
+    if (!m_services.view.iconsEntryChecked())
+        return;
+    m_services.view.setItemImageSize(0);
+    Load_LBIcons();
 }
 
 void GameList::clearPreview()

@@ -36,6 +36,7 @@ public:
     /// the older tables' renames before it and the thanks after it.
     void loadChosenDatabase();
     void Load_LBIcons();
+    void redrawIcons(); ///< where they show
     void clearPreview();
 
     void CmdRefresh_Click();

@@ -1,11 +1,8 @@
-#include "app/SkinnedWindows.h"
-#include "app/menu/MenuCommands.h"
-#include "app/menu/frmMenu.h"
-#include "app/start/frmSplash.h"
+#include "SkinWorld.h"
+
 #include "appearance/SkinIni.h"
 #include "appearance/SkinPictures.h"
 #include "appearance/ToolkitLook.h"
-#include "appearance/TransForm.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/Contrast.h"
 #include "controls/MorphListBox/MorphListBox.h"
@@ -14,11 +11,7 @@
 #include "download/frm_Winsock.h"
 #include "support/FakeClock.h"
 #include "support/FakeDownloadFiles.h"
-#include "support/FakeFileDialogs.h"
-#include "support/FakePump.h"
 #include "support/FakeSocket.h"
-
-#include "../app/SettingsWindow.h"
 
 #include <QAction>
 #include <QDir>
@@ -33,51 +26,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void copyFolder(const QString& from, const QString& to)
+struct SkinTest : SkinWorld
 {
-    QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        const QString source = walk.next();
-        const QString target = to + u'/' + QDir(from).relativeFilePath(source);
-        QDir().mkpath(QFileInfo(target).path());
-        QFile::copy(source, target);
-    }
-}
-
-class SkinTest : public testing::Test, protected AppWorld
-{
-protected:
-    SkinTest()
-    {
-        main.setLayoutPictures([this](int layout) { return skin.loadLayout(layout); });
-        for (const char* const name : {"default", "paper"})
-            copyFolder(QStringLiteral(VARNHOLD_SKINS "/") + QLatin1StringView(name),
-                       root.path(u"skin/"_s + QLatin1StringView(name)));
-    }
-
-    [[nodiscard]] QString inSkin(const QString& name) const { return root.path(u"skin/default/"_s + name); }
-    [[nodiscard]] QString storedSkin(const QString& key) const
-    {
-        return file.INI_Read(u"Skin"_s, key, u"(missing)"_s);
-    }
-    void replace(const QString& name, const QByteArray& bytes)
-    {
-        QFile::remove(inSkin(name));
-        root.write(u"skin/default/"_s + name, bytes);
-    }
-
-    FakeFileDialogs dialogs;
-    FakePump pump;
-    SkinPage page;
-    MenuCommands commands;
-    frmMenu menu{commands, sounds};
-    frmMain main{{state, settings, list, boxes, sounds, screen, root.paths()}};
-    SettingsWindow pages{*this, dialogs, pump, page};
-    frmSettings& settingsWindow = pages.window;
-    std::unique_ptr<frmSplash> splash = std::make_unique<frmSplash>();
-    SkinnedWindows windows{{main, settingsWindow, pages.skin, menu, splash}};
-    clsTransForm transForm{boxes};
-    Skin skin{{state, settings, file, root.paths(), page, boxes, dialogs, sounds, pump, transForm, windows}};
 };
 
 QColor textColor(const QWidget& label)
