@@ -18,87 +18,51 @@ QByteArray sumOf(const QByteArray& bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
 }
 
-/// Writes as a download does, and tells the sum.
-class ArrivalSumTest : public testing::Test
-{
-protected:
-    void begin(const QByteArray& old = {})
-    {
-        root.write(u"x.temp"_s, old);
-        file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
-        file.seek(old.size());
-        sum = std::make_unique<ArrivalSum>(workers);
-        sum->begin(file.fileName());
-    }
-    void write(const QByteArray& bytes)
-    {
-        file.write(bytes);
-        sum->grow(bytes.size());
-    }
-    std::optional<PackageSums> finish()
-    {
-        file.close();
-        return sum->finish(file.fileName());
-    }
-
-    TempRoot root;
-    QFile file{root.path(u"x.temp"_s)};
-    std::shared_ptr<Workers> workers = std::make_shared<Workers>(1);
-    std::unique_ptr<ArrivalSum> sum;
-};
-
-TEST_F(ArrivalSumTest, AgreesWithTheBytesHoweverTheyCome)
+TEST(ArrivalSum, AgreesWithWhatCameAndTellsNothingOfOtherFiles)
 {
     QByteArray all(30'000'000, Qt::Uninitialized);
     for (qsizetype i = 0; i < all.size(); ++i)
         all[i] = static_cast<char>(i * 31 / 7);
-    for (const auto& [size, piece] : {std::pair<qsizetype, qsizetype>{0, 1},
-                                      {31, 10},
-                                      {32, 32},
-                                      {33, 1},
-                                      {1000, 7},
-                                      {all.size(), 1'000'003},
-                                      {all.size(), all.size()}}) {
-        SCOPED_TRACE(testing::Message() << size << " in pieces of " << piece);
-        const QByteArray bytes = all.first(size);
-        begin();
-        for (qsizetype at = 0; at < size; at += piece) {
-            write(bytes.mid(at, piece));
+    const struct
+    {
+        qsizetype size, piece;
+        QByteArray before = {}, after = {}; ///< by another hand
+        bool known = true;
+    } cases[] = {
+        {0, 1},
+        {31, 10},
+        {32, 32},
+        {33, 1},
+        {1000, 7},
+        {all.size(), 1'000'003},
+        {20, 20, "old", {}, false},
+        {20, 20, {}, "more", false},
+    };
+    const TempRoot root;
+    const auto workers = std::make_shared<Workers>(1);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.size << " in pieces of " << c.piece);
+        QFile file(root.write(u"x.temp"_s, c.before));
+        ASSERT_TRUE(file.open(QIODevice::Append | QIODevice::Unbuffered));
+        ArrivalSum sum(workers);
+        sum.begin(file.fileName());
+        for (qsizetype at = 0; at < c.size; at += c.piece) {
+            sum.grow(file.write(all.constData() + at, std::min(c.piece, c.size - at)));
             QCoreApplication::processEvents();
         }
-        // A new name is the same file.
-        ASSERT_TRUE(file.rename(root.path(u"x.pkg"_s)));
-        const std::optional<PackageSums> sums = finish();
-        ASSERT_TRUE(sums);
-        EXPECT_EQ(sums->whole, sumOf(bytes));
-        EXPECT_EQ(sums->allButTail, size < 32 ? QByteArray() : sumOf(bytes.chopped(32)));
-        QFile::remove(file.fileName());
-        file.setFileName(root.path(u"x.temp"_s));
+        file.write(c.after);
+        ASSERT_TRUE(file.rename(root.path(u"x.pkg"_s))); // still the same file
+        const std::optional<PackageSums> sums = sum.finish(file.fileName());
+        ASSERT_EQ(sums.has_value(), c.known);
+        if (sums) {
+            EXPECT_EQ(sums->whole, sumOf(all.first(c.size)));
+            EXPECT_EQ(sums->allButTail, c.size < 32 ? QByteArray() : sumOf(all.first(c.size - 32)));
+        }
+        // Another of the same size in its place.
+        root.write(u"other"_s, all.first(c.size));
+        EXPECT_FALSE(sum.finish(root.path(u"other"_s)));
+        file.remove();
     }
-}
-
-TEST_F(ArrivalSumTest, TellsNothingOfAFileThatIsNotJustWhatCame)
-{
-    begin("an old part");
-    write("new");
-    EXPECT_FALSE(finish());
-
-    begin();
-    write("bytes");
-    file.write("more of another hand");
-    EXPECT_FALSE(finish());
-
-    begin();
-    write("bytes");
-    QFile::remove(file.fileName());
-    root.write(u"x.temp"_s, "bytes");
-    EXPECT_FALSE(finish());
-
-    // Gone while much of it is still to be read.
-    begin();
-    for (int i = 0; i < 20; ++i)
-        write(QByteArray(1'000'000, 'x'));
-    sum.reset();
     EXPECT_FALSE(PackageSum().finish(-1, 100));
 }
 

@@ -191,44 +191,6 @@ TEST_F(TcpSocketTest, movesBytesIntoFilesUnchanged)
     }
 }
 
-/// What arrives before the order begins waits behind its chunk, as if it had come while that was moved.
-TEST_F(TcpSocketTest, movesWhatFollowsButForWhatItIsToLeave)
-{
-    takesData = false;
-    const struct
-    {
-        QByteArray next, inFile, left;
-    } cases[] = {
-        {" and more", "first and more", ""},
-        {"HTT", "firstHTT", ""},
-        {"HTTP/1.0 200", "first", "HTTP/1.0 200"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.next.toStdString());
-        QTemporaryFile file;
-        ASSERT_TRUE(file.open());
-        QByteArray left;
-        int arrivals = 0;
-        qint64 moved = 0;
-        const QObject context;
-        QObject::connect(socket, &Socket::dataArrival, &context, [&] {
-            if (++arrivals > 1) {
-                left += socket->getData();
-                return;
-            }
-            socket->moveData(file.handle(), 0, "HTTP", [&](qint64 bytes, int) { moved = bytes; });
-            peer.send(c.next);
-        });
-        connectUp();
-        peer.send("first");
-        pumpUntil([&] { return moved + left.size() == 5 + c.next.size(); });
-        EXPECT_EQ(moved, c.inFile.size());
-        EXPECT_EQ(left, c.left);
-        EXPECT_EQ(file.readAll(), c.inFile);
-        socket->close();
-    }
-}
-
 TEST_F(TcpSocketTest, reportsAFullDisk)
 {
     takesData = false;

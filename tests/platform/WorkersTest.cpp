@@ -3,60 +3,37 @@
 
 #include <gtest/gtest.h>
 
-#include <QThread>
-
-#include <array>
 #include <atomic>
 
 namespace varnhold::test {
 namespace {
 
-TEST(Workers, DoWhatIsOrderedAndTellItHere)
-{
-    const auto workers = std::make_shared<Workers>(2);
-    std::array<std::unique_ptr<WorkOrder>, 5> orders;
-    std::atomic<int> atOnce = 0;
-    std::atomic<int> most = 0;
-    int sum = 0;
-    int rounds = 0;
-    const std::function<void(WorkOrder&)> begin = [&](WorkOrder& order) {
-        order.start(
-            [&] {
-                most = std::max(most.load(), ++atOnce);
-                QThread::msleep(1);
-                --atOnce;
-                return QThread::currentThread();
-            },
-            [&](QThread* worker) {
-                EXPECT_NE(worker, QThread::currentThread());
-                EXPECT_FALSE(order.isUnderWay());
-                sum += 1;
-                if (++rounds <= 20)
-                    begin(order); // from inside the end of the one before
-            });
-    };
-    for (auto& order : orders) {
-        order = std::make_unique<WorkOrder>(workers);
-        begin(*order);
-    }
-    EXPECT_EQ(sum, 0);
-    pumpUntil([&] { return sum == 25; });
-    EXPECT_EQ(most, 2);
-}
-
-TEST(Workers, CancelDropsWhatWaitsAndWaitsForWhatRuns)
+TEST(Workers, TellTheirEndHereAndNothingAfterACancel)
 {
     const auto workers = std::make_shared<Workers>(1);
     std::atomic<int> begun = 0;
     std::atomic<int> ended = 0;
-    int told = 0;
-    const auto begin = [&](WorkOrder& order) {
-        order.start([&] { return ++begun, QThread::msleep(20), ++ended; }, [&](int) { ++told; });
+    QList<int> told;
+    const QThread* const here = QThread::currentThread();
+    const auto begin = [&](WorkOrder& order, int number) {
+        order.start(
+            [&, number] {
+                ++begun;
+                QThread::msleep(20);
+                ++ended;
+                return QThread::currentThread() == here ? -1 : number;
+            },
+            [&](int result) { told.append(result); });
     };
+    const auto awaitEnd = [&](int count) {
+        while (ended < count)
+            QThread::yieldCurrentThread();
+    };
+    // Of two, the one that runs is waited for, and the other never begins.
     WorkOrder first(workers);
     auto second = std::make_unique<WorkOrder>(workers);
-    begin(first);
-    begin(*second);
+    begin(first, 1);
+    begin(*second, 2);
     while (begun == 0)
         QThread::yieldCurrentThread();
     second.reset();
@@ -65,19 +42,20 @@ TEST(Workers, CancelDropsWhatWaitsAndWaitsForWhatRuns)
     EXPECT_EQ(ended, 1);
 
     // One that has ended and is not told yet; the next order's end is not taken for its own.
-    begin(first);
-    while (ended < 2)
-        QThread::yieldCurrentThread();
+    begin(first, 3);
+    awaitEnd(2);
     first.cancel();
-    begin(first);
-    pumpUntil([&] { return told > 0; });
+    begin(first, 4);
+    awaitEnd(3);
+    EXPECT_TRUE(told.isEmpty());
+    pumpUntil([&] { return !first.isUnderWay(); });
     QCoreApplication::processEvents();
     EXPECT_EQ(begun, 3);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(told, QList<int>{4});
 
-    // An owner may go from inside its end.
+    // An owner may go, or begin anew, from inside its end.
     auto last = std::make_unique<WorkOrder>(workers);
-    last->start([] { return 0; }, [&](int) { last.reset(); });
+    last->start([] { return 0; }, [&](int) { last->start([] { return 0; }, [&](int) { last.reset(); }); });
     pumpUntil([&] { return last == nullptr; });
 }
 
