@@ -80,6 +80,7 @@ private:
     int m_images = 0; ///< in the game list's strip
     DatabaseWatch& m_painter;
     QElapsedTimer m_painted;
+    unsigned m_rows = 0; ///< since the program's start
 };
 
 } // namespace varnhold

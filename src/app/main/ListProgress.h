@@ -23,6 +23,7 @@ private:
     XP_ProgressBar& m_bar;
     QElapsedTimer m_painted;
     int m_percent = 0;
+    int m_next = 0; ///< below it nothing that shows can have changed
 };
 
 } // namespace varnhold

@@ -61,8 +61,11 @@ qint64 EngineStatement::integer(int column) const
 QByteArrayView EngineStatement::text(int column) const
 {
     // As text it would be copied for the sake of a NUL behind it.
-    if (m_isUtf8 && sqlite3_column_type(m_statement, column) == SQLITE_TEXT)
-        return binary(column);
+    if (m_isUtf8) {
+        sqlite3_value* const held = value(column);
+        if (sqlite3_value_type(held) == SQLITE_TEXT)
+            return {static_cast<const char*>(sqlite3_value_blob(held)), sqlite3_value_bytes(held)};
+    }
     const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, column));
     if (text == nullptr && sqlite3_errcode(sqlite3_db_handle(m_statement)) == SQLITE_NOMEM)
         throw RunTimeError(errors::outOfMemory);

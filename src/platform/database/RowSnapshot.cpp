@@ -235,6 +235,8 @@ bool RowSnapshot::isListed(int column, const std::vector<qint64>& first) const
 
 void RowSnapshot::arrange(const std::vector<quint32>& order)
 {
+    if (std::is_sorted(order.begin(), order.end()))
+        return; // as they came
     std::vector<qint64> numbers(m_numbers.size());
     std::transform(order.begin(), order.end(), numbers.begin(), [&](quint32 row) { return m_numbers[row]; });
     m_numbers.swap(numbers);
