@@ -27,6 +27,7 @@
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <cstdlib>
 
 namespace varnhold::bench {
@@ -139,6 +140,16 @@ void benchCut(int packages, int pairs, double atMost)
         require(world.list.count() == packages, "rows are missing");
     };
     const auto cut = [&] { cutPage(page); };
+    std::vector<std::array<QString, 5>> owned;
+    const auto cutAndOwn = [&] {
+        cutPage(page);
+        owned.clear();
+        for (int row = 1; row <= packages; ++row)
+            owned.push_back({world.list.text(row), world.list.subItem(row, UpdateList::Version),
+                             world.list.subItem(row, UpdateList::Size),
+                             world.list.subItem(row, UpdateList::Binary),
+                             world.list.subItem(row, UpdateList::Url)});
+    };
     const auto treeAndCut = [&] { cutPage(xmlTreeText(bytes).value()); };
     const auto parse = [&] {
         pugiRows(bytes, rows);
@@ -151,8 +162,45 @@ void benchCut(int packages, int pairs, double atMost)
         printPaired(name, comparePaired(pairs, cpu(ours), cpu(parse)), "CPU ms", 1e3, limit);
         printPaired(name, comparePaired(pairs, wall(ours), wall(parse)), "wall ms", 1e3, limit);
     };
-    compare("text to rows / parser with copies", cut, atMost);
+    compare("text to rows that look into it / parser with copies", cut, atMost);
+    compare("text to rows that own it / the same", cutAndOwn, 0);
     compare("bytes to tree text to rows / the same", treeAndCut, 0);
+}
+
+/// Documents that make the reader compare, of about so many bytes: as much as is let through, and more.
+void benchHeavy(qsizetype size)
+{
+    const auto many = [](const char* before, const char* behind, qsizetype bytes) {
+        QByteArray text;
+        for (int i = 0; text.size() < bytes; ++i)
+            text += before + QByteArray::number(i) + behind;
+        return text;
+    };
+    const auto repeated = [size](const QByteArray& tag) {
+        return "<a>" + tag.repeated(size / tag.size()) + "</a>";
+    };
+    const auto defaults = [&](qsizetype bytes) {
+        return "<!DOCTYPE a [<!ATTLIST b" + many(" c", " ID #IMPLIED", bytes) + ">]>" + repeated("<b/>");
+    };
+    constexpr qsizetype few = 1500; // bytes that hold no more than is let through
+    const struct
+    {
+        const char* name;
+        QByteArray document;
+    } heavy[] = {
+        {"attributes", repeated("<b" + many(" c", "=''", few) + "/>")},
+        {"attributes, too many", "<a" + many(" c", "=''", size) + "/>"},
+        {"name spaces", repeated("<b" + many(" xmlns:c", "=''", few) + "/>")},
+        {"name spaces, too many", "<a" + many(" xmlns:c", "=''", size) + "/>"},
+        {"defaults", defaults(few)},
+        {"defaults, too many", defaults(size)},
+    };
+    for (const auto& one : heavy) {
+        bool isShown = false;
+        const double seconds = secondsOf([&] { isShown = xmlTreeText(one.document).has_value(); });
+        std::printf("%4.1f MB of %-24s %8.1f ms, %s\n", double(one.document.size()) / 1e6, one.name,
+                    seconds * 1e3, isShown ? "shown" : "refused");
+    }
 }
 
 /// The sample service in a thread of its own, with one document.
@@ -230,9 +278,11 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     using namespace varnhold::bench;
-    benchCut(20000, 31, 1.0);
+    benchCut(20000, 31, 0.67);
     for (const int packages : {2000, 8000, 32000})
         benchCut(packages, 15, 0);
+    for (const qsizetype megabytes : {1, 8})
+        benchHeavy(megabytes * 1'000'000);
     for (const int packages : {3, 50})
         benchLookup(packages, 201);
     return 0;

@@ -86,6 +86,10 @@ AttributeCut::AttributeCut(QString& text)
     const QString source = std::exchange(text, QString(text.size(), Qt::Uninitialized));
     auto* const begin = reinterpret_cast<char16_t*>(text.data());
     m_begin = m_next = m_nextTitle = m_valueStart = begin;
+    // Room for as many packages as such a text holds; what is not used is never touched.
+    constexpr qsizetype shortestPackage = 128;
+    for (std::vector<QStringView>& values : m_values)
+        values.reserve(std::min(mostPieces, static_cast<std::size_t>(source.size() / shortestPackage) + 2));
     const char16_t* end = begin;
     copyWithoutMarks({QStringView(source).utf16(), static_cast<std::size_t>(source.size())}, begin,
                      [&](const char16_t* copied) {

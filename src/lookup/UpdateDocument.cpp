@@ -5,13 +5,10 @@
 #include "lookup/MarkRows.h"
 #include "lookup/TitleCleaner.h"
 #include "lookup/UpdateList.h"
-#include "platform/Conversion.h"
 #include "platform/Trim.h"
 #include "state/ApplicationState.h"
-#include "state/DisplayLocale.h"
 #include "state/ErrorReport.h"
 #include "state/Settings.h"
-#include "state/SizeText.h"
 
 #include <algorithm>
 #include <limits>
@@ -48,34 +45,14 @@ template <typename Use> void eachValue(const std::vector<QStringView>& values, U
     }
 }
 
-double numberOf(QStringView value)
-{
-    // Digits alone, as good as always, need no closer look.
-    constexpr qsizetype exactDigits = 15;
-    quint64 number = 0;
-    for (const QChar digit : value) {
-        if (value.size() > exactDigits || digit < u'0' || digit > u'9')
-            return doubleFromText(value.toString());
-        number = number * 10 + (digit.unicode() - u'0');
-    }
-    return static_cast<double>(number);
-}
-
 void fillSizes(UpdateList& list, const std::vector<QStringView>& values)
 {
-    const NumberFormat numbers(Grouping::On);
-    QString text;
     eachValue(values, [&](int row, QStringView value) {
         // Values lie too far apart for the processor to see the next ones coming.
         constexpr std::size_t ahead = 16;
         const QStringView later = values[std::min(static_cast<std::size_t>(row) + ahead, values.size() - 1)];
         __builtin_prefetch(later.cbegin());
-        __builtin_prefetch(later.cend());
-
-        text.resize(0); // keeps its memory
-        appendSize(text, numbers, numberOf(value), 2, true);
-        text.append(u" (").append(value).append(u" bytes)");
-        list.setSubItem(row, UpdateList::Size, text);
+        list.setBytes(row, value);
     });
 }
 

@@ -1,8 +1,11 @@
 #include "lookup/UpdateList.h"
 
 #include "lookup/UpdateListTip.h"
+#include "platform/Conversion.h"
 #include "platform/RunTimeError.h"
+#include "state/SizeText.h"
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 
@@ -15,9 +18,25 @@ namespace {
 constexpr int mostRows = std::numeric_limits<qint16>::max();
 constexpr std::array headers = {u"Pkg", u"Version", u"Bytes", u"Sha1", u"Url"};
 
+constexpr quint8 noKey = 0;
+constexpr quint8 newRowKey = 1;
+
+double numberOf(QStringView value)
+{
+    // Digits alone, as good as always, need no closer look.
+    constexpr qsizetype exactDigits = 15;
+    quint64 number = 0;
+    for (const QChar digit : value) {
+        if (value.size() > exactDigits || digit < u'0' || digit > u'9')
+            return doubleFromText(value.toString());
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    return static_cast<double>(number);
+}
+
 } // namespace
 
-UpdateList::UpdateList(QObject* parent) : QAbstractTableModel(parent) {}
+UpdateList::UpdateList(QObject* parent) : QAbstractTableModel(parent), m_keys{{}, u"pkg"_s} {}
 
 int UpdateList::count() const
 {
@@ -64,6 +83,7 @@ void UpdateList::clear()
     m_marks.clear();
     m_shared.clear();
     m_own.clear();
+    m_numbers.reset();
     endFill();
 }
 
@@ -105,7 +125,7 @@ void UpdateList::addRow(QStringView text)
     for (std::vector<Cell>& column : m_cells)
         column.emplace_back();
     m_cells.front().back() = store(text);
-    m_marks.push_back({u"pkg"_s, {}, false});
+    m_marks.push_back({newRowKey, noKey, false, false});
     if (m_fills == 0)
         endInsertRows();
 }
@@ -114,7 +134,39 @@ void UpdateList::setSubItem(int row, SubItem item, QStringView text)
 {
     const std::size_t index = indexOf(row);
     m_cells.at(item)[index] = store(text);
+    if (item == Size)
+        m_marks[index].sizeIsBytes = false;
     tell(row, item);
+}
+
+void UpdateList::setBytes(int row, QStringView bytes)
+{
+    (void)numberOf(bytes);
+    const std::size_t index = indexOf(row);
+    if (!m_numbers)
+        m_numbers.emplace(Grouping::On);
+    m_cells[Size][index] = store(bytes);
+    m_marks[index].sizeIsBytes = true;
+    tell(row, Size);
+}
+
+QString UpdateList::shownText(int row, std::size_t column) const
+{
+    const QStringView text = viewOf(cellOf(row, column));
+    if (column != Size || !m_marks[indexOf(row)].sizeIsBytes)
+        return text.toString();
+    QString size;
+    appendSize(size, *m_numbers, numberOf(text), 2, true);
+    return size.append(u" (").append(text).append(u" bytes)");
+}
+
+UpdateList::IconKey UpdateList::keyOf(const QString& key)
+{
+    const auto known = std::find(m_keys.begin(), m_keys.end(), key);
+    const auto place = static_cast<IconKey>(known - m_keys.begin());
+    if (known == m_keys.end())
+        m_keys.push_back(key);
+    return place;
 }
 
 void UpdateList::removeRow(int row)
@@ -131,18 +183,18 @@ void UpdateList::removeRow(int row)
 
 void UpdateList::setReportIcon(int row, const QString& key)
 {
-    m_marks[indexOf(row)].reportIcon = key;
+    m_marks[indexOf(row)].reportIcon = keyOf(key);
     tell(row, Version);
 }
 
 QString UpdateList::text(int row) const
 {
-    return viewOf(cellOf(row, 0)).toString();
+    return shownText(row, 0);
 }
 
 QString UpdateList::subItem(int row, SubItem item) const
 {
-    return viewOf(cellOf(row, item)).toString();
+    return shownText(row, item);
 }
 
 bool UpdateList::hasSubItem(int row, SubItem item) const
@@ -152,12 +204,12 @@ bool UpdateList::hasSubItem(int row, SubItem item) const
 
 QString UpdateList::icon(int row) const
 {
-    return m_marks[indexOf(row)].icon;
+    return m_keys[m_marks[indexOf(row)].icon];
 }
 
 void UpdateList::setIcon(int row, const QString& key)
 {
-    m_marks[indexOf(row)].icon = key;
+    m_marks[indexOf(row)].icon = keyOf(key);
     tell(row, 0);
 }
 
@@ -205,15 +257,15 @@ QVariant UpdateList::data(const QModelIndex& index, int role) const
     const int column = index.column();
     switch (role) {
     case Qt::DisplayRole:
-        return viewOf(cellOf(index.row() + 1, static_cast<std::size_t>(column))).toString();
+        return shownText(index.row() + 1, static_cast<std::size_t>(column));
     case Qt::CheckStateRole:
         if (column == 0 && m_checkBoxes)
             return mark.checked ? Qt::Checked : Qt::Unchecked;
         return {};
     case IconKeyRole:
-        return column == 0 ? mark.icon : column == Version ? mark.reportIcon : QString();
+        return m_keys[column == 0 ? mark.icon : column == Version ? mark.reportIcon : noKey];
     case Qt::AccessibleDescriptionRole:
-        return iconMeaning(mark.icon);
+        return iconMeaning(m_keys[mark.icon]);
     default:
         return {};
     }

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "state/DisplayLocale.h"
+
 #include <QAbstractTableModel>
 #include <QString>
 #include <QStringView>
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace varnhold {
@@ -38,7 +41,10 @@ public:
     void addRow(QStringView text);
     /// Sets a sub-item though an earlier one may be missing. RunTimeError 35600 when row is not 1 to count().
     void setSubItem(int row, SubItem item, QStringView text);
-    void removeRow(int row);                         ///< 35600 out of range
+    void removeRow(int row); ///< 35600 out of range
+    /// Sub-item Size of a package of so many bytes, in digits as a rule. It shows as size and number; the
+    /// words are made when they are asked for. Throws what the conversion of something else to a number does.
+    void setBytes(int row, QStringView bytes);
     void setReportIcon(int row, const QString& key); ///< of sub-item 1
 
     [[nodiscard]] QString text(int row) const;                  ///< row text; 35600 out of range
@@ -74,24 +80,30 @@ private:
         qint32 start = 0;   ///< in the shared text; ~start below 0, in the list's own
         qint32 length = -1; ///< below 0: the sub-item is missing
     };
+    using IconKey = quint8; ///< place of a key in m_keys; there are a handful of them
     struct Mark
     {
-        QString icon;
-        QString reportIcon;
+        IconKey icon = 0;
+        IconKey reportIcon = 0;
         bool checked = false;
+        bool sizeIsBytes = false; ///< the cell of Size holds the number alone
     };
     static constexpr std::size_t columns = 5; ///< the row text, then the sub-items
 
     [[nodiscard]] Cell store(QStringView text);
     [[nodiscard]] QStringView viewOf(const Cell& cell) const;
+    [[nodiscard]] QString shownText(int row, std::size_t column) const;
+    IconKey keyOf(const QString& key);
     [[nodiscard]] std::size_t indexOf(int row) const; ///< RunTimeError 35600 out of range
     [[nodiscard]] const Cell& cellOf(int row, std::size_t column) const;
     void tell(int row, int column);
 
     std::array<std::vector<Cell>, columns> m_cells; ///< by column, since a fill goes column by column
     std::vector<Mark> m_marks;                      ///< by row
-    QString m_shared;                               ///< the text that the fill came from
-    QString m_own;                                  ///< all other texts, one after the other
+    std::vector<QString> m_keys;           ///< of icons; the first is of none, the second a new row's
+    QString m_shared;                      ///< the text that the fill came from
+    QString m_own;                         ///< all other texts, one after the other
+    std::optional<NumberFormat> m_numbers; ///< of the sizes, from a fill's first on
     int m_fills = 0;
     bool m_checkBoxes = false;
 };

@@ -17,6 +17,10 @@ TEST(UpdateList, KnowsItsRowsFromOne)
     list.setSubItem(1, UpdateList::Url, u"u"_s);
     EXPECT_FALSE(list.hasSubItem(1, UpdateList::Size)) << "a later one may be set first";
     EXPECT_EQ(list.subItem(1, UpdateList::Size), u""_s);
+    list.setBytes(1, u"2048"_s);
+    EXPECT_EQ(list.subItem(1, UpdateList::Size), u"2.00 kB (2048 bytes)"_s);
+    EXPECT_EQ(errorNumberOf([&] { list.setBytes(2, u"many"_s); }), 13) << "told before the row is";
+    list.setSubItem(1, UpdateList::Size, {});
     for (const int row : {0, 2, -1})
         EXPECT_EQ(errorNumberOf([&] { list.setSubItem(row, UpdateList::Url, {}); }), 35600);
     EXPECT_EQ(list.findUrl(u"u"_s), 1);
