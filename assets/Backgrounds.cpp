@@ -137,7 +137,9 @@ std::vector<WindowPlan> windowPlans()
         {.file = "background-search.bmp", .size = {447, 321}, .strips = {{9, 29, 429, 283}}},
         {.file = "background-DB.bmp", .size = {595, 385}, .strips = {{9, 29, 577, 347}}},
         {.file = "background-dl.bmp", .size = {352, 164}, .wells = {{8, 131, 336, 9}}, .rules = {69}},
-        {.file = "background-slide.bmp", .size = {447, 221}, .strips = {{9, 29, 429, 183}}},
+        {.file = "background-slide.bmp",
+         .size = {447, 221},
+         .wells = {{24, 64, 110, 125}, {151, 24, 145, 165}, {313, 64, 110, 125}}}, // all stand on one line
         {.file = "background-splash.bmp", .size = {320, 160}},
     };
 }

@@ -45,6 +45,12 @@ void AppearanceOwner::dressDownload(QWidget& window)
     drawButtonSigns(window);
 }
 
+void AppearanceOwner::dressThumbs(QWidget& window)
+{
+    m_skin.Load_Thumbs(window);
+    drawButtonSigns(window);
+}
+
 void AppearanceOwner::dressRenamer(QWidget& window)
 {
     m_skin.loadRenamer(window);

@@ -32,6 +32,8 @@ public:
     void setIconRedraw(std::function<void()> redraw) { m_windows.setIconRedraw(std::move(redraw)); }
     /// Dresses and shapes a download window; failures are ignored.
     void dressDownload(QWidget& window);
+    /// Dresses and shapes the thumbnail window; tells its failures itself.
+    void dressThumbs(QWidget& window);
     /// Gives the renamer its buttons' faces and the main window's opacity.
     void dressRenamer(QWidget& window);
 

@@ -4,6 +4,7 @@
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
+#include "app/settings/CoversPage.h"
 #include "app/settings/frmSettings.h"
 #include "app/start/frmSplash.h"
 
@@ -27,6 +28,10 @@ CoverOwner::CoverOwner(const Common& common, AppearanceOwner& appearance)
         fillMenu();
     });
     bindCommands();
+    const auto& page = common.settingsWindow.add<CoversPage>(common.settings, m_servers, common.world.boxes,
+                                                             [this] { fillMenu(); });
+    connect(&page, &CoversPage::coverPathWanted, this, [this] { m_commands.mnuCoverPath_Click(); });
+    connect(&page, &CoversPage::coverPathCleared, this, [this] { m_commands.clearCoverPath(); });
 }
 
 void CoverOwner::bindCommands()
@@ -37,10 +42,7 @@ void CoverOwner::bindCommands()
     commands.bind("mnuImageExplore", [this] { m_commands.mnuImageExplore_Click(); });
     commands.bind("mnuImageOpen", [this] { m_commands.mnuImageOpen_Click(); });
     commands.bind("mnuGoogle", [this, &main] { m_commands.mnuGoogle_Click(main.selectedGameText()); });
-    commands.bind("mnuCoverPath", [this] {
-        if (m_commands.mnuCoverPath_Click())
-            m_common.settingsWindow.refresh();
-    });
+    commands.bind("mnuCoverPath", [this] { m_commands.mnuCoverPath_Click(); });
     commands.bindEach("mnuCServs", [this](int index) { m_fetch.mnuCServs_Click(index); });
 }
 

@@ -61,6 +61,7 @@ Program::Program(const Paths& paths, World world)
                            .dress = [this](QWidget& window) { m_appearance.dressRenamer(window); }}),
       m_database(m_common, m_lookups.lookup(), m_appearance),
       m_covers(m_common, m_appearance),
+      m_thumbs(m_common, m_lookups.lookup(), [this](QWidget& window) { m_appearance.dressThumbs(window); }),
       m_settingsPages(m_common, m_lookups.certificates()),
       m_startUp({.state = m_state,
                  .settings = m_settings,

@@ -7,6 +7,7 @@
 #include "app/LookupOwner.h"
 #include "app/RenamerOwner.h"
 #include "app/SettingsOwner.h"
+#include "app/ThumbsOwner.h"
 #include "app/World.h"
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
@@ -83,6 +84,7 @@ private:
     RenamerOwner m_renamer;
     DatabaseOwner m_database;
     CoverOwner m_covers;
+    ThumbsOwner m_thumbs;
     SettingsOwner m_settingsPages;
     StartUp m_startUp;
     ExitPath m_exitPath;

@@ -291,15 +291,39 @@ void Skin::loadRenamer(QWidget& window)
     dress(window, renamerTargets(), folder);
 }
 
-void Skin::dress(QWidget& window, std::span<const SkinTarget> targets, const QString& folder)
+void Skin::Load_Thumbs(QWidget& window)
 {
+    const auto failure = dress(window, thumbsTargets(), m_services.state.SkinPath);
+    shape(window);
+    if (!failure)
+        return;
+    varnhold::makeTextsReadable(window, m_services.page.Shape_Color[SkinPage::Fore]);
+    const bool isMissing =
+        failure->number() == errors::fileNotFound || failure->number() == errors::pathNotFound;
+    m_services.boxes.show({.text = isMissing ? missingSkinFileText(*failure) : skinErrorText(*failure),
+                           .title = QCoreApplication::applicationName(),
+                           .icon = BoxIcon::Exclamation,
+                           .buttons = BoxButtons::Ok});
+}
+
+std::optional<RunTimeError> Skin::dress(QWidget& window, std::span<const SkinTarget> targets,
+                                        const QString& folder)
+{
+    std::optional<RunTimeError> failure;
     SkinPictures pictures(folder);
     for (const SkinTarget& target : targets) {
         QWidget* const found = *target.control == '\0' ? &window : controlOf(window, target.control);
-        if (found != nullptr)
-            silently([&] { applyTarget(target, *found, pictures); });
+        if (found == nullptr)
+            continue;
+        try {
+            applyTarget(target, *found, pictures);
+        } catch (const RunTimeError& error) {
+            if (!failure)
+                failure = error;
+        }
     }
     assignSkinColorsInside(window, m_services.page.Shape_Color);
+    return failure;
 }
 
 void Skin::makeTextsReadable()

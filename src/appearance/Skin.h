@@ -4,9 +4,12 @@
 #include "appearance/SkinCatalogue.h"
 #include "appearance/SkinPage.h"
 #include "appearance/SkinTargets.h"
+#include "platform/RunTimeError.h"
 
 #include <QHash>
 #include <QPixmap>
+
+#include <optional>
 
 class QAction;
 class QWidget;
@@ -16,7 +19,6 @@ namespace varnhold {
 class FileDialogs;
 class MessageBoxes;
 class MessagePump;
-class RunTimeError;
 class Settings;
 class SettingsFile;
 class SkinIni;
@@ -84,6 +86,9 @@ public:
     bool loadLayout(int layout);
     /// Dresses and shapes a download window; failures are ignored.
     void Load_DL(QWidget& window);
+    /// Dresses and shapes the thumbnail window. A failure is told, and changes no more than the window's
+    /// look.
+    void Load_Thumbs(QWidget& window);
     /// The renamer's faces, from the skin that Settings.ini names now; failures are ignored.
     void loadRenamer(QWidget& window);
     /// Cuts a window to its picture's shape.
@@ -100,8 +105,10 @@ public:
     [[nodiscard]] const SkinCatalogue& catalogue() const { return m_catalogue; }
 
 private:
-    /// A window that no skin's application walks: its pictures and colours; failures are ignored.
-    void dress(QWidget& window, std::span<const SkinTarget> targets, const QString& folder);
+    /// A window that no skin's application walks: its pictures and colours, as far as they go. The first
+    /// failure.
+    std::optional<RunTimeError> dress(QWidget& window, std::span<const SkinTarget> targets,
+                                      const QString& folder);
     void apply();
     void applyMain(SkinPictures& pictures);
     void readColors(const SkinIni& ini);

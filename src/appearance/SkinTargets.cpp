@@ -159,6 +159,12 @@ constexpr SkinTarget renamerRows[] = {
     faces("frmReNamer", "btnCancel", narrow),
 };
 
+constexpr SkinTarget thumbsRows[] = {
+    picture("frmThumbs", "", "background-slide.bmp"),
+    picture("frmThumbs", "picBar", "caption-bar.bmp"),
+    faces("frmThumbs", "btn_WinState(1)", updown),
+};
+
 constexpr SkinTarget downloadRows[] = {
     picture("frm_Winsock", "", "background-dl.bmp"),
     faces("frm_Winsock", "btnExit", updown),
@@ -177,6 +183,11 @@ std::span<const SkinTarget> mainTargets()
 std::span<const SkinTarget> settingsTargets()
 {
     return settingsRows;
+}
+
+std::span<const SkinTarget> thumbsTargets()
+{
+    return thumbsRows;
 }
 
 std::span<const SkinTarget> searchTargets()

@@ -39,6 +39,7 @@ std::span<const SkinTarget> searchTargets();
 std::span<const SkinTarget> databaseTargets();       ///< up to bImage.bmp
 std::span<const SkinTarget> databaseButtonTargets(); ///< after it
 std::span<const SkinTarget> downloadTargets();       ///< of each frm_Winsock
+std::span<const SkinTarget> thumbsTargets();         ///< of frmThumbs
 std::span<const SkinTarget> renamerTargets();        ///< of frmReNamer
 /// The main window's pictures in its normal and in its enlarged size.
 std::span<const SkinTarget> normalTargets();

@@ -1,6 +1,5 @@
 #include "covers/CoverBox.h"
 
-#include "covers/FitPreviewImage.h"
 #include "platform/HandCursors.h"
 
 #include <QContextMenuEvent>
@@ -27,9 +26,8 @@ CoverBox::CoverBox(QWidget* parent) : QWidget(parent)
 
 void CoverBox::setPicture(const QPixmap& picture)
 {
-    m_picture = picture;
+    m_picture.setPicture(picture);
     m_read = {};
-    m_shown = {};
     update();
 }
 
@@ -47,21 +45,13 @@ bool CoverBox::setPictureFrom(Reader read)
 QPixmap CoverBox::wholePicture() const
 {
     const QImage whole = m_read ? m_read({}) : QImage();
-    return whole.isNull() ? m_picture : QPixmap::fromImage(whole);
+    return whole.isNull() ? picture() : QPixmap::fromImage(whole);
 }
 
 void CoverBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QRect place = fitPreviewImage(m_picture.size(), size());
-    if (!place.isEmpty()) {
-        const QSize pixels = place.size() * devicePixelRatio();
-        if (m_shown.size() != pixels) {
-            m_shown = m_picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            m_shown.setDevicePixelRatio(devicePixelRatio());
-        }
-        painter.drawPixmap(place.topLeft(), m_shown);
-    }
+    m_picture.paint(painter, rect());
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Link));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPixmap>
+#include "covers/FittedPicture.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -20,7 +21,10 @@ public:
     /// Reads a picture, scaled down to fit in `most` unless that is empty; null when there is none.
     using Reader = std::function<QImage(const QSize& most)>;
 
-    [[nodiscard]] const QPixmap& picture() const { return m_picture; } ///< as it is held to be shown
+    [[nodiscard]] const QPixmap& picture() const
+    {
+        return m_picture.picture();
+    } ///< as it is held to be shown
     void setPicture(const QPixmap& picture);
     /// Reads no more of the picture than the control's width shows, which is several times as fast. False,
     /// and nothing is changed, when it is no picture.
@@ -40,9 +44,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    QPixmap m_picture;
-    Reader m_read;   ///< of the whole picture, unless m_picture is that
-    QPixmap m_shown; ///< scaled for the size that was painted last
+    FittedPicture m_picture{FittedPicture::Larger::Yes};
+    Reader m_read; ///< of the whole picture, unless m_picture is that
 };
 
 } // namespace varnhold

@@ -19,9 +19,6 @@ public:
     [[nodiscard]] virtual QString title(int row) const = 0; ///< of List1
     [[nodiscard]] virtual int listIndex() const = 0;        ///< -1: none
     [[nodiscard]] virtual bool isSelected(int row) const = 0;
-    /// A double click on this game's thumbnail: chooses the game and shows its updates. Pumps; the caller may
-    /// be gone when it returns.
-    virtual void choose(const QString& gameId) = 0;
 };
 
 /// One image of the window.

@@ -17,7 +17,6 @@ struct FakeThumbsList : ThumbsList
     [[nodiscard]] QString title(int row) const override { return titles.value(row); }
     [[nodiscard]] int listIndex() const override { return index; }
     [[nodiscard]] bool isSelected(int row) const override { return selected.contains(row); }
-    void choose(const QString&) override {}
 
     QStringList ids;
     QStringList titles;
