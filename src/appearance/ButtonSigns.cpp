@@ -35,9 +35,9 @@ Sign signOf(const ButtonEx& button)
         return Sign::Reload;
     if (name == "cmdClear"_L1)
         return Sign::Clear;
-    if (name == "btnSkinUpDwn(0)"_L1 || name == "btnSkinUpDwn(2)"_L1)
+    if (name == "btnSkinUpDwn(0)"_L1 || name == "btnSkinUpDwn(2)"_L1 || name == "btn_fav_Change(1)"_L1)
         return Sign::Down;
-    if (name == "btnSkinUpDwn(1)"_L1 || name == "btnSkinUpDwn(3)"_L1)
+    if (name == "btnSkinUpDwn(1)"_L1 || name == "btnSkinUpDwn(3)"_L1 || name == "btn_fav_Change(0)"_L1)
         return Sign::Up;
     return Sign::None;
 }

@@ -58,7 +58,7 @@ TEST_P(Contrast, ofLabelsOnTheWindows)
     expectReadable(fore, u"background-settings.bmp"_s, {24, 5, 340, 12});
     expectReadable(fore, u"background-search.bmp"_s, {10, 30, 422, 278});
     expectReadable(fore, u"background-DB.bmp"_s, {10, 30, 570, 342});
-    expectReadable(fore, u"background-slide.bmp"_s, {10, 30, 422, 178});
+    expectReadable(fore, u"background-slide.bmp"_s, {8, 5, 407, 12});
     for (const QString& file :
          {u"background-mPic.bmp"_s, u"background-mLPic.bmp"_s, u"background-nPic.bmp"_s})
         expectReadable(fore, file, skin.picture(file).rect());
