@@ -20,6 +20,8 @@
 #include "platform/database/DatabaseConnection.h"
 #include "platform/database/DatabaseCopy.h"
 #include "platform/database/Recordset.h"
+#include "platform/richtext/RichTextFile.h"
+#include "platform/richtext/RtfReader.h"
 #include "state/ApplicationState.h"
 #include "state/SettingsFile.h"
 #include "support/FakePump.h"
@@ -75,6 +77,28 @@ void checkIni(const TempRoot& root, const QString& folder, const QString& name, 
         << bytes.constData();
     if (outcome == FaultOutcome::Acknowledged) {
         EXPECT_EQ(QDir(root.path(folder)).entryList(QDir::Files | QDir::Hidden), QStringList{name});
+    }
+}
+
+// Notes
+
+bool useNotes(const QString& root, const QString& /*argument*/)
+{
+    try {
+        saveRtf(root + u"/notes.rtf"_s, readRtf("new"));
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+void checkNotes(FaultPlace& place, FaultOutcome outcome)
+{
+    const QString text = readRtf(place.root.read(u"work/notes.rtf"_s)).plainText();
+    EXPECT_TRUE(text == u"new"_s || (outcome != FaultOutcome::Acknowledged && text == u"old"_s));
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden),
+                  QStringList{u"notes.rtf"_s});
     }
 }
 
@@ -283,6 +307,10 @@ const std::vector<WritingPath>& writingPaths()
          .check = [](FaultPlace& place,
                      FaultOutcome outcome) { checkIni(place.root, u"work/skin"_s, u"Skin.ini"_s, outcome); },
          .mayPassOverFlushes = true},
+        {.name = "Notes",
+         .prepare = [](FaultPlace& place) { place.root.write(u"work/notes.rtf"_s, "old"); },
+         .use = useNotes,
+         .check = checkNotes},
         {.name = "DownloadWindow",
          .prepare =
              [](FaultPlace& place) {

@@ -6,11 +6,19 @@
 #include "platform/richtext/RtfReader.h"
 #include "platform/richtext/RtfWriter.h"
 
+#include <QFileInfo>
+
 namespace varnhold {
 
 namespace {
 
 constexpr std::int64_t largestNotes = std::int64_t{64} * 1024 * 1024;
+
+void save(const QString& path, const QByteArray& bytes)
+{
+    clearLeftovers(QFileInfo(path).path());
+    replaceFile(path, bytes);
+}
 
 } // namespace
 
@@ -21,7 +29,7 @@ RichText loadNotes(const QString& path)
 
 void saveRtf(const QString& path, const RichText& text)
 {
-    replaceFile(path, writeRtf(text));
+    save(path, writeRtf(text));
 }
 
 void savePlainText(const QString& path, const QString& text)
@@ -31,7 +39,7 @@ void savePlainText(const QString& path, const QString& text)
         lines += u'\n';
     lines.replace(u'\n', QLatin1String("\r\n"));
     const std::optional<QByteArray> bytes = toCodePage(lines);
-    replaceFile(path, bytes ? *bytes : "\xEF\xBB\xBF" + lines.toUtf8());
+    save(path, bytes ? *bytes : "\xEF\xBB\xBF" + lines.toUtf8());
 }
 
 } // namespace varnhold
