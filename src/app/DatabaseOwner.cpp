@@ -18,7 +18,8 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwn
       m_page(common.settingsWindow.add<DatabasePage>(common.settings, appearance.page())),
       m_view({common.main, common.menu, common.settingsWindow, m_page, common.list, common.splash},
              m_painter),
-      m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes})
+      m_gameList({m_database, common.state, common.settings, m_view, common.sounds, common.world.boxes}),
+      m_tools(common, m_database, m_page)
 {
     frmMain& main = common.main;
     const auto loadEntry = [this, common] {

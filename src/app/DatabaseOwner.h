@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Common.h"
+#include "app/DatabaseToolsOwner.h"
 #include "app/GameListOnWindows.h"
 #include "app/WindowPainter.h"
 #include "gamedb/GameList.h"
@@ -23,6 +24,8 @@ public:
     DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance);
 
     [[nodiscard]] GameList& gameList() { return m_gameList; }
+    /// The lower half of the Database page.
+    [[nodiscard]] DatabaseToolsOwner& tools() { return m_tools; }
 
 private:
     WindowPainter m_painter;
@@ -30,6 +33,7 @@ private:
     DatabasePage& m_page;
     GameListOnWindows m_view;
     GameList m_gameList;
+    DatabaseToolsOwner m_tools;
 };
 
 } // namespace varnhold

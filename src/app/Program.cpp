@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "state/HostAccess.h"
+#include "tools/VersionCheck.h"
 
 #include <QApplication>
 
@@ -85,7 +86,13 @@ Program::Program(const Paths& paths, World world)
                  .loadCoverServers = [this] { m_covers.loadServers(); },
                  .isFirst = m_world.isFirst,
                  .activatePrevious = m_world.activatePrevious,
-                 .findHosts = m_world.findHosts}),
+                 .findHosts = m_world.findHosts,
+                 .checkVersion =
+                     [this] {
+                         return Version_Check(m_fetch, m_hosts, m_paths, m_world.boxes,
+                                              QCoreApplication::applicationName())
+                             .caption;
+                     }}),
       m_exitPath({m_settings, m_world.boxes, m_sounds, m_pump}, *this)
 {
     connectMainWindow();

@@ -28,8 +28,8 @@ DatabasePage::DatabasePage(Settings& settings, const SkinPage& skin)
     ButtonEx* open = addButton(u"btnOpen"_s, u"Database Path"_s, {column + controlWidth - 92, 7, 92, 14});
     open->setCaption(tr("Browse"));
     connect(open, &ButtonEx::Click, this, &DatabasePage::btnOpen_Click);
-    QLabel* size = addLabel(u"lblFSize"_s, {}, {column, 28, controlWidth, 16});
-    onRefresh([this, size] { size->setText(this->settings().databaseSize()); });
+    m_size = addLabel(u"lblFSize"_s, {}, {column, 28, controlWidth, 16});
+    onRefresh([this] { m_size->setText(this->settings().databaseSize()); });
     m_request = addLabel(u"Label9(1)"_s, {}, {column, 44, controlWidth, 16});
 
     addOrder(Order::DBTable, tr("Table"), column);
@@ -38,6 +38,8 @@ DatabasePage::DatabasePage(Settings& settings, const SkinPage& skin)
     addCheck("chk_Icons", u"Show Region Icons"_s, {}, Check::Icons, {column, 104});
     addCheck("chk_DBLinks", u"Save Links to DB?"_s, u"Save Links to DB?"_s, Check::DBLinks,
              {column + 140, 104});
+    buildIdList();
+    buildTables();
 }
 
 void DatabasePage::addOrder(Order which, const QString& heading, int left)

@@ -22,6 +22,9 @@
 
 #include <QCoreApplication>
 
+#include <QTimer>
+
+#include <algorithm>
 #include <utility>
 
 namespace varnhold {
@@ -78,6 +81,7 @@ void StartUp::load()
     placeMainWindow();
     pumpOnce();
     findHosts();
+    checkVersion();
 
     showStatus(u"Loading: Skins"_s);
     m_services.applySkin();
@@ -98,7 +102,37 @@ void StartUp::load()
     m_services.sounds.play(Sound::Open);
     ClearTopMost(m_services.main);
     m_services.main.show();
-    m_services.splash.reset();
+    leaveSplash();
+}
+
+void StartUp::checkVersion()
+{
+    if (!m_services.checkVersion)
+        return;
+    const QString news = m_services.checkVersion();
+    if (!m_services.splash || m_services.splash->isAbandoned())
+        throw Ending();
+    m_services.splash->setNews(news);
+    pumpOnce();
+}
+
+/// News are to be read: that splash stays until two seconds after it came up, while the main window is in use
+/// already. Its double click then ends nothing but itself.
+void StartUp::leaveSplash()
+{
+    if (!m_services.splash->hasNews()) {
+        m_services.splash.reset();
+        return;
+    }
+    constexpr qint64 longEnough = 2000;
+    m_news = std::move(m_services.splash);
+    m_news->disconnect();
+    const auto close = [this] {
+        if (m_news)
+            m_news.release()->deleteLater();
+    };
+    QObject::connect(m_news.get(), &frmSplash::abandoned, m_news.get(), close);
+    QTimer::singleShot(std::max<qint64>(0, longEnough - m_sinceSplash.elapsed()), m_news.get(), close);
 }
 
 void StartUp::showSplash()
@@ -108,6 +142,7 @@ void StartUp::showSplash()
         m_services.dressSplash(*m_services.splash);
         m_services.splash->show();
     }
+    m_sinceSplash.start();
     frmSplash* splash = m_services.splash.get();
     QObject::connect(splash, &frmSplash::abandoned, splash, [this, splash] {
         splash->hide();

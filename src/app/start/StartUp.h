@@ -3,6 +3,8 @@
 #include "app/start/frmSplash.h"
 #include "state/SettingsLoad.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
 #include <memory>
 
@@ -55,6 +57,8 @@ public:
         std::function<bool()> isFirst;          ///< false: another instance of the program runs
         std::function<bool()> activatePrevious; ///< true when that one answered and came to the front
         std::function<Hosts()> findHosts;       ///< may throw RunTimeError
+        /// What the splash says of a newer version; empty: none. Pumps events. Null: not asked.
+        std::function<QString()> checkVersion = {};
     };
 
     enum class Outcome { Running, Ended };
@@ -76,6 +80,8 @@ private:
     void load();
     void showSplash();
     void findHosts();
+    void checkVersion();
+    void leaveSplash();
     void placeMainWindow();
     void pumpOnce();
 
@@ -89,6 +95,8 @@ private:
 
     Services m_services;
     std::function<void()> m_onAbandoned;
+    QElapsedTimer m_sinceSplash;
+    std::unique_ptr<frmSplash> m_news; ///< the splash that stays for a while, beside the program in use
 };
 
 } // namespace varnhold

@@ -33,6 +33,8 @@ frmSplash::frmSplash() : ShapedWindow(nullptr)
     m_warning = addLabel("lblWarning", {20, 84, 280, 18}, u"Please wait!"_s);
     m_warning->setCursor(Qt::PointingHandCursor);
     m_warning->installEventFilter(this);
+    m_news = addLabel("lblstat", {20, 70, 280, 15}, {});
+    m_news->hide();
     m_message = addLabel("lblMessage", {20, 102, 280, 30}, {});
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_loading = addLabel("lblLoading", {20, 136, 280, 16}, {});
@@ -54,6 +56,17 @@ void frmSplash::setStatus(const QString& text)
 {
     m_loading->setText(text);
     m_loading->repaint(); // what follows may take long, and handles no events
+}
+
+void frmSplash::setNews(const QString& text)
+{
+    m_news->setText(text);
+    m_news->setVisible(!text.isEmpty());
+}
+
+bool frmSplash::hasNews() const
+{
+    return !m_news->text().isEmpty();
 }
 
 void frmSplash::setMessage(const QString& text)

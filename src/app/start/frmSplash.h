@@ -17,6 +17,8 @@ public:
 
     void setStatus(const QString& text);  ///< lblLoading
     void setMessage(const QString& text); ///< lblMessage
+    void setNews(const QString& text);    ///< lblstat; hidden without a text
+    [[nodiscard]] bool hasNews() const;
     [[nodiscard]] bool isAbandoned() const { return m_abandoned; }
 
 Q_SIGNALS:
@@ -33,6 +35,7 @@ private:
     QLabel* m_loading;
     QLabel* m_message;
     QLabel* m_warning;
+    QLabel* m_news;
     bool m_abandoned = false;
 };
 
