@@ -62,8 +62,9 @@ private:
     {
         int moved = 0;
         sqlite3_file_control(engine(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-        const char* const back = "PRAGMA locking_mode = NORMAL; SELECT count(*) FROM sqlite_schema; "
-                                 "PRAGMA journal_mode = WAL";
+        const char* const back =
+            "PRAGMA synchronous = FULL; PRAGMA locking_mode = NORMAL; SELECT count(*) FROM sqlite_schema; "
+            "PRAGMA journal_mode = WAL";
         if (m_isWriteAhead && moved == 0)
             sqlite3_exec(engine(), back, nullptr, nullptr, nullptr);
     }
@@ -82,6 +83,16 @@ void requireSound(const QString& path, DatabaseWatch* watch)
     patience.watchOver(engine.get());
     if (askOf(engine.get(), "PRAGMA quick_check(1)") != "ok")
         throw RunTimeError(errors::database::locked, u"The compacted copy is damaged."_s);
+}
+
+/// Lets the disk begin while we still look at what we wrote.
+void startFlush(const QString& path)
+{
+    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        return; // the flush that counts comes later
+    ::sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE);
+    ::close(file);
 }
 
 /// Says in the file's header that it is to be used with a write-ahead log. By hand, since the engine would
@@ -112,8 +123,10 @@ void compactDatabaseFile(const QString& path, DatabaseWatch* watch)
     const auto cleared = qScopeGuard(clear);
     LockedDatabase old(source, watch);
     FileReplacement fresh(source);
+    runOn(old.engine(), "PRAGMA synchronous = OFF"); // flushed once, before it takes the old file's place
     runOn(old.engine(),
           "VACUUM INTO '" + QFile::encodeName(fresh.temporaryPath()).replace('\'', "''") + '\'');
+    startFlush(fresh.temporaryPath());
     requireSound(fresh.temporaryPath(), watch);
     if (old.isWriteAhead())
         wantWriteAhead(fresh.temporaryPath());
