@@ -37,6 +37,9 @@ public:
     void loadChosenDatabase();
     void Load_LBIcons();
     void redrawIcons(); ///< where they show
+    /// What follows a load: icons where the settings want them, else none, and with `selectFirst` the first
+    /// row.
+    void showIcons(bool selectFirst);
     void clearPreview();
 
     void CmdRefresh_Click();
@@ -47,7 +50,6 @@ private:
     void renameOldTables();
     void reload(bool renaming);
     void walk(bool withProgress);
-    void showIcons(bool selectFirst);
     void showCount();
     void thank();
     void tellStartFailure(const RunTimeError& error);
