@@ -5,9 +5,8 @@ namespace varnhold::cli {
 const std::vector<Command>& commands()
 {
     static const std::vector<Command> all = {
-        lookupCommand(),
-        downloadCommand(),
-        hostsCommand(),
+        lookupCommand(), downloadCommand(), hostsCommand(),  searchCommand(),  tablesCommand(),
+        exportCommand(), importCommand(),   backupCommand(), compactCommand(),
     };
     return all;
 }

@@ -15,5 +15,14 @@ Command lookupCommand();
 Command downloadCommand();
 /// Prints which hosts are configured; starts nothing.
 Command hostsCommand();
+/// Print what a table holds under a text, and which tables there are.
+Command searchCommand();
+Command tablesCommand();
+/// Write a table's ids and titles to a list, and read one into it.
+Command exportCommand();
+Command importCommand();
+/// Copy the database, and write it anew without its holes.
+Command backupCommand();
+Command compactCommand();
 
 } // namespace varnhold::cli

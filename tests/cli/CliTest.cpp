@@ -1,3 +1,4 @@
+#include "RunCli.h"
 #include "support/PrintText.h"
 #include "support/RunningService.h"
 #include "support/TempRoot.h"
@@ -12,32 +13,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
-#include <QProcess>
 
 namespace varnhold::test {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-struct Ran
-{
-    int code = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-/// The built program, as a script would run it.
-Ran run(const QStringList& arguments, const QString& workingFolder = QDir::tempPath())
-{
-    QProcess process;
-    process.setWorkingDirectory(workingFolder);
-    process.start(QCoreApplication::applicationDirPath() + u"/varnhold-cli"_s, arguments);
-    if (!process.waitForFinished(60000))
-        return {};
-    Ran ran{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError()};
-    return ran;
-}
 
 /// A program folder whose hosts are one running service, and a folder for downloads.
 class Cli : public testing::Test
@@ -230,7 +210,7 @@ TEST_F(Cli, FailuresHaveCodesAndSentences)
         {{u"lookup"_s, u"BCUS10001"_s, u"--server"_s, u"7"_s}, 2, "1 to 6"},
         {{u"lookup"_s, u"BCUS10001"_s, u"--nonsense"_s}, 2, "nonsense"},
         {{u"download"_s, u"BCUS10001"_s, u"--all"_s, u"--package"_s, u"01.01"_s}, 2, "exclude"},
-        {{u"hosts"_s, u"BCUS10001"_s}, 2, "takes no id"},
+        {{u"hosts"_s, u"BCUS10001"_s}, 2, "takes nothing"},
         {QStringList{u"lookup"_s, u"XXXX00000"_s} + server2, 3, "There are no updates of XXXX00000"},
         {QStringList{u"lookup"_s, u"BCUS10001"_s} + server2, 1, "did not answer with the update document"},
         {QStringList{u"lookup"_s, u"BCUS10027"_s} + server2, 1, "Failure occurred during download"},
