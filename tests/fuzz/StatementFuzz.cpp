@@ -1,13 +1,9 @@
-// Reading damaged statements, and matching damaged patterns.
+// Reading damaged statements.
 
 #include "fuzz/FuzzTarget.h"
 #include "platform/RunTimeError.h"
 #include "platform/database/DatabaseErrors.h"
 #include "platform/database/DatabaseStatement.h"
-#include "platform/database/TextFolding.h"
-#include "platform/database/TextPattern.h"
-
-#include <QList>
 
 #include <algorithm>
 #include <optional>
@@ -66,44 +62,11 @@ void checkStatement(const QString& text, const QByteArray& input)
     require(again && written(*again) == written(*read), "not what it was read as", input);
 }
 
-/// Row by row of the table that a plain search fills.
-bool matchesPlainly(const QList<uint>& pattern, const QList<uint>& text)
-{
-    std::vector<bool> reached(static_cast<std::size_t>(text.size()) + 1);
-    reached[0] = true;
-    for (const uint wanted : pattern) {
-        std::vector<bool> next(reached.size());
-        for (std::size_t i = 0; i < reached.size(); ++i) {
-            if (wanted == U'%')
-                next[i] = reached[i] || (i > 0 && next[i - 1]);
-            else if (i > 0)
-                next[i] = reached[i - 1] && (wanted == U'_' || wanted == text[static_cast<qsizetype>(i - 1)]);
-        }
-        reached = std::move(next);
-    }
-    return reached.back();
-}
-
-void checkPattern(QByteArrayView pattern, QByteArrayView text, const QByteArray& input)
-{
-    const auto characters = [](QByteArrayView utf8) {
-        return QString::fromUtf8(QByteArray::fromStdString(folded(utf8))).toUcs4();
-    };
-    const TextPattern read(pattern);
-    require(read.matches(text) == matchesPlainly(characters(pattern), characters(text)), "another match",
-            input);
-    require(!read.matchesNull() || read.matches(text), "everything, but not this", input);
-}
-
 } // namespace
 
 void check(const QByteArray& input)
 {
     checkStatement(QString::fromUtf8(input), input);
-    const qsizetype cut = std::min<qsizetype>(input.indexOf('\n') + 1, 200);
-    checkPattern(QByteArrayView(input).first(cut),
-                 QByteArrayView(input).sliced(cut).first(std::min<qsizetype>(input.size() - cut, 400)),
-                 input);
 }
 
 const std::vector<QByteArray>& pieces()
