@@ -26,6 +26,7 @@ public:
     [[nodiscard]] GameList& gameList() { return m_gameList; }
     /// The lower half of the Database page.
     [[nodiscard]] DatabaseToolsOwner& tools() { return m_tools; }
+    [[nodiscard]] SharedDatabase& database() { return m_database; }
 
 private:
     WindowPainter m_painter;

@@ -61,6 +61,7 @@ Program::Program(const Paths& paths, World world)
                            .batchFolder = [this] { return m_downloads.batchFolder(); },
                            .dress = [this](QWidget& window) { m_appearance.dressRenamer(window); }}),
       m_database(m_common, m_lookups.lookup(), m_appearance),
+      m_report(m_common, m_lookups.lookup(), m_appearance, m_downloads.planner(), m_database.database()),
       m_covers(m_common, m_appearance),
       m_thumbs(m_common, m_lookups.lookup(), [this](QWidget& window) { m_appearance.dressThumbs(window); }),
       m_settingsPages(m_common, m_lookups.certificates()),
@@ -147,6 +148,7 @@ void Program::setFadeOpacity(int value)
 void Program::unloadOtherWindows()
 {
     m_downloads.unloadAll();
+    m_report.unload();
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (window != &m_main)

@@ -6,6 +6,7 @@
 #include "app/DownloadOwner.h"
 #include "app/LookupOwner.h"
 #include "app/RenamerOwner.h"
+#include "app/ReportOwner.h"
 #include "app/SettingsOwner.h"
 #include "app/ThumbsOwner.h"
 #include "app/World.h"
@@ -83,6 +84,7 @@ private:
     DownloadOwner m_downloads;
     RenamerOwner m_renamer;
     DatabaseOwner m_database;
+    ReportOwner m_report;
     CoverOwner m_covers;
     ThumbsOwner m_thumbs;
     SettingsOwner m_settingsPages;

@@ -1,9 +1,9 @@
 #include "gamedb/NotesBox.h"
 
+#include "controls/ReadableColor.h"
 #include "controls/SystemColorsUi.h"
 #include "gamedb/LinkMarks.h"
 #include "gamedb/LinkText.h"
-#include "gamedb/ReadableColor.h"
 #include "platform/HandCursors.h"
 #include "platform/richtext/RichTextDocument.h"
 

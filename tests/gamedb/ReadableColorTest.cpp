@@ -1,4 +1,4 @@
-#include "gamedb/ReadableColor.h"
+#include "controls/ReadableColor.h"
 
 #include "controls/Contrast.h"
 

@@ -65,6 +65,59 @@ void drawNotAvailable(QPainter& painter)
     painter.drawLine(QPointF(5, 11), QPointF(11, 5));
 }
 
+/// A grid of tiles, as a code has.
+void drawBinary(QPainter& painter)
+{
+    constexpr int tiles[][2] = {{2, 2}, {6, 2}, {12, 2}, {4, 6}, {9, 6}, {2, 10}, {7, 10}, {12, 10}};
+    for (const auto& [x, y] : tiles)
+        painter.fillRect(QRectF(x, y, 2, 3), parcelLid);
+}
+
+/// Two links of a chain.
+void drawChain(QPainter& painter)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(parcelLid, 2));
+    painter.drawRoundedRect(QRectF(2, 6, 7, 5), 2.5, 2.5);
+    painter.drawRoundedRect(QRectF(7, 6, 7, 5), 2.5, 2.5);
+}
+
+void drawCase(QPainter& painter)
+{
+    painter.fillRect(QRectF(3, 1, 10, 14), parcelFill);
+    painter.fillRect(QRectF(3, 1, 2, 14), parcelLid);
+    painter.fillRect(QRectF(7, 4, 4, 3), parcelTape);
+}
+
+/// What a game is played with.
+void drawPad(QPainter& painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(parcelFill);
+    painter.drawRoundedRect(QRectF(1, 4, 14, 8), 4, 4);
+    drawPlus(painter, {5, 8}, 2.5, parcelTape);
+    painter.setBrush(parcelTape);
+    painter.drawEllipse(QRectF(10, 6.5, 3, 3));
+}
+
+/// A ruler with its marks.
+void drawSize(QPainter& painter)
+{
+    painter.fillRect(QRectF(1, 5, 14, 6), parcelFill);
+    for (int x = 3; x < 15; x += 3)
+        painter.fillRect(QRectF(x, 5, 1, x % 2 == 0 ? 2 : 4), parcelTape);
+}
+
+/// A disc, the system's.
+void drawVersion(QPainter& painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(parcelLid);
+    painter.drawEllipse(QRectF(2, 2, 12, 12));
+    painter.setBrush(badgeRim);
+    painter.drawEllipse(QRectF(6, 6, 4, 4));
+}
+
 const QHash<QString, std::function<void(QPainter&)>>& drawings()
 {
     static const QHash<QString, std::function<void(QPainter&)>> table = {
@@ -86,6 +139,12 @@ const QHash<QString, std::function<void(QPainter&)>>& drawings()
              drawArrowDown(painter);
          }},
         {u"n/a"_s, drawNotAvailable},
+        {u"psn"_s, drawPad},
+        {u"cover"_s, drawCase},
+        {u"version"_s, drawVersion},
+        {u"size"_s, drawSize},
+        {u"binary"_s, drawBinary},
+        {u"url"_s, drawChain},
     };
     return table;
 }

@@ -5,8 +5,8 @@
 
 namespace varnhold {
 
-/// Small icon of an update list row by its key: "pkg", "pkg-plus", "pkg-red", "plus", "pkg-dl", "n/a". An
-/// empty icon for any other key.
+/// Small icon of a cell by its key: of the update list "pkg", "pkg-plus", "pkg-red", "plus", "pkg-dl", "n/a";
+/// of saved links "psn", "cover", "pkg", "version", "size", "binary", "url". An empty icon for any other key.
 QIcon packageIcon(const QString& key);
 
 } // namespace varnhold
