@@ -16,15 +16,16 @@ namespace {
 constexpr qsizetype gameIdLength = 9;
 
 const QString purpose =
-    u"Looks up the updates of a title, downloads its packages, and searches and keeps the game database."_s;
+    u"Looks up the updates of a title, downloads its packages, fetches covers, and searches and keeps "
+    "the game database."_s;
 
 const QString exitCodes = uR"(ID is a title's id, such as BLUS30443; small letters and a "-" are fine.
 
 Exit codes:
   0  all went well
-  1  a lookup, a download or the work on a database failed
+  1  a lookup, a download, a cover or the work on a database failed
   2  the arguments make no sense
-  3  there is no such title or package, or nothing was found
+  3  there is no such title, package or cover, or nothing was found
   4  a package has arrived, and its SHA-1 is not the document's)"_s;
 
 QString usageOf(const Command& command)

@@ -5,8 +5,8 @@ namespace varnhold::cli {
 const std::vector<Command>& commands()
 {
     static const std::vector<Command> all = {
-        lookupCommand(), downloadCommand(), hostsCommand(),  searchCommand(),  tablesCommand(),
-        exportCommand(), importCommand(),   backupCommand(), compactCommand(),
+        lookupCommand(), downloadCommand(), coverCommand(),  hostsCommand(),  searchCommand(),
+        tablesCommand(), exportCommand(),   importCommand(), backupCommand(), compactCommand(),
     };
     return all;
 }

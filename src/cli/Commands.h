@@ -13,6 +13,8 @@ const std::vector<Command>& commands();
 Command lookupCommand();
 /// Downloads packages of a title one after another, and compares their sums with the document's.
 Command downloadCommand();
+/// Fetches covers from the cover servers.
+Command coverCommand();
 /// Prints which hosts are configured; starts nothing.
 Command hostsCommand();
 /// Print what a table holds under a text, and which tables there are.

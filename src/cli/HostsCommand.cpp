@@ -2,8 +2,11 @@
 #include "cli/Commands.h"
 #include "cli/Table.h"
 #include "cli/Workspace.h"
+#include "covers/CoverServers.h"
 #include "lookup/UpdateServers.h"
+#include "state/ApplicationState.h"
 #include "state/Hosts.h"
+#include "state/SettingsFile.h"
 
 namespace varnhold::cli {
 
@@ -19,15 +22,33 @@ void addHost(Table& table, const QString& number, const QString& name, const QSt
                   host.allowsOldTls ? u"allowed"_s : u"-"_s});
 }
 
+void printCoverServers(const Paths& paths, Terminal& terminal)
+{
+    const ApplicationState state;
+    SettingsFile file(paths, state);
+    CoverServers servers(file);
+    servers.readCoverServers();
+    if (servers.rows().isEmpty()) {
+        terminal.print(printable(u"%1 names no cover servers."_s.arg(paths.settingsIni())));
+        return;
+    }
+    Table table({u"Cover server"_s, u"Url"_s});
+    for (const CoverServer& server : servers.rows())
+        table.addRow({server.name, server.url});
+    terminal.print(table.text());
+}
+
 ExitCode run(const Arguments& arguments, Terminal& terminal)
 {
     refuseOperands(arguments);
-    const QString file = pathsFor(arguments).hostsIni();
+    const Paths paths = pathsFor(arguments);
+    const QString file = paths.hostsIni();
     const Hosts hosts = readHosts(file);
     if (hosts.sample) {
         terminal.print(
             printable(u"%1: sample. Each start runs the sample service, varnhold-host, on free ports of "
                       "this machine and asks it for everything."_s.arg(file)));
+        printCoverServers(paths, terminal);
         return ExitCode::Fine;
     }
     terminal.print(printable(file));
@@ -41,6 +62,7 @@ ExitCode run(const Arguments& arguments, Terminal& terminal)
     addHost(table, {}, u"Image search"_s, u"http"_s, hosts.imageSearch);
     addHost(table, {}, u"Forum"_s, u"http"_s, hosts.forum);
     terminal.print(table.text());
+    printCoverServers(paths, terminal);
     return ExitCode::Fine;
 }
 

@@ -28,7 +28,7 @@ bool Download_To_File(FileFetch& fetch, const QString& url, const QString& targe
             file = std::make_unique<FileReplacement>(target);
         if (check && !check(file->temporaryPath()))
             return false;
-        file->commit();
+        file->commit(FileReplacement::Flush::OverOld);
         return true;
     } catch (const RunTimeError&) {
         ended.error = navigation::downloadFailed;

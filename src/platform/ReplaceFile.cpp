@@ -89,6 +89,7 @@ FileReplacement::FileReplacement(const QString& target, Links links)
         makeTemporary(folder, usual);
         return;
     }
+    m_replaces = true;
     const bool isReplacedLink = S_ISLNK(old.st_mode) && links == Links::Replace;
     if (!isReplacedLink && !S_ISREG(old.st_mode))
         throw RunTimeError(errors::pathFileAccess);
@@ -167,17 +168,19 @@ void FileReplacement::write(QByteArrayView bytes)
     }
 }
 
-void FileReplacement::commit()
+void FileReplacement::commit(Flush flush)
 {
+    const bool flushes = flush == Flush::Yes || m_replaces;
     if (m_failed || m_temporary.isEmpty())
         throw RunTimeError(errors::pathFileAccess);
     m_failed = true;
-    if (::fsync(m_file) != 0)
+    if (flushes && ::fsync(m_file) != 0)
         throw errorFromErrno(errno);
     if (::rename(QFile::encodeName(m_temporary).constData(), QFile::encodeName(m_target).constData()) != 0)
         throw errorFromErrno(errno);
     m_temporary.clear(); // it bears the target's name now
-    flushFolder(QFileInfo(m_target).path());
+    if (flushes)
+        flushFolder(QFileInfo(m_target).path());
 }
 
 void replaceFile(const QString& target, QByteArrayView bytes, FileReplacement::Links links)

@@ -19,6 +19,11 @@ public:
         Replace, ///< the link itself is
     };
 
+    enum class Flush {
+        Yes,
+        OverOld, ///< only where there was a file to lose: for what can be fetched again, and many at a time
+    };
+
     /// Throws RunTimeError (75, 76, 61, 52) where no file can be made beside the target, and where the target
     /// is there and is no regular file or may not be written. A file without its owner's right to write may
     /// not, whoever asks. Mode and, where allowed, owner are the old file's.
@@ -33,7 +38,7 @@ public:
     [[nodiscard]] const QString& temporaryPath() const { return m_temporary; }
     /// Flushes, then renames, then flushes the folder. Throws; the target is then the old file, but where the
     /// folder's flush alone failed: there the new one stands, and a loss of power may bring the old one back.
-    void commit();
+    void commit(Flush flush = Flush::Yes);
 
 private:
     void makeTemporary(const QString& folder, unsigned mode);
@@ -44,6 +49,7 @@ private:
     std::int64_t m_size = 0;
     int m_file = -1;
     bool m_failed = false;
+    bool m_replaces = false; ///< something stood at the target
 };
 
 /// All of it at once. Throws RunTimeError as FileReplacement does.

@@ -389,5 +389,38 @@ TEST(CliAlone, BringsItsOwnSampleService)
     EXPECT_EQ(QDir(root.path(u"here"_s)).entryList({u"*.pkg"_s}, QDir::Files).size(), 1);
 }
 
+TEST_F(Cli, FetchesCoversFromTheServersInTheirOrder)
+{
+    const QByteArray http = "http://" + service.httpAuthority().toLatin1();
+    root.write(u"Settings.ini"_s, "[Settings]\r\nCover Path=" + root.path(u"covers"_s).toUtf8() +
+                                      "\r\n[ServerName]\r\n1=None\r\n2=Sample\r\n[ServerUrl]\r\n1=" + http +
+                                      "/nothing/\r\n2=" + http + "/covers/\r\n");
+    service.misbehave(u"/nothing/*"_s, u"404"_s);
+    EXPECT_EQ(cli({u"cover"_s}).code, 2);
+    EXPECT_EQ(cli({u"cover"_s, u"--missing"_s, u"BLUS30443"_s}).code, 2);
+    EXPECT_EQ(cli({u"cover"_s, u"BLUS30443"_s}).code, 1) << "the folder is not made";
+    root.write(u"covers/bces00001.JPG"_s, "old");
+
+    const Ran fetched = cli({u"cover"_s, u"BLUS30443"_s, u"BCES00001"_s});
+    EXPECT_EQ(fetched.code, 0) << fetched.err.constData();
+    EXPECT_TRUE(fetched.out.contains("BLUS30443  Sample  ")) << fetched.out.constData();
+    EXPECT_TRUE(fetched.out.contains("BCES00001  is there already  ")) << fetched.out.constData();
+    EXPECT_TRUE(root.read(u"covers/BLUS30443.jpg"_s).startsWith("\xFF\xD8\xFF"));
+    EXPECT_EQ(root.read(u"covers/bces00001.JPG"_s), "old");
+
+    const Ran none = cli({u"cover"_s, u"XXXX00000"_s, u"--json"_s});
+    EXPECT_EQ(none.code, 3);
+    const QJsonObject line = QJsonDocument::fromJson(none.out).array().first().toObject();
+    EXPECT_EQ(line[u"outcome"_s], u"missing"_s);
+    EXPECT_EQ(line[u"problems"_s].toArray().size(), 2);
+    EXPECT_EQ(cli({u"cover"_s, u"BLUS30443"_s, u"--from"_s, u"nobody"_s}).code, 1);
+
+    service.misbehave(u"/covers/*"_s, u"not-picture"_s);
+    root.write(u"covers/BLUS30443.jpg"_s, "old");
+    EXPECT_EQ(cli({u"cover"_s, u"BLUS30443"_s, u"--overwrite"_s}).code, 1);
+    EXPECT_TRUE(root.read(u"covers/BLUS30443.jpg"_s) == "old");
+    EXPECT_TRUE(cli({u"hosts"_s}).out.contains("Sample"));
+}
+
 } // namespace
 } // namespace varnhold::test

@@ -10,10 +10,14 @@
 
 #include "faults/WritingPaths.h"
 
+#include "covers/CoverFetch.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadClient.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
+#include "platform/MessagePump.h"
+#include "platform/NetworkFetch.h"
+#include "platform/ReplaceFile.h"
 #include "platform/RunTimeError.h"
 #include "platform/TcpSocket.h"
 #include "platform/database/DatabaseCompaction.h"
@@ -291,6 +295,29 @@ void checkBackup(FaultPlace& place, FaultOutcome outcome)
     }
 }
 
+// A cover in the place of an old one
+
+const QByteArray coverBytes = QByteArray::fromHex("4749463839610200020091000000ff0000ff000000ffffffff"
+                                                  "2c0000000002000200000203443405003b");
+
+bool useCover(const QString& root, const QString& url)
+{
+    EventLoopPump pump;
+    NetworkFetch fetch(pump, {});
+    clearLeftovers(root);
+    return fetchCover(fetch, url, root + u"/X.jpg"_s).isFetched;
+}
+
+void checkCover(FaultPlace& place, FaultOutcome outcome)
+{
+    const QByteArray bytes = place.root.read(u"work/X.jpg"_s);
+    EXPECT_TRUE(bytes == coverBytes || (outcome != FaultOutcome::Acknowledged && bytes == "old"));
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden),
+                  QStringList{u"X.jpg"_s});
+    }
+}
+
 } // namespace
 
 const std::vector<WritingPath>& writingPaths()
@@ -321,6 +348,18 @@ const std::vector<WritingPath>& writingPaths()
          .use = useDownload,
          .check = checkDownload,
          .argument = [](FaultPlace& place) { return place.service().url(u"/made/x.pkg"_s); },
+         .most = 4},
+        {.name = "Cover",
+         .prepare =
+             [](FaultPlace& place) {
+                 place.root.write(u"work/X.jpg"_s, "old");
+                 place.service().with([](host::SampleService& service) {
+                     service.site().addPage(u"/made/X.jpg"_s, "image/gif", coverBytes);
+                 });
+             },
+         .use = useCover,
+         .check = checkCover,
+         .argument = [](FaultPlace& place) { return place.service().url(u"/made/X.jpg"_s); },
          .most = 4},
         {.name = "DownloadTerminal",
          .prepare = prepareTerminal,
