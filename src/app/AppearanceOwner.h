@@ -25,6 +25,8 @@ public:
     /// To all windows; tells its failures itself.
     void applySkin();
     void shape(QWidget& window) { m_skin.shape(window); }
+    /// One more window that the skin dresses; it is there as long as the program.
+    void add(QWidget& window) { m_windows.add(window); }
     /// Of a window that stays; see SkinnedWindows.
     void setOpacity(OpacityOf which, int value) { m_windows.setOpacity(which, value); }
     /// Fills the menu of cover servers; a step of every run of the skin's colours.

@@ -14,7 +14,8 @@
 namespace varnhold {
 
 DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance)
-    : m_database(common.settings, common.world.boxes, &m_painter),
+    : m_common(common),
+      m_database(common.settings, common.world.boxes, &m_painter),
       m_page(common.settingsWindow.add<DatabasePage>(common.settings, appearance.page())),
       m_view({common.main, common.menu, common.settingsWindow, m_page, common.list, common.splash},
              m_painter),
@@ -22,11 +23,8 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwn
       m_tools(common, m_database, m_page)
 {
     frmMain& main = common.main;
-    const auto loadEntry = [this, common] {
-        loadGameDetails(m_database, common.settings, common.main.covers(), common.main);
-    };
-    main.setEntryLoader(loadEntry);
-    lookup.setEntryLoader(loadEntry);
+    main.setEntryLoader([this] { loadEntry(); });
+    lookup.setEntryLoader([this] { loadEntry(); });
     lookup.setLinkSaver([this, common] { saveUpdateLinks(m_database, common.list, common.main); });
     connect(&main, &frmMain::linkActivated, this, [common](const QString& link) {
         common.world.shell.openLink(
@@ -39,6 +37,11 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwn
     });
     appearance.setIconRedraw([this] { m_gameList.redrawIcons(); });
     common.commands.bind("mnuLBIcons", [this] { m_gameList.mnuLBIcons_Click(); });
+}
+
+void DatabaseOwner::loadEntry()
+{
+    loadGameDetails(m_database, m_common.settings, m_common.main.covers(), m_common.main);
 }
 
 } // namespace varnhold

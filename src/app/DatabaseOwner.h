@@ -27,8 +27,10 @@ public:
     /// The lower half of the Database page.
     [[nodiscard]] DatabaseToolsOwner& tools() { return m_tools; }
     [[nodiscard]] SharedDatabase& database() { return m_database; }
+    void loadEntry(); ///< loadGameDetails of the main window's id
 
 private:
+    Common m_common;
     WindowPainter m_painter;
     SharedDatabase m_database;
     DatabasePage& m_page;

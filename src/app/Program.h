@@ -4,6 +4,7 @@
 #include "app/CoverOwner.h"
 #include "app/DatabaseOwner.h"
 #include "app/DownloadOwner.h"
+#include "app/EditorOwner.h"
 #include "app/LookupOwner.h"
 #include "app/RenamerOwner.h"
 #include "app/ReportOwner.h"
@@ -85,6 +86,7 @@ private:
     RenamerOwner m_renamer;
     DatabaseOwner m_database;
     ReportOwner m_report;
+    EditorOwner m_editor;
     CoverOwner m_covers;
     ThumbsOwner m_thumbs;
     SettingsOwner m_settingsPages;

@@ -37,6 +37,10 @@ QWidget* SkinnedWindows::window(const char* name)
         if (each->objectName() == QLatin1StringView(name))
             return each;
     }
+    for (QWidget* const each : m_added) {
+        if (each->objectName() == QLatin1StringView(name))
+            return each;
+    }
     return nullptr;
 }
 
@@ -53,6 +57,8 @@ void SkinnedWindows::takeColors(const SkinPage& page)
 {
     drawButtonSigns(m_windows.main);
     drawButtonSigns(m_windows.settings);
+    for (const QWidget* const window : m_added)
+        drawButtonSigns(*window);
     m_windows.main.setTipColors(page.Shape_Color[SkinPage::Fore], page.Shape_Color[SkinPage::Back]);
 }
 

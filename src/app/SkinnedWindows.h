@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace varnhold {
 
@@ -36,6 +37,8 @@ public:
     /// How the game list gets its icons anew.
     void setIconRedraw(std::function<void()> redraw) { m_redrawIcons = std::move(redraw); }
 
+    /// One more window that stays; known by its object name.
+    void add(QWidget& window) { m_added.push_back(&window); }
     void setCoverMenu(std::function<void()> build) { m_buildCoverMenu = std::move(build); }
 
     void showStatus(const QString& text) override;
@@ -50,6 +53,7 @@ public:
 
 private:
     Windows m_windows;
+    std::vector<QWidget*> m_added;
     std::function<void()> m_buildCoverMenu;
     std::function<void()> m_redrawIcons;
 };

@@ -16,7 +16,25 @@ namespace {
 
 constexpr int signSide = 12;
 
-enum class Sign { None, Minimize, Maximize, Restore, Close, Menu, Gear, Reload, Clear, Up, Down };
+enum class Sign {
+    None,
+    Minimize,
+    Maximize,
+    Restore,
+    Close,
+    Menu,
+    Gear,
+    Reload,
+    Clear,
+    Up,
+    Down,
+    Notes,
+    Add,
+    Remove,
+    Edit,
+    New,
+    Browse
+};
 
 Sign signOf(const ButtonEx& button)
 {
@@ -35,6 +53,18 @@ Sign signOf(const ButtonEx& button)
         return Sign::Reload;
     if (name == "cmdClear"_L1)
         return Sign::Clear;
+    if (name == "cmdView"_L1)
+        return Sign::Notes;
+    if (name == "CmdAdd"_L1 && button.Caption().isEmpty()) // the editor's own has a word
+        return Sign::Add;
+    if (name == "CmdDelete"_L1)
+        return Sign::Remove;
+    if (name == "cmdEdit"_L1)
+        return Sign::Edit;
+    if (name == "CmdNewRecord"_L1)
+        return Sign::New;
+    if (name == "CmdBrowse"_L1)
+        return Sign::Browse;
     if (name == "btnSkinUpDwn(0)"_L1 || name == "btnSkinUpDwn(2)"_L1 || name == "btn_fav_Change(1)"_L1)
         return Sign::Down;
     if (name == "btnSkinUpDwn(1)"_L1 || name == "btnSkinUpDwn(3)"_L1 || name == "btn_fav_Change(0)"_L1)
@@ -125,6 +155,45 @@ void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& col
         return;
     case Sign::Reload:
         drawReload(painter, centre, color);
+        return;
+    case Sign::Notes:
+        frame(-5, -4, 10, 9);
+        line(-3, -2, 6, 1);
+        line(-3, 0, 6, 1);
+        line(-3, 2, 4, 1);
+        return;
+    case Sign::Add:
+        line(-4, 0, 9, 1);
+        line(0, -4, 1, 9);
+        return;
+    case Sign::Remove: // a bin
+        line(-1, -5, 3, 1);
+        line(-4, -4, 9, 1);
+        line(-3, -3, 1, 8);
+        line(3, -3, 1, 8);
+        line(-3, 4, 7, 1);
+        line(-1, -2, 1, 5);
+        line(1, -2, 1, 5);
+        return;
+    case Sign::Edit: // a pencil over a line
+        painter.setPen(QPen(color, 2.2, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(centre + QPointF(-2.5, 1.5), centre + QPointF(3, -4));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPolygon(QPolygonF(
+            {centre + QPointF(-4.5, 3.5), centre + QPointF(-3.6, 0.6), centre + QPointF(-1.6, 2.6)}));
+        line(-1, 4, 6, 1);
+        return;
+    case Sign::New: // a sheet with a folded corner
+        painter.setPen(QPen(color, 1));
+        painter.drawPolyline(
+            QPolygonF({QPointF(x + 0.5, y - 4.5), QPointF(x - 3.5, y - 4.5), QPointF(x - 3.5, y + 4.5),
+                       QPointF(x + 3.5, y + 4.5), QPointF(x + 3.5, y - 1.5), QPointF(x + 0.5, y - 4.5),
+                       QPointF(x + 0.5, y - 1.5), QPointF(x + 3.5, y - 1.5)}));
+        return;
+    case Sign::Browse:
+        for (const int left : {-4, -1, 2})
+            line(left, 0, 2, 2);
         return;
     case Sign::Clear:
         line(-5, -4, 7, 1);

@@ -47,6 +47,7 @@ void loadGameDetails(SharedDatabase& database, const Settings& settings, const C
         const bool found = !records.atEnd();
         const QString notes = found ? records.value(u"GameNotes"_s) : QString();
         const QByteArray picture = found ? storedPicture(records) : QByteArray();
+        database.loadedKey = database.DBKey;
         view.showNotes(notes);
         if (!picture.isEmpty())
             view.showStoredPicture(picture);

@@ -31,6 +31,7 @@ public:
     DatabaseCommand DBCommand;
     QString SQLText;     ///< the statement last built
     QString DBKey;       ///< GameID that the running command acts on
+    QString loadedKey;   ///< GameID of the entry that the main window loaded last
     QByteArray PicBytes; ///< a picture file on its way into GameImage, with one zero byte behind it
 
     /// DBConnFile, DBConnString, then opens DBConn.

@@ -25,11 +25,14 @@ FilteredKey filterTypedCharacter(QChar typed)
     return {upper == QChar(enterKey) ? TypedCharacter::Fetch : TypedCharacter::Refused, upper};
 }
 
+QString withoutSeparators(QString text)
+{
+    return text.remove(u'-').remove(u' ');
+}
+
 QString filterGameIdText(const QString& text)
 {
-    QString filtered = text;
-    filtered.remove(u'-').remove(u' ').truncate(longestGameId);
-    return filtered;
+    return withoutSeparators(text).left(longestGameId);
 }
 
 QString invalidCharacterText()

@@ -19,8 +19,9 @@ struct FilteredKey
 /// here.
 FilteredKey filterTypedCharacter(QChar typed);
 
-/// What remains of a changed text, pasting included: every "-", then every " " removed, then cut to nine
-/// characters.
+/// What remains of a changed text, pasting included: every "-", then every " " removed.
+QString withoutSeparators(QString text);
+/// The same, then cut to nine characters.
 QString filterGameIdText(const QString& text);
 
 /// Text of the box for a refused character.

@@ -1,19 +1,19 @@
 #include "app/main/CoverPanel.h"
 
+#include "covers/BitmapFile.h"
 #include "covers/CoverBox.h"
 #include "covers/FitPreviewImage.h"
+#include "covers/ThroughFile.h"
 #include "platform/Accessible.h"
-#include "platform/ReadFile.h"
+#include "state/ErrorReport.h"
 #include "state/Paths.h"
 #include "state/Sounds.h"
 
-#include <QFile>
+#include <QPixmap>
 
 #include <utility>
 
 namespace varnhold {
-
-using namespace Qt::StringLiterals;
 
 CoverPanel::CoverPanel(Parts parts, const Paths& paths, Sounds& sounds)
     : m_parts(std::move(parts)), m_paths(paths), m_sounds(sounds)
@@ -73,18 +73,10 @@ QPixmap CoverPanel::throughFile(const QPixmap& picture) const
 {
     // The large view shows what a bitmap file holds of the picture. In a folder that cannot be written to it
     // shows the picture itself.
-    constexpr qint64 largestFile = qint64(256) << 20;
-    const QString name = m_paths.root + u"/temp.bmp"_s;
-    QFile::remove(name); // a link or a pipe of this name is nothing to write through
-    QFile file(name);
     QPixmap loaded;
-    if (!file.open(QIODevice::NewOnly | QIODevice::WriteOnly))
-        return picture;
-    const bool isSaved = picture.save(&file, "BMP") && file.flush();
-    file.close();
-    if (isSaved)
-        loaded.loadFromData(tryReadFile(name, largestFile).bytes, "BMP");
-    file.remove();
+    silently([&] {
+        loaded.loadFromData(varnhold::throughFile(m_paths.root, bitmapFile(picture.toImage())), "BMP");
+    });
     return loaded.isNull() ? picture : loaded;
 }
 

@@ -11,6 +11,18 @@ class HiddenList
 {
 public:
     void addItem(const QString& text) { m_rows.append(text); }
+    /// The selection ends where it was on that row, and follows its own. Without effect for a row that is not
+    /// there.
+    void removeRow(int index)
+    {
+        if (index < 0 || index >= count())
+            return;
+        m_rows.removeAt(index);
+        if (m_index == index)
+            m_index = -1;
+        else if (m_index > index)
+            --m_index;
+    }
     void clear()
     {
         m_rows.clear();

@@ -1,7 +1,6 @@
 #include "app/main/frmMain.h"
 
 #include "app/main/CoverPanel.h"
-#include "app/main/GameIdBox.h"
 #include "app/main/GameListInput.h"
 #include "app/main/ListProgress.h"
 #include "app/main/MainLayout.h"
@@ -12,6 +11,7 @@
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "gamedb/NotesBox.h"
+#include "lookup/GameIdBox.h"
 #include "platform/CaptionDrag.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Twips.h"

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QLabel;
 class QPlainTextEdit;
@@ -119,6 +120,7 @@ public:
     [[nodiscard]] QString selectedGameText() const override;
     QString selectTitleRow(int row) override;
     void setTitleRow(int row, const QString& title) override;
+    void removeRow(int row); ///< of games and titles; passed over where one has no such row
 
     void showBusy(bool busy) override;
     [[nodiscard]] int gameCount() const override;
@@ -127,6 +129,11 @@ public:
     void showCoverFile(const QString& path) override;
     void showBlankPicture() override;
     void Make_Links() override;
+
+    [[nodiscard]] QString notesText() const;    ///< txtGameNotes, as rich text
+    [[nodiscard]] QPixmap wholePicture() const; ///< PicPreview in the picture's own size
+    /// Notes and picture are those of the entry loaded last: nothing has taken one of them since.
+    [[nodiscard]] bool showsLoadedEntry() const;
 
     void clearTitleTexts(); ///< txtGameID and lblInfo
     void clearNotes();      ///< emptied and locked
@@ -141,6 +148,11 @@ Q_SIGNALS:
     void gameRowDoubleClicked();             ///< of MorphListBox1; its entry is loaded
     void refreshRequested();                 ///< CmdRefresh
     void clearRequested();                   ///< cmdClear
+    void addRequested();                     ///< CmdAdd
+    void newRecordRequested();               ///< CmdNewRecord
+    void editRequested();                    ///< cmdEdit
+    void deleteRequested();                  ///< CmdDelete
+    void viewRequested();                    ///< cmdView
     void linkActivated(const QString& link); ///< in the notes
     void mnuLBoxWanted(const QPoint& globalPosition);
     void mnuImageWanted(const QPoint& globalPosition);
@@ -171,6 +183,7 @@ private:
     ElidedLabel* addLabel(const char* name, const QString& description);
     void applyLayout(const MainLayout& layout, int number);
     [[nodiscard]] bool takesPictures(int number) const;
+    [[nodiscard]] qint64 pictureKey() const;
 
     Services m_services;
     HiddenList m_titles;
@@ -180,6 +193,7 @@ private:
     std::optional<QPoint> m_placeBefore; ///< before the button enlarged it
     QPoint m_placeEnlarged;              ///< after it
     std::function<QPixmap()> m_blankPicture;
+    std::optional<qint64> m_loadedPicture; ///< of the entry whose notes show; none: something took the notes
 
     ElidedLabel* m_caption = nullptr;
     ElidedLabel* m_info = nullptr;
@@ -190,8 +204,7 @@ private:
     ButtonEx* m_btnFile = nullptr;
     ButtonEx* m_settingsButton = nullptr;
     ButtonEx* m_fetch = nullptr;
-    ButtonEx* m_cmdClear = nullptr;
-    ButtonEx* m_cmdRefresh = nullptr;
+    std::vector<ButtonEx*> m_footButtons; ///< from left to right
     GameIdBox* m_gameId = nullptr;
     XP_ProgressBar* m_progress = nullptr;
     QWidget* m_picLeft = nullptr;

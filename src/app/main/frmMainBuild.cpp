@@ -1,7 +1,6 @@
 // How the main window is put together.
 
 #include "app/main/CoverPanel.h"
-#include "app/main/GameIdBox.h"
 #include "app/main/GameListInput.h"
 #include "app/main/ListProgress.h"
 #include "app/main/MainLayout.h"
@@ -15,6 +14,7 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "gamedb/NotesBox.h"
+#include "lookup/GameIdBox.h"
 #include "platform/DroppedText.h"
 #include "platform/ElidedLabel.h"
 #include "platform/PictureBox.h"
@@ -183,10 +183,20 @@ void frmMain::buildFoot()
     m_progress->setScrolling(design::frmMain_ProgressBar1_Scrolling);
     m_progress->hide();
     m_listProgress = std::make_unique<ListProgress>(*m_progress);
-    m_cmdClear = addButton("cmdClear", u"Clear Stuff"_s);
-    connect(m_cmdClear, &ButtonEx::Click, this, &frmMain::clearRequested);
-    m_cmdRefresh = addButton("CmdRefresh", u"Reload Database"_s);
-    connect(m_cmdRefresh, &ButtonEx::Click, this, &frmMain::refreshRequested);
+    const auto addFootButton = [this](const char* name, const QString& text, const QString& toolTip,
+                                      void (frmMain::*requested)()) {
+        ButtonEx* const button = addButton(name, toolTip);
+        button->setAccessibleName(text);
+        connect(button, &ButtonEx::Click, this, requested);
+        m_footButtons.push_back(button);
+    };
+    addFootButton("cmdView", u"View Notes"_s, u"View / Menu"_s, &frmMain::viewRequested);
+    addFootButton("cmdClear", u"Clear Stuff"_s, u"Clear Stuff"_s, &frmMain::clearRequested);
+    addFootButton("CmdAdd", u"Add DB Entry"_s, u"Add DB Entry"_s, &frmMain::addRequested);
+    addFootButton("CmdDelete", u"Delete DB Entry"_s, u"Delete DB Entry"_s, &frmMain::deleteRequested);
+    addFootButton("cmdEdit", u"Edit DB Entry"_s, u"Edit DB Entry"_s, &frmMain::editRequested);
+    addFootButton("CmdNewRecord", u"New DB Entry"_s, u"New DB Entry"_s, &frmMain::newRecordRequested);
+    addFootButton("CmdRefresh", u"Reload Database"_s, u"Reload Database"_s, &frmMain::refreshRequested);
     m_count = new QLabel(u"0"_s, this);
     m_count->setObjectName("lblCnt"_L1);
     m_count->setAccessibleDescription(tr("Open downloads"));
@@ -226,10 +236,11 @@ void frmMain::connectColumns()
 
 void frmMain::orderTabs()
 {
-    QWidget* const order[] = {m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
-                              m_gameId,  m_fetch,          m_games,       m_barLeft,     m_picPreview,
-                              m_updates, m_barMain,        m_notes,       m_cmdClear,    m_cmdRefresh};
-    for (std::size_t i = 1; i < std::size(order); ++i)
+    std::vector<QWidget*> order{m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
+                                m_gameId,  m_fetch,          m_games,       m_barLeft,     m_picPreview,
+                                m_updates, m_barMain,        m_notes};
+    order.insert(order.end(), m_footButtons.begin(), m_footButtons.end());
+    for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
 

@@ -1,7 +1,6 @@
 // What the routines of lookup and game list show on the main window.
 
 #include "app/main/CoverPanel.h"
-#include "app/main/GameIdBox.h"
 #include "app/main/ListProgress.h"
 #include "app/main/UpdateListView.h"
 #include "app/main/frmMain.h"
@@ -9,6 +8,7 @@
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "gamedb/NotesBox.h"
+#include "lookup/GameIdBox.h"
 #include "platform/ElidedLabel.h"
 #include "platform/pictures/PictureReader.h"
 
@@ -105,14 +105,42 @@ int frmMain::gameCount() const
     return m_games->ListCount();
 }
 
+void frmMain::removeRow(int row)
+{
+    m_games->RemoveItem(row);
+    m_titles.removeRow(row);
+}
+
+QString frmMain::notesText() const
+{
+    return m_notes->TextRTF();
+}
+
+QPixmap frmMain::wholePicture() const
+{
+    return m_picPreview->wholePicture();
+}
+
+qint64 frmMain::pictureKey() const
+{
+    return m_picPreview->picture().cacheKey();
+}
+
+bool frmMain::showsLoadedEntry() const
+{
+    return m_loadedPicture == pictureKey();
+}
+
 void frmMain::showNotes(const QString& rtf)
 {
+    m_loadedPicture.reset();
     m_notes->setTextRTF(rtf);
 }
 
 void frmMain::Make_Links()
 {
     m_notes->Make_Links();
+    m_loadedPicture = pictureKey(); // the end of an entry's load
 }
 
 void frmMain::showStoredPicture(const QByteArray& bytes)
@@ -123,7 +151,10 @@ void frmMain::showStoredPicture(const QByteArray& bytes)
 
 void frmMain::showIfPicture(const QString& path)
 {
+    const bool isLoaded = showsLoadedEntry();
     m_picPreview->setPictureFrom([path](const QSize& most) { return readPictureFile(path, most); });
+    if (isLoaded)
+        m_loadedPicture = pictureKey(); // a cover that was fetched for it takes nothing away
 }
 
 void frmMain::showCoverFile(const QString& path)
@@ -145,6 +176,7 @@ void frmMain::clearTitleTexts()
 
 void frmMain::clearNotes()
 {
+    m_loadedPicture.reset();
     m_notes->clear();
     m_notes->setLocked(true);
 }

@@ -1,4 +1,4 @@
-#include "app/main/GameIdBox.h"
+#include "lookup/GameIdBox.h"
 
 #include "lookup/GameIdFilter.h"
 #include "platform/MessageBoxes.h"
@@ -29,7 +29,8 @@ bool typesCharacter(const QKeyEvent& event)
 
 } // namespace
 
-GameIdBox::GameIdBox(MessageBoxes& boxes, QWidget* parent) : QLineEdit(parent), m_boxes(boxes)
+GameIdBox::GameIdBox(MessageBoxes& boxes, QWidget* parent, Use use)
+    : QLineEdit(parent), m_boxes(boxes), m_use(use)
 {
     connect(this, &QLineEdit::textChanged, this, &GameIdBox::filter);
 }
@@ -58,23 +59,19 @@ void GameIdBox::inputMethodEvent(QInputMethodEvent* event)
 void GameIdBox::type(QChar character)
 {
     const FilteredKey key = filterTypedCharacter(character);
-    switch (key.outcome) {
-    case TypedCharacter::Accepted:
-        if (text().size() < idLength || hasSelectedText())
-            insert(key.character);
-        break;
-    case TypedCharacter::Fetch:
+    const bool isLookup = m_use == Use::Lookup;
+    if (key.outcome == TypedCharacter::Fetch && isLookup) {
         Q_EMIT fetchRequested();
-        break;
-    case TypedCharacter::Refused:
+    } else if (key.outcome != TypedCharacter::Accepted) {
         m_boxes.show({.text = invalidCharacterText(), .title = QCoreApplication::applicationName()});
-        break;
+    } else if (!isLookup || text().size() < idLength || hasSelectedText()) {
+        insert(key.character);
     }
 }
 
 void GameIdBox::filter()
 {
-    const QString filtered = filterGameIdText(text());
+    const QString filtered = m_use == Use::Lookup ? filterGameIdText(text()) : withoutSeparators(text());
     if (filtered == text())
         return;
     const QSignalBlocker quiet(this);
