@@ -1,6 +1,7 @@
 #include "controls/Contrast.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -18,20 +19,32 @@ double linear(int channel)
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
-double luminance(ColorValue color)
+std::array<double, 256> linearTable()
 {
-    const ColorValue resolved = GetLngColor(color);
-    return 0.2126 * linear(redOf(resolved)) + 0.7152 * linear(greenOf(resolved)) +
-           0.0722 * linear(blueOf(resolved));
+    std::array<double, 256> table{};
+    for (int channel = 0; channel < 256; ++channel)
+        table.at(static_cast<std::size_t>(channel)) = linear(channel);
+    return table;
 }
 
 } // namespace
 
+double luminanceOf(ColorValue color)
+{
+    static const std::array<double, 256> table = linearTable();
+    const ColorValue plain = GetLngColor(color);
+    const auto part = [plain](unsigned shift) { return table[(plain >> shift) & 0xFFU]; };
+    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
+}
+
+double contrastOf(double oneLuminance, double otherLuminance)
+{
+    return (std::max(oneLuminance, otherLuminance) + 0.05) / (std::min(oneLuminance, otherLuminance) + 0.05);
+}
+
 double contrastRatio(ColorValue one, ColorValue other)
 {
-    const double first = luminance(one);
-    const double second = luminance(other);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+    return contrastOf(luminanceOf(one), luminanceOf(other));
 }
 
 ColorValue blackOrWhiteOn(ColorValue background)

@@ -9,6 +9,10 @@ namespace varnhold {
 /// How well two colours can be told apart: WCAG 2's ratio, 1 to 21. Text wants 4.5, marks and edges 3.
 [[nodiscard]] double contrastRatio(ColorValue one, ColorValue other);
 
+/// Relative luminance, 0 to 1.
+[[nodiscard]] double luminanceOf(ColorValue color);
+[[nodiscard]] double contrastOf(double oneLuminance, double otherLuminance);
+
 /// Black or white, whichever stands out more on the colour.
 [[nodiscard]] ColorValue blackOrWhiteOn(ColorValue background);
 

@@ -123,8 +123,9 @@ void frmMain::buildLeftColumn()
     m_games = new MorphListBox(m_picLeft);
     m_games->setObjectName("MorphListBox1"_L1);
     m_games->setAccessibleName(tr("Games"));
-    m_games->setBorderWidth(0); // the window draws the well
-    m_games->setSorted(false);  // List1 runs beside it, row by row
+    m_games->setBorderWidth(0);     // the window draws the well
+    m_games->setReadableText(true); // whatever theme and picture the user lays under it
+    m_games->setSorted(false);      // List1 runs beside it, row by row
     QFont narrow = m_games->font();
     narrow.setStretch(QFont::SemiCondensed); // an id is to be read whole beside its icon and the bar
     m_games->setFont(narrow);

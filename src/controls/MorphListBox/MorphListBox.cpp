@@ -264,6 +264,12 @@ void MorphListBox::setRightToLeft(bool rightToLeft)
     lookChanged();
 }
 
+void MorphListBox::setReadableText(bool readable)
+{
+    m_look.ReadableText = readable;
+    lookChanged();
+}
+
 int MorphListBox::NewIndex() const
 {
     return m_model->newIndex();

@@ -38,6 +38,7 @@ class MorphListBox : public QWidget
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
     Q_PROPERTY(bool RedrawFlag READ RedrawFlag WRITE setRedrawFlag)
     Q_PROPERTY(bool RightToLeft READ RightToLeft WRITE setRightToLeft)
+    Q_PROPERTY(bool ReadableText READ ReadableText WRITE setReadableText)
     Q_PROPERTY(int NewIndex READ NewIndex WRITE setNewIndex)
     Q_PROPERTY(int TopIndex READ TopIndex WRITE setTopIndex)
     Q_PROPERTY(int ListIndex READ ListIndex WRITE setListIndex)
@@ -172,6 +173,13 @@ public:
         return m_look.RightToLeft;
     }
     void setRightToLeft(bool rightToLeft);
+    /// Off at first: every text has its own colour. On: one that could not be read on the ground of its row
+    /// takes a colour that can.
+    [[nodiscard]] bool ReadableText() const
+    {
+        return m_look.ReadableText;
+    }
+    void setReadableText(bool readable);
     [[nodiscard]] int NewIndex() const; ///< the item added last, -1 when none
     void setNewIndex(int index);
     [[nodiscard]] int TopIndex() const;

@@ -1,5 +1,6 @@
 #include "controls/MorphListBox/MorphListPainter.h"
 
+#include "controls/Contrast.h"
 #include "controls/MorphListBox/MorphListBackground.h"
 #include "controls/MorphListBox/MorphListMarks.h"
 #include "controls/SystemColorsUi.h"
@@ -75,6 +76,7 @@ void MorphListPainter::forget()
 {
     m_background = {};
     m_selection = {};
+    m_tones.clear();
     m_images.clear();
     m_scrollBar.forget();
     m_texts.forget();
@@ -106,15 +108,53 @@ void MorphListPainter::paintRow(QPainter& painter, int index, MorphListModel& mo
     if (look.ShowItemImages)
         paintImage(painter, toDevice(metrics.image(visible)), model.imageIndex(index), look);
 
-    const ColorValue color = selected ? (look.enabled ? design.HighlightColor : design.DisHighlightColor)
-                                      : (look.enabled ? design.ForeColor : design.DisForeColor);
-    m_texts.paint(painter, toDevice(metrics.text(visible)), model.text(index), toQColor(color),
-                  look.RightToLeft);
-
+    paintText(painter, index, selected, model, look);
     if (look.ShowSelectRect && model.focused() && index == model.focusRow()) {
         paintDottedFrame(painter, row, std::max(1, qRound(m_ratio)),
                          toQColor(look.enabled ? design.FocusRectColor : design.DisFocusRectColor));
     }
+}
+
+void MorphListPainter::paintText(QPainter& painter, int index, bool selected, MorphListModel& model,
+                                 const MorphListLook& look)
+{
+    const MorphListDesign& design = look.design;
+    const int visible = index - model.topIndex();
+    const QRect place = toDevice(model.metrics().text(visible));
+    const ColorValue color = selected ? (look.enabled ? design.HighlightColor : design.DisHighlightColor)
+                                      : (look.enabled ? design.ForeColor : design.DisForeColor);
+    TextInk ink{color, std::nullopt};
+    if (look.ReadableText)
+        ink = readableInk(color, tonesUnder(place, toDevice(model.metrics().row(visible)), selected));
+    if (ink.rim) {
+        m_texts.paintRimmed(painter, place, model.text(index), toQColor(ink.color), toQColor(*ink.rim),
+                            look.RightToLeft);
+    } else {
+        m_texts.paint(painter, place, model.text(index), toQColor(ink.color), look.RightToLeft);
+    }
+}
+
+const GroundTones& MorphListPainter::tonesUnder(const QRect& text, const QRect& row, bool selected)
+{
+    // The strip of the selection is the same for each row.
+    const QImage& ground = selected ? m_selection : m_background;
+    const QRect place = (selected ? text.translated(-row.topLeft()) : text).intersected(ground.rect());
+    const auto known = std::ranges::find(m_tones, std::pair(selected, place), &Measured::key);
+    if (known != m_tones.end())
+        return known->tones;
+    GroundTones tones{1, 0};
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(ground.constScanLine(y));
+        for (int x = place.left(); x <= place.right(); ++x) {
+            const double luminance = luminanceOf(colorOf(qRed(line[x]), qGreen(line[x]), qBlue(line[x])));
+            tones.darkest = std::min(tones.darkest, luminance);
+            tones.lightest = std::max(tones.lightest, luminance);
+        }
+    }
+    if (place.isEmpty())
+        tones.darkest = 0;
+    m_tones.push_back({{selected, place}, tones});
+    return m_tones.back().tones;
 }
 
 void MorphListPainter::paintImage(QPainter& painter, const QRect& place, int image, const MorphListLook& look)
@@ -134,6 +174,7 @@ const QImage& MorphListPainter::selectionStrip(const QSize& size, const MorphLis
     // At fractional ratios rows differ by a pixel in height; the strip is a pixel higher and runs sideways.
     if (m_selection.width() != size.width() || m_selection.height() < size.height()) {
         const MorphListDesign& design = look.design;
+        m_tones.clear();
         m_selection = morphGradientImage({size.width(), size.height() + 1,
                                           look.enabled ? design.SelColor1 : design.DisSelColor1,
                                           look.enabled ? design.SelColor2 : design.DisSelColor2,
@@ -147,6 +188,7 @@ void MorphListPainter::renewBackground(const QSize& size, bool focused, const Mo
     if (m_background.size() == size && m_focusedBackground == focused)
         return;
     m_focusedBackground = focused;
+    m_tones.clear();
     m_background = paintMorphBackground({size, m_ratio, look.enabled, focused, look.design,
                                          look.enabled ? look.Picture : look.DisPicture,
                                          look.enabled ? look.PictureMode : look.DisPictureMode});

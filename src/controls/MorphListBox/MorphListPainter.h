@@ -4,10 +4,14 @@
 #include "controls/MorphListBox/MorphListModel.h"
 #include "controls/MorphListBox/MorphListScrollBar.h"
 #include "controls/MorphListBox/MorphListTexts.h"
+#include "controls/ReadableColor.h"
 
 #include <QFont>
 #include <QImage>
 #include <QPixmap>
+
+#include <utility>
+#include <vector>
 
 class QPainter;
 class QRegion;
@@ -27,6 +31,7 @@ struct MorphListLook
     bool ShowItemImages = false;
     int ItemImageSize = 0;
     bool RightToLeft = false;
+    bool ReadableText = false; ///< a text that could not be read on its row takes a colour that can
     bool enabled = true;
     QList<QPixmap> images; ///< by image index; an empty one shows as nothing
     QFont font;
@@ -45,6 +50,10 @@ public:
 
 private:
     void paintRow(QPainter& painter, int index, MorphListModel& model, const MorphListLook& look);
+    void paintText(QPainter& painter, int index, bool selected, MorphListModel& model,
+                   const MorphListLook& look);
+    /// Of the pixels that were painted under a row's text.
+    const GroundTones& tonesUnder(const QRect& text, const QRect& row, bool selected);
     void paintImage(QPainter& painter, const QRect& place, int image, const MorphListLook& look);
     const QImage& selectionStrip(const QSize& size, const MorphListLook& look);
     void renewBackground(const QSize& size, bool focused, const MorphListLook& look);
@@ -54,6 +63,13 @@ private:
     bool m_focusedBackground = false;
     QImage m_background;
     QImage m_selection;
+    /// Measured once for each place: the background stands still while rows run over it.
+    struct Measured
+    {
+        std::pair<bool, QRect> key; ///< on the selection, place in device pixels
+        GroundTones tones;
+    };
+    std::vector<Measured> m_tones;
     QList<QImage> m_images; // scaled to device pixels
     MorphListScrollBar m_scrollBar;
     MorphListTexts m_texts;

@@ -47,6 +47,16 @@ void MorphListTexts::paint(QPainter& painter, const QRect& place, const QString&
     painter.drawStaticText(left, place.top() + (place.height() - m_height) / 2, entry.text);
 }
 
+void MorphListTexts::paintRimmed(QPainter& painter, const QRect& place, const QString& text,
+                                 const QColor& color, const QColor& rim, bool alignRight)
+{
+    const int line = std::max(1, qRound(m_ratio));
+    for (const QPoint offset : {QPoint(-line, -line), QPoint(0, -line), QPoint(line, -line), QPoint(-line, 0),
+                                QPoint(line, 0), QPoint(-line, line), QPoint(0, line), QPoint(line, line)})
+        paint(painter, place.translated(offset), text, rim, alignRight);
+    paint(painter, place, text, color, alignRight);
+}
+
 const MorphListTexts::Shaped& MorphListTexts::shaped(const QString& text, int room)
 {
     if (room != m_room || m_shaped.size() >= keptTexts) {

@@ -20,6 +20,9 @@ public:
     /// Places are in device pixels. A text that is too long ends in an ellipsis.
     void paint(QPainter& painter, const QRect& place, const QString& text, const QColor& color,
                bool alignRight);
+    /// The same with a line of that colour round the letters.
+    void paintRimmed(QPainter& painter, const QRect& place, const QString& text, const QColor& color,
+                     const QColor& rim, bool alignRight);
 
 private:
     struct Shaped
