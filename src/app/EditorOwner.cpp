@@ -3,12 +3,14 @@
 #include "app/AppearanceOwner.h"
 #include "app/ChildPlace.h"
 #include "app/DatabaseOwner.h"
+#include "app/ReportOwner.h"
 #include "app/main/frmMain.h"
 #include "app/menu/MenuCommands.h"
 #include "app/menu/frmMenu.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "controls/SystemColors.h"
 #include "covers/BitmapFile.h"
+#include "gamedb/EntryDetails.h"
 #include "platform/Shell.h"
 #include "platform/Wayland.h"
 #include "state/Sounds.h"
@@ -40,7 +42,8 @@ constexpr NamedColor colors[] = {
 
 } // namespace
 
-EditorOwner::EditorOwner(const Common& common, DatabaseOwner& database, AppearanceOwner& appearance)
+EditorOwner::EditorOwner(const Common& common, DatabaseOwner& database, AppearanceOwner& appearance,
+                         ReportOwner& report)
     : m_common(common),
       m_database(database),
       m_window({.state = common.state,
@@ -72,6 +75,8 @@ EditorOwner::EditorOwner(const Common& common, DatabaseOwner& database, Appearan
     connectMainWindow();
     connectWindow();
     bindNotesMenu();
+    connect(&common.main, &frmMain::viewRequested, this,
+            [this, &report, &appearance] { viewNotes(report, appearance.page()); });
 }
 
 void EditorOwner::connectMainWindow()
@@ -135,6 +140,13 @@ void EditorOwner::openCover()
     const QString cover = m_common.main.covers().find(gameIdText());
     if (!cover.isEmpty())
         m_common.world.shell.open(cover);
+}
+
+void EditorOwner::viewNotes(ReportOwner& report, const SkinPage& skin)
+{
+    m_common.sounds.play(Sound::Click);
+    if (const auto notes = readGameNotes(m_database.database(), m_common.settings, gameIdText()))
+        report.showNotes(*notes, skin.Shape_Color[SkinPage::Fore], skin.Shape_Color[SkinPage::Back]);
 }
 
 void EditorOwner::showBusy(bool busy)

@@ -12,6 +12,8 @@ namespace varnhold {
 
 class AppearanceOwner;
 class DatabaseOwner;
+class ReportOwner;
+class SkinPage;
 
 /// The entry editor with its window and all that leads to it, and the main window's other commands that
 /// change entries: delete, and the copy to the personal table.
@@ -20,7 +22,8 @@ class EditorOwner : public QObject, private EntryHost
     Q_OBJECT
 
 public:
-    EditorOwner(const Common& common, DatabaseOwner& database, AppearanceOwner& appearance);
+    EditorOwner(const Common& common, DatabaseOwner& database, AppearanceOwner& appearance,
+                ReportOwner& report);
 
 private:
     void connectMainWindow();
@@ -28,6 +31,7 @@ private:
     void bindNotesMenu();
     void place();
     void openCover();
+    void viewNotes(ReportOwner& report, const SkinPage& skin);
 
     void showBusy(bool busy) override;
     [[nodiscard]] QString gameIdText() const override;

@@ -62,7 +62,7 @@ Program::Program(const Paths& paths, World world)
                            .dress = [this](QWidget& window) { m_appearance.dressRenamer(window); }}),
       m_database(m_common, m_lookups.lookup(), m_appearance),
       m_report(m_common, m_lookups.lookup(), m_appearance, m_downloads.planner(), m_database.database()),
-      m_editor(m_common, m_database, m_appearance),
+      m_editor(m_common, m_database, m_appearance, m_report),
       m_covers(m_common, m_appearance),
       m_thumbs(m_common, m_lookups.lookup(), [this](QWidget& window) { m_appearance.dressThumbs(window); }),
       m_settingsPages(m_common, m_lookups.certificates()),

@@ -58,4 +58,18 @@ void loadGameDetails(SharedDatabase& database, const Settings& settings, const C
     });
 }
 
+std::optional<QString> readGameNotes(SharedDatabase& database, const Settings& settings,
+                                     const QString& gameId)
+{
+    QString notes;
+    const bool isRead = database.reporting([&] {
+        database.connect();
+        database.select(statements::entry(settings.orderText(Order::DBTable), gameId));
+        if (!database.DBRecords->atEnd())
+            notes = database.DBRecords->value(u"GameNotes"_s);
+        database.close();
+    });
+    return isRead ? std::optional(notes) : std::nullopt;
+}
+
 } // namespace varnhold

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include <optional>
+
 namespace varnhold {
 
 class CoverFolder;
@@ -11,5 +15,10 @@ class SharedDatabase;
 /// that over imgBlank. Failures are reported.
 void loadGameDetails(SharedDatabase& database, const Settings& settings, const CoverFolder& covers,
                      EntryView& view);
+
+/// The notes of a game in the current table, rich text; empty where it has none. No value: a failure, which
+/// is reported.
+std::optional<QString> readGameNotes(SharedDatabase& database, const Settings& settings,
+                                     const QString& gameId);
 
 } // namespace varnhold
