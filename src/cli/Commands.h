@@ -15,6 +15,8 @@ Command lookupCommand();
 Command downloadCommand();
 /// Fetches covers from the cover servers.
 Command coverCommand();
+/// Prints the report of a title's packages, or writes it to a file.
+Command reportCommand();
 /// Prints which hosts are configured; starts nothing.
 Command hostsCommand();
 /// Print what a table holds under a text, and which tables there are.

@@ -129,7 +129,8 @@ void LinksView::keyPressEvent(QKeyEvent* event)
         if (row >= 0)
             Q_EMIT rowActivated(row);
     } else if (event->key() == Qt::Key_Delete) {
-        Q_EMIT deleteWanted();
+        if (row >= 0)
+            Q_EMIT deleteWanted();
     } else {
         QTreeView::keyPressEvent(event);
     }

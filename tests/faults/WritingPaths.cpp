@@ -27,10 +27,13 @@
 #include "platform/richtext/RichTextFile.h"
 #include "platform/richtext/RtfReader.h"
 #include "state/ApplicationState.h"
+#include "state/ErrorReport.h"
+#include "state/Paths.h"
 #include "state/SettingsFile.h"
 #include "support/FakePump.h"
 #include "support/PrintText.h"
 #include "support/TestDatabase.h"
+#include "tools/ReportFile.h"
 
 #include <gtest/gtest.h>
 
@@ -104,6 +107,13 @@ void checkNotes(FaultPlace& place, FaultOutcome outcome)
         EXPECT_EQ(QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden),
                   QStringList{u"notes.rtf"_s});
     }
+}
+
+// A report
+
+bool useReport(const QString& root, const QString& /*argument*/)
+{
+    return silently([&] { saveReport(reportPath({root}, u"notes"_s), reportContents(u"new"_s)); });
 }
 
 // A download by the window's road
@@ -337,6 +347,10 @@ const std::vector<WritingPath>& writingPaths()
         {.name = "Notes",
          .prepare = [](FaultPlace& place) { place.root.write(u"work/notes.rtf"_s, "old"); },
          .use = useNotes,
+         .check = checkNotes},
+        {.name = "Report",
+         .prepare = [](FaultPlace& place) { place.root.write(u"work/notes.rtf"_s, "old"); },
+         .use = useReport,
          .check = checkNotes},
         {.name = "DownloadWindow",
          .prepare =

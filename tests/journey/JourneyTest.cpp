@@ -3,6 +3,7 @@
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
 #include "platform/TcpSocket.h"
+#include "platform/richtext/RtfReader.h"
 #include "support/FakeClipboard.h"
 #include "support/FakeColorDialog.h"
 #include "support/FakeFileDialogs.h"
@@ -16,6 +17,8 @@
 #include "support/RunningService.h"
 #include "support/TempRoot.h"
 #include "support/TestDatabase.h"
+#include "tools/ReportBox.h"
+#include "tools/frmLstTxt.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +30,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -118,6 +122,16 @@ protected:
     bool ended = false;
     std::optional<Program> program;
 };
+
+/// The window of that class, as long as there is one.
+template <typename Window> Window* topLevel()
+{
+    for (QWidget* const top : QApplication::topLevelWidgets()) {
+        if (auto* const found = qobject_cast<Window*>(top))
+            return found;
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -238,6 +252,52 @@ TEST_F(Journey, RemembersTheLinksOfALookupOnce)
     EXPECT_EQ(rows(), 4);
     EXPECT_EQ(count(), QStringList{u"0"_s});
     EXPECT_TRUE(database.isSound());
+}
+
+TEST_F(Journey, MakesAReportEditsItAndOpensItsFile)
+{
+    start("Exit=0\r\nListText0=1\r\nListText1=1\r\nListText2=0\r\nListText3=0\r\nListText4=0\r\n"
+          "ListText5=0\r\nListText6=1\r\n[Position]\r\nRTFbox X=1500\r\nRTFbox Y=900\r\n");
+    const auto report = [] { return topLevel<frmLstTxt>(); };
+    lookUp(u"BLUS30443"_s);
+    program->commands().run(u"mnuLVCopyLink"_s);
+    EXPECT_EQ(clipboard.texts, QStringList()) << "no row is selected";
+
+    program->commands().run(u"mnuLVListText"_s);
+    auto& box = *report()->findChild<ReportBox*>();
+    const QString lines = u"BLUS30443-[Ashgrove Circuit]\nPkg:\t01.01\nPkg:\t01.02\n"_s;
+    EXPECT_TRUE(box.plainText().startsWith(lines)) << box.plainText().toStdString();
+    EXPECT_EQ(report()->windowTitle(), u"Ashgrove Circuit"_s);
+    EXPECT_EQ(report()->toolTip(), u"BLUS30443-[Ashgrove Circuit]"_s);
+    EXPECT_TRUE(program->menus().entry(u"mnuLTTools"_s).isChecked());
+
+    QTest::keyClicks(&box, u"Mine "_s);
+    program->commands().run(u"mnuLTUndo"_s);
+    EXPECT_TRUE(box.plainText().startsWith(lines));
+    box.undo();
+    EXPECT_TRUE(box.plainText().startsWith(lines)) << "what filled it is no step to take back";
+    QTest::keyClicks(&box, u"Mine "_s);
+    program->commands().run(u"mnuLTSelectAll"_s);
+    box.setTextColor(Qt::red);
+    QTest::keyClick(&box, Qt::Key_I, Qt::ControlModifier);
+    const QPoint corner = report()->pos();
+    QTest::mouseClick(report()->findChild<QPushButton*>(u"Command2"_s), Qt::LeftButton);
+    const QString path = root.path(u"BLUS30443.rtf"_s);
+    EXPECT_EQ(shell.opened, QStringList{path});
+    const RichText saved = readRtf(root.read(u"BLUS30443.rtf"_s));
+    EXPECT_TRUE(saved.plainText().startsWith(u"Mine "_s + lines));
+    EXPECT_EQ(saved.paragraphs.front().runs.front().format.color, std::optional<quint32>(0));
+    EXPECT_TRUE(saved.paragraphs.front().runs.front().format.italic);
+    EXPECT_TRUE(root.read(u"Settings.ini"_s).contains("RTFbox W"));
+    QTest::qWait(1);
+    EXPECT_EQ(report(), nullptr) << "gone, not left invisible";
+
+    for (int opening = 0; opening < 10; ++opening) {
+        program->commands().run(u"mnuLVListText"_s);
+        EXPECT_EQ(report()->pos(), corner) << opening;
+        report()->close();
+        QTest::qWait(1);
+    }
 }
 
 TEST_F(Journey, ReloadsAndClearsFromTheFootAndTheMenu)
