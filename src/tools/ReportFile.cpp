@@ -6,6 +6,8 @@
 #include "platform/richtext/RtfWriter.h"
 #include "state/Paths.h"
 
+#include <QFileInfo>
+
 namespace varnhold {
 
 using namespace Qt::StringLiterals;
@@ -60,6 +62,7 @@ QString reportPath(const Paths& paths, const QString& gameId)
 
 void saveReport(const QString& path, const RichText& contents)
 {
+    clearLeftovers(QFileInfo(path).path());
     replaceFile(path, writeRtf(contents), FileReplacement::Links::Replace);
 }
 
