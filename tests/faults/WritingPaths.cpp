@@ -11,6 +11,7 @@
 #include "faults/WritingPaths.h"
 
 #include "covers/CoverFetch.h"
+#include "covers/ThroughFile.h"
 #include "download/DiskFiles.h"
 #include "download/DownloadClient.h"
 #include "platform/Clock.h"
@@ -328,6 +329,20 @@ void checkCover(FaultPlace& place, FaultOutcome outcome)
     }
 }
 
+// The picture on its way into the entry editor
+
+bool useTemporaryPicture(const QString& root, const QString& /*argument*/)
+{
+    const QByteArray picture(100'000, 'p');
+    return succeeds([&] { EXPECT_EQ(throughFile(root, picture), picture); });
+}
+
+void checkTemporaryPicture(FaultPlace& place, FaultOutcome outcome)
+{
+    // Only a kill and a removal that fails leave it there, for the next use to clear away.
+    EXPECT_TRUE(!QFile::exists(place.root.path(u"work/temp.bmp"_s)) || outcome != FaultOutcome::Refused);
+}
+
 } // namespace
 
 const std::vector<WritingPath>& writingPaths()
@@ -386,6 +401,10 @@ const std::vector<WritingPath>& writingPaths()
          .check = checkDatabase,
          .most = 3,
          .mayPassOverFlushes = true},
+        {.name = "TemporaryPicture",
+         .prepare = [](FaultPlace& place) { place.root.makeFolder(u"work"_s); },
+         .use = useTemporaryPicture,
+         .check = checkTemporaryPicture},
         {.name = "Compaction",
          .prepare = prepareMaintenance,
          .use = useCompaction,

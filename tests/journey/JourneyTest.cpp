@@ -32,6 +32,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 
 #include <optional>
@@ -323,6 +324,64 @@ TEST_F(Journey, ReloadsAndClearsFromTheFootAndTheMenu)
     EXPECT_FALSE(window().games().ShowItemImages());
     EXPECT_FALSE(program->menus().entry(u"mnuLBIcons"_s).isChecked());
     EXPECT_TRUE(program->settingsWindow().findChild<QCheckBox*>(u"chk_Icons"_s)->isChecked());
+}
+
+TEST_F(Journey, WritesANewEntryWithNotesAndAPictureAndEditsIt)
+{
+    database.addGames(u"PS3Games"_s, {{u"BLUS30443"_s, u"My Ashgrove"_s}});
+    start("Exit=0\r\nDB Table=1\r\n");
+    QTest::mouseClick(&control<ButtonEx>("CmdNewRecord"), Qt::LeftButton);
+    QWidget* editor = nullptr;
+    for (QWidget* const top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == "frmDB"_L1)
+            editor = top;
+    }
+    ASSERT_TRUE(editor != nullptr && editor->isVisible());
+    const auto part = [editor](const char* name) {
+        return editor->findChild<QWidget*>(QLatin1StringView(name));
+    };
+    QTest::keyClicks(part("txtGameID"), u"npeb00001"_s);
+    QTest::keyClicks(part("txtGameName"), u"Mine"_s);
+    auto* const notes = qobject_cast<QTextEdit*>(part("txtGameNotes"));
+    QTest::keyClicks(notes, u"bold"_s);
+    notes->selectAll();
+    QTest::mouseClick(part("cmd_Collapse(0)"), Qt::LeftButton);
+    QTest::mouseClick(part("cmd_Tools(6)"), Qt::LeftButton);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    EXPECT_TRUE(editor->isVisible()) << "something has changed";
+    QPixmap picture(20, 30);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(root.path(u"p.png"_s)));
+    dialogs.answer(root.path(u"p.png"_s));
+    QTest::mouseClick(part("CmdBrowse"), Qt::LeftButton);
+    boxes.expect(u"Add NEW DB Entry to PS3Games?"_s, u"New Entry"_s, BoxAnswer::Yes);
+    boxes.expect(u"Database has been updated."_s, u"Add New Record"_s);
+    QTest::mouseClick(part("CmdAdd"), Qt::LeftButton);
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_EQ(window().games().ListCount(), 2);
+    const QString entry = u" FROM PS3Games WHERE GameName = 'Mine'"_s;
+    EXPECT_TRUE(database.bytes(u"SELECT GameNotes"_s + entry).contains("\\b"));
+    const QByteArray stored = database.bytes(u"SELECT GameImage"_s + entry);
+    EXPECT_TRUE(stored.startsWith("BM") && stored.endsWith('\0'));
+
+    // Chosen, renamed, and deleted.
+    window().games().setListIndex(1);
+    Q_EMIT window().games().Click();
+    QTest::mouseClick(&control<ButtonEx>("cmdEdit"), Qt::LeftButton);
+    EXPECT_EQ(notes->toPlainText(), u"bold"_s);
+    QTest::keyClicks(part("txtGameID"), u"9"_s);
+    boxes.expect(u"Database has been updated."_s);
+    QTest::mouseClick(part("cmdUpdate"), Qt::LeftButton);
+    EXPECT_EQ(database.column(u"SELECT GameID"_s + entry), QStringList{u"NPEB000019"_s});
+    EXPECT_EQ(database.bytes(u"SELECT GameImage"_s + entry), stored);
+    QTest::mouseClick(&control<ButtonEx>("CmdRefresh"), Qt::LeftButton);
+    window().games().setListIndex(0);
+    boxes.expect(u"This will permanently delete\r\n\r\n'NPEB000019'\r\n\r\nDo you want to proceed?"_s,
+                 u"Delete Record"_s, BoxAnswer::Yes);
+    boxes.expect(u"Command completed successfully!"_s, u"NPEB000019 - Record Deleted!"_s);
+    QTest::mouseClick(&control<ButtonEx>("CmdDelete"), Qt::LeftButton);
+    EXPECT_EQ(database.column(u"SELECT GameID FROM PS3Games"_s), QStringList{u"BLUS30443"_s});
+    EXPECT_EQ(window().titles().count(), 1);
 }
 
 } // namespace varnhold::test
