@@ -1,9 +1,9 @@
 #include "appearance/SkinFolder.h"
 #include "appearance/SkinCatalogue.h"
 #include "appearance/SkinIni.h"
-#include "platform/RunTimeError.h"
 #include "state/ApplicationState.h"
 #include "state/SettingsFile.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 
@@ -14,20 +14,6 @@
 namespace varnhold::test {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-template <typename Call> int errorOf(Call&& call)
-{
-    try {
-        static_cast<void>(call());
-        return errors::none;
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-}
-
-} // namespace
 
 TEST(SkinFolder, FindsNamesWithoutRegardToCase)
 {
@@ -48,17 +34,17 @@ TEST(SkinFolder, SaysWhatIsMissing)
     root.makeFolder(u"skin/a/Button2.bmp"_s);
     root.makePipe(u"skin/a/Button4.bmp"_s);
     const SkinFolder folder(root.path(u"skin/a"_s));
-    EXPECT_EQ(errorOf([&] { return folder.read(u"Button4.bmp"_s); }), errors::pathFileAccess);
-    EXPECT_EQ(errorOf([&] { return folder.read(u"Button3.bmp"_s); }), errors::fileNotFound);
-    EXPECT_EQ(errorOf([&] { return folder.read(u"menu/db.bmp"_s); }), errors::pathNotFound);
-    EXPECT_EQ(errorOf([&] { return folder.read(u"Button2.bmp"_s); }), errors::pathFileAccess);
-    EXPECT_EQ(errorOf([&] { return SkinFolder(root.path(u"skin/b"_s)).read(u"Button1.bmp"_s); }),
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"Button4.bmp"_s); }), errors::pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"Button3.bmp"_s); }), errors::fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"menu/db.bmp"_s); }), errors::pathNotFound);
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"Button2.bmp"_s); }), errors::pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { return SkinFolder(root.path(u"skin/b"_s)).read(u"Button1.bmp"_s); }),
               errors::pathNotFound);
 
     QFile::remove(root.path(u"skin/a/Button1.bmp"_s));
-    EXPECT_EQ(errorOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::fileNotFound);
     QDir(root.path(u"skin/a"_s)).removeRecursively();
-    EXPECT_EQ(errorOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::pathNotFound)
+    EXPECT_EQ(errorNumberOf([&] { return folder.read(u"Button1.bmp"_s); }), errors::pathNotFound)
         << "the folder went after it was listed";
 }
 
@@ -113,13 +99,13 @@ TEST(SkinIni, TakesWhatItsControlTakes)
     for (const auto& each : cases) {
         root.write(u"skin/Skin.ini"_s, QByteArray("[Settings]\r\nSkin ForeColor=") + each.value);
         std::optional<ColorValue> color;
-        EXPECT_EQ(errorOf([&] { color = ini.color(u"Skin ForeColor"_s); }), each.error) << each.value;
+        EXPECT_EQ(errorNumberOf([&] { color = ini.color(u"Skin ForeColor"_s); }), each.error) << each.value;
         EXPECT_EQ(color, each.color) << each.value;
     }
     root.write(u"skin/Skin.ini"_s, "[Settings]\r\nLBxMode=2\r\nLBx Theme=11\r\nLvPicture=yes\r\n");
     EXPECT_EQ(ini.number(u"LBxMode"_s, 2), 2);
-    EXPECT_EQ(errorOf([&] { return ini.number(u"LBx Theme"_s, 10); }), errors::invalidPropertyValue);
-    EXPECT_EQ(errorOf([&] { return ini.number(u"LvPicture"_s, 1); }), errors::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { return ini.number(u"LBx Theme"_s, 10); }), errors::invalidPropertyValue);
+    EXPECT_EQ(errorNumberOf([&] { return ini.number(u"LvPicture"_s, 1); }), errors::typeMismatch);
 }
 
 } // namespace varnhold::test

@@ -3,22 +3,19 @@
 #include "covers/CoverFetch.h"
 #include "covers/CoverFolder.h"
 #include "covers/CoverServers.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/FakePump.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
 namespace varnhold::test {
 
 /// A program folder with settings and a cover folder, and a main window that keeps what it is told.
-class CoverWorld : public testing::Test, public CoverFetchView
+class CoverWorld : public testing::Test, public SettingsWorld, public CoverFetchView
 {
 protected:
     CoverWorld() { root.makeFolder(QStringLiteral("covers")); }
@@ -30,10 +27,6 @@ protected:
     void showBusy(bool isBusy) override { busy += isBusy ? 1 : -1; }
     void showCover(const QString& path) override { shown.append(path); }
 
-    TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     CoverFolder folder{settings};
     CoverServers servers{file};
     FakeMessageBoxes boxes;

@@ -4,9 +4,6 @@
 #include "download/DownloadPlanner.h"
 #include "lookup/UpdateList.h"
 #include "platform/RunTimeError.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 #include "support/FakeClock.h"
 #include "support/FakeDownloadFiles.h"
@@ -15,7 +12,7 @@
 #include "support/FakePump.h"
 #include "support/FakeSocket.h"
 #include "support/FakeSoundPlayer.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -49,7 +46,7 @@ inline QString reportText(int number, const QString& description)
 }
 
 /// A planner over fakes: three rows, downloads into "/dl", no limit that matters.
-class PlannerWorld : public DownloadHost
+class PlannerWorld : public SettingsWorld, public DownloadHost
 {
 public:
     PlannerWorld()
@@ -97,10 +94,6 @@ public:
     }
     void expectLimitBox() { boxes.expect(u"Download Limit Reached\r\nPlease Wait"_s, u"Limit Reached"_s); }
 
-    TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     UpdateList list;
     FakeDownloadFiles files;
     FakeFileDialogs dialogs;

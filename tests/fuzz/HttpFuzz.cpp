@@ -51,34 +51,14 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"HTTP/1.1 200 OK\r\n",
-                                                "HTTP/1.1 100 Continue\r\n\r\n",
-                                                "HTTP/1.0 302 Found\r\n",
-                                                "HTTP/1.1 304 x\r\n",
-                                                "\r\n",
-                                                "\r\n\r\n",
-                                                "\n",
-                                                "\r",
-                                                ":",
-                                                " ",
-                                                "Content-Length: ",
-                                                "Content-Length: 5\r\n",
-                                                "Content-Length: -1\r\n",
-                                                "Content-Length: 4097\r\n",
-                                                "Content-Length: 99999999999999999999\r\n",
-                                                "Transfer-Encoding: chunked\r\n",
-                                                "Transfer-Encoding: gzip, chunked\r\n",
-                                                "Location: /x\r\n",
-                                                "0\r\n",
-                                                "0\r\n\r\n",
-                                                "5\r\nhello\r\n",
-                                                "1;a=b\r\nx\r\n",
-                                                "fff\r\n",
-                                                "7fffffffffffffff\r\n",
-                                                "ffffffffffffffff\r\n",
-                                                QByteArray(1, '\0'),
-                                                QByteArray(5000, 'x'),
-                                                QByteArray("A: b\r\n").repeated(2000)};
+    static const std::vector<QByteArray> all =
+        piecesOf("HTTP/1.1 200 OK\r\n|HTTP/1.1 100 Continue\r\n\r\n|HTTP/1.0 302 Found\r\n|"
+                 "HTTP/1.1 304 x\r\n|\r\n|\r\n\r\n|\n|\r|:| |Content-Length: |Content-Length: 5\r\n|"
+                 "Content-Length: -1\r\n|Content-Length: 4097\r\n|"
+                 "Content-Length: 99999999999999999999\r\n|Transfer-Encoding: chunked\r\n|"
+                 "Transfer-Encoding: gzip, chunked\r\n|Location: /x\r\n|0\r\n|0\r\n\r\n|5\r\nhello\r\n|"
+                 "1;a=b\r\nx\r\n|fff\r\n|7fffffffffffffff\r\n|ffffffffffffffff\r\n",
+                 {QByteArray(1, '\0'), QByteArray(5000, 'x'), QByteArray("A: b\r\n").repeated(2000)});
     return all;
 }
 

@@ -79,32 +79,10 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"[S]",
-                                                "[T]",
-                                                "[",
-                                                "]",
-                                                "k=",
-                                                "K = ",
-                                                "=",
-                                                ";",
-                                                "\r\n",
-                                                "\n",
-                                                "\r",
-                                                " ",
-                                                "\t",
-                                                "\"",
-                                                "'",
-                                                "abc",
-                                                "S",
-                                                "k",
-                                                "\xA7",
-                                                "\xFF",
-                                                "\x81",
-                                                QByteArray(1, '\0'),
-                                                "\r\n[S]\r\n",
-                                                "\r\nk=old\r\n",
-                                                "\xEF\xBB\xBF",
-                                                "\xE4\xB8\xAD"};
+    static const std::vector<QByteArray> all =
+        piecesOf("[S]|[T]|[|]|k=|K = |=|;|\r\n|\n|\r| |\t|\"|'|abc|S|k|\xA7|\xFF|\x81|\r\n[S]\r\n|"
+                 "\r\nk=old\r\n|\xEF\xBB\xBF|\xE4\xB8\xAD",
+                 {QByteArray(1, '\0')});
     return all;
 }
 

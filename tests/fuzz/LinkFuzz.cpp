@@ -63,35 +63,11 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"http://",
-                                                "HTTP://",
-                                                "https://",
-                                                "ftp://",
-                                                "www.",
-                                                "WwW.",
-                                                "mailto:",
-                                                "/",
-                                                ":",
-                                                ":80",
-                                                "//",
-                                                ".",
-                                                ",!?",
-                                                " ",
-                                                "\r",
-                                                "\n",
-                                                "\r\n",
-                                                "\\par ",
-                                                "\\line ",
-                                                "\\b ",
-                                                "\\b0 ",
-                                                "{\\pict 00}",
-                                                "\\cf1\\ul ",
-                                                "\\u8232 ?",
-                                                "\xc3\xa9",
-                                                "\xf0\x9f\x8e\xae",
-                                                "\xff",
-                                                QByteArray(1, '\0'),
-                                                "127.0.0.1:8080"};
+    static const std::vector<QByteArray> all =
+        piecesOf("http://|HTTP://|https://|ftp://|www.|WwW.|mailto:|/|:|:80|//|.|,!?| |\r|\n|\r\n|\\par |"
+                 "\\line |\\b |\\b0 |{\\pict 00}|\\cf1\\ul |\\u8232 ?|\xc3\xa9|\xf0\x9f\x8e\xae|\xff|"
+                 "127.0.0.1:8080",
+                 {QByteArray(1, '\0')});
     return all;
 }
 

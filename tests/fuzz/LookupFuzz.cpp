@@ -54,51 +54,14 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"<package version=\"",
-                                                "ps3_system_ver=\"",
-                                                "size=\"",
-                                                "sha1sum=\"",
-                                                "url=\"",
-                                                "=\"",
-                                                "\"",
-                                                "'",
-                                                "  <?xml version=",
-                                                "  <?xml ver\r\nsion=",
-                                                "\r",
-                                                "\r\n",
-                                                "\n",
-                                                "<TITLE>",
-                                                "</TITLE>",
-                                                "<package",
-                                                "</package>",
-                                                "/>",
-                                                "<a>",
-                                                "</a>",
-                                                " a='b'",
-                                                " xmlns:n='u'",
-                                                "<!--",
-                                                "-->",
-                                                "<![CDATA[",
-                                                "]]>",
-                                                "<?p ",
-                                                "?>",
-                                                "&amp;",
-                                                "&#60;",
-                                                "&e;",
-                                                "%p;",
-                                                "<!DOCTYPE a [",
-                                                "]>",
-                                                "<!ENTITY e '<a b=\"\"/>'>",
-                                                "<!ENTITY % p '<!ATTLIST a b CDATA \"x\">'>",
-                                                "<!ATTLIST a b CDATA 'x' c CDATA #IMPLIED>",
-                                                "<?xml version='1.0' encoding='UTF-16'?>",
-                                                "<?xml version='1.0' encoding='windows-1252'?>",
-                                                "\xff\xfe",
-                                                "\xef\xbb\xbf",
-                                                "\xc3\xa9",
-                                                QByteArray(1, '\0'),
-                                                QByteArray(" a=''").repeated(300),
-                                                QByteArray("<a>").repeated(100)};
+    static const std::vector<QByteArray> all =
+        piecesOf("<package version=\"|ps3_system_ver=\"|size=\"|sha1sum=\"|url=\"|=\"|\"|'|"
+                 "  <?xml version=|  <?xml ver\r\nsion=|\r|\r\n|\n|<TITLE>|</TITLE>|<package|</package>|"
+                 "/>|<a>|</a>| a='b'| xmlns:n='u'|<!--|-->|<![CDATA[|]]>|<?p |?>|&amp;|&#60;|&e;|%p;|"
+                 "<!DOCTYPE a [|]>|<!ENTITY e '<a b=\"\"/>'>|<!ENTITY % p '<!ATTLIST a b CDATA \"x\">'>|"
+                 "<!ATTLIST a b CDATA 'x' c CDATA #IMPLIED>|<?xml version='1.0' encoding='UTF-16'?>|"
+                 "<?xml version='1.0' encoding='windows-1252'?>|\xff\xfe|\xef\xbb\xbf|\xc3\xa9",
+                 {QByteArray(1, '\0'), QByteArray(" a=''").repeated(300), QByteArray("<a>").repeated(100)});
     return all;
 }
 

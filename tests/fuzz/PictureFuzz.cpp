@@ -53,31 +53,15 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {
-        QByteArray::fromHex("ffd8"),
-        QByteArray::fromHex("ffd9"),
-        QByteArray::fromHex("ffda000c03010002110311003f00"),
-        QByteArray::fromHex("ffda0008010100003f00"),
-        QByteArray::fromHex("ffc2"),
-        QByteArray::fromHex("ffdd00040001"),
-        QByteArray::fromHex("ffd0"),
-        QByteArray::fromHex("ff05ffff"),
-        QByteArray::fromHex("ffff"),
-        QByteArray::fromHex("0000"),
-        QByteArray::fromHex("7fffffff"),
-        QByteArray::fromHex("ffffff7f"),
-        QByteArray::fromHex("00000080"),
-        "IHDR",
-        "IDAT",
-        "IEND",
-        "PLTE",
-        "tRNS",
-        "iCCP",
-        QByteArray::fromHex("2c140014000400040000"),
-        QByteArray::fromHex("21f904"),
-        QByteArray::fromHex("3b"),
-        "BM",
-    };
+    static const std::vector<QByteArray> all = piecesOf(
+        "IHDR|IDAT|IEND|PLTE|tRNS|iCCP|BM",
+        {QByteArray::fromHex("ffd8"), QByteArray::fromHex("ffd9"),
+         QByteArray::fromHex("ffda000c03010002110311003f00"), QByteArray::fromHex("ffda0008010100003f00"),
+         QByteArray::fromHex("ffc2"), QByteArray::fromHex("ffdd00040001"), QByteArray::fromHex("ffd0"),
+         QByteArray::fromHex("ff05ffff"), QByteArray::fromHex("ffff"), QByteArray::fromHex("0000"),
+         QByteArray::fromHex("7fffffff"), QByteArray::fromHex("ffffff7f"), QByteArray::fromHex("00000080"),
+         QByteArray::fromHex("2c140014000400040000"), QByteArray::fromHex("21f904"),
+         QByteArray::fromHex("3b")});
     return all;
 }
 

@@ -38,59 +38,14 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"{",
-                                                "}",
-                                                "\\",
-                                                "{\\*\\",
-                                                "\\bin5 ",
-                                                "\\bin999999999 ",
-                                                "\\u-10179?",
-                                                "\\uc0 ",
-                                                "\\uc3 ",
-                                                "\\'8",
-                                                "\\'83",
-                                                "\\par ",
-                                                "\\pard ",
-                                                "\\plain ",
-                                                "{\\field",
-                                                "{\\fldrslt ",
-                                                "{\\*\\fldinst ",
-                                                "\\cell ",
-                                                "\\row ",
-                                                "{\\pntext ",
-                                                "{\\listtext ",
-                                                "{\\*\\pn",
-                                                "\\pnlvlblt ",
-                                                "{\\upr",
-                                                "{\\*\\ud ",
-                                                "\\v ",
-                                                "\\deleted ",
-                                                "\\f0",
-                                                "\\f1 ",
-                                                "\\cf1 ",
-                                                "\\cf2",
-                                                "{\\pict ",
-                                                "\\sect ",
-                                                "\\page ",
-                                                "\\b ",
-                                                "\\tx360 ",
-                                                "{\\fonttbl",
-                                                "{\\f9\\fcharset128 a;}",
-                                                "{\\colortbl;\\red1;}",
-                                                "\\ansicpg932 ",
-                                                "\\deff1 ",
-                                                "{\\info ",
-                                                "{\\footnote ",
-                                                "{\\*\\unheard ",
-                                                "\\~",
-                                                "\\u8233 ?",
-                                                QByteArray(1, '\0'),
-                                                "\x83",
-                                                "\n",
-                                                "\\\n",
-                                                "-2147483649",
-                                                "99999999999",
-                                                "\\ls1 "};
+    static const std::vector<QByteArray> all =
+        piecesOf("{|}|\\|{\\*\\|\\bin5 |\\bin999999999 |\\u-10179?|\\uc0 |\\uc3 |\\'8|\\'83|\\par |"
+                 "\\pard |\\plain |{\\field|{\\fldrslt |{\\*\\fldinst |\\cell |\\row |{\\pntext |"
+                 "{\\listtext |{\\*\\pn|\\pnlvlblt |{\\upr|{\\*\\ud |\\v |\\deleted |\\f0|\\f1 |\\cf1 |"
+                 "\\cf2|{\\pict |\\sect |\\page |\\b |\\tx360 |{\\fonttbl|{\\f9\\fcharset128 a;}|"
+                 "{\\colortbl;\\red1;}|\\ansicpg932 |\\deff1 |{\\info |{\\footnote |{\\*\\unheard |\\~|"
+                 "\\u8233 ?|\x83|\n|\\\n|-2147483649|99999999999|\\ls1 ",
+                 {QByteArray(1, '\0')});
     return all;
 }
 

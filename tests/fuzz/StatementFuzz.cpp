@@ -71,35 +71,10 @@ void check(const QByteArray& input)
 
 const std::vector<QByteArray>& pieces()
 {
-    static const std::vector<QByteArray> all = {"SELECT * FROM ",
-                                                "DELETE * FROM ",
-                                                " where ",
-                                                " LIKE ",
-                                                " ORDER BY ",
-                                                " Desc",
-                                                " Asc",
-                                                "'",
-                                                "''",
-                                                "=",
-                                                ";",
-                                                "*",
-                                                "GameID",
-                                                "PS3Games",
-                                                "%",
-                                                "_",
-                                                "%%",
-                                                "[",
-                                                "]",
-                                                "\n",
-                                                "a%_b",
-                                                "\xc3\x84",
-                                                "\xc3\xa4",
-                                                "\xf0\x9f\x8e\xae",
-                                                "\xff",
-                                                "\xe2\x84\xaa",
-                                                "--",
-                                                "/*",
-                                                QByteArray(1, '\0')};
+    static const std::vector<QByteArray> all =
+        piecesOf("SELECT * FROM |DELETE * FROM | where | LIKE | ORDER BY | Desc| Asc|'|''|=|;|*|GameID|"
+                 "PS3Games|%|_|%%|[|]|\n|a%_b|\xc3\x84|\xc3\xa4|\xf0\x9f\x8e\xae|\xff|\xe2\x84\xaa|--|/*",
+                 {QByteArray(1, '\0')});
     return all;
 }
 

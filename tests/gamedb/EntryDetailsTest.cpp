@@ -83,6 +83,16 @@ TEST_F(EntryDetailsTest, ShowsNothingOfAnEntryThatCannotBeReadWhole)
     EXPECT_EQ(boxes.taken(), QStringList{report(errors::database::unknownColumn)});
 }
 
+TEST_F(EntryDetailsTest, ReportsAPictureThatIsDamaged)
+{
+    const QByteArray whole = root.read(u"GameDB.mdb"_s);
+    const qsizetype page = whole.indexOf(picture.first(1'000)) / 4'096 + 9;
+    QByteArray damaged = whole.first(page * 4'096); // the rest of the picture is gone
+    root.write(u"GameDB.mdb"_s, damaged.append(whole.size() - damaged.size(), '\xff'));
+    EXPECT_EQ(load(u"STORED"_s), QStringList({u"busy"_s, u"idle"_s}));
+    EXPECT_EQ(boxes.taken().size(), 1);
+}
+
 TEST_F(EntryDetailsTest, ReportsAnIdThatBreaksTheStatement)
 {
     EXPECT_EQ(load(u"x' or GameID='STORED"_s), QStringList({u"busy"_s, u"idle"_s}));

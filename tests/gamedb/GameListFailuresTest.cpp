@@ -1,7 +1,6 @@
 #include "GameWorld.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 namespace varnhold::test {
 
@@ -22,43 +21,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(GameListFailuresTest, AsksForADatabaseThatCannotBeOpened)
-{
-    const QByteArray text(
-        "No database, but some text that is long enough for the head of one. Once more: text.");
-    const QString paths[] = {QString(), root.path(u"gone.mdb"_s), root.write(u"empty.mdb"_s, {}),
-                             root.write(u"text.mdb"_s, text), root.paths().root};
-    for (const QString& path : paths) {
-        SCOPED_TRACE(qPrintable(path));
-        choose(path);
-        window.starting = true;
-        list.loadGameListAtStartup();
-        EXPECT_EQ(window.taken(),
-                  begun + QStringList({u"splash Loading: Database not found *¿*"_s,
-                                       u"splash message Thank You! *¿*\rPlease select Database file."_s,
-                                       u"ask for database Not Found! Please select Database file. *¿*"_s}));
-        window.starting = false;
-        list.loadGameListAtStartup();
-        EXPECT_EQ(window.taken(), begun);
-        EXPECT_FALSE(shared.DBConn.isOpen());
-    }
-    EXPECT_FALSE(QFile::exists(root.path(u"gone.mdb"_s)));
-    EXPECT_EQ(root.read(u"empty.mdb"_s), QByteArray());
-    EXPECT_EQ(root.read(u"text.mdb"_s), text);
-}
-
-TEST_F(GameListFailuresTest, AsksForTheNamesOfTables)
-{
-    database.execute(u"ALTER TABLE PS3Games RENAME TO Others"_s);
-    list.loadGameListAtStartup();
-    EXPECT_EQ(window.taken(),
-              begun + QStringList(
-                          {u"splash Loading: Database Table not found *¿*"_s,
-                           u"splash message Thank You! *¿*\rPlease Rename Database Table."_s,
-                           u"ask for tables ReName Games to PS3Games - ReName Personal to PS3Personal."_s}));
-    EXPECT_FALSE(shared.DBConn.isOpen());
-}
 
 TEST_F(GameListFailuresTest, ShowsAnyOtherFailureOfTheFirstLoadAndStartsEmpty)
 {

@@ -5,20 +5,17 @@
 #include "gamedb/GameList.h"
 #include "gamedb/SharedDatabase.h"
 #include "platform/database/DatabaseErrors.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 #include "support/TestDatabase.h"
 
 namespace varnhold::test {
 
 /// A database in a folder of its own, chosen in the settings, with all that its routines stand on. The
 /// current table is PS3Games.
-class GameWorld : public testing::Test
+class GameWorld : public testing::Test, public SettingsWorld
 {
 protected:
     GameWorld()
@@ -31,11 +28,7 @@ protected:
     void choose(const QString& path) { settings.setIdList({QStringLiteral("GameDB.mdb"), path}); }
     static QString report(int number) { return ReportBoxes::report(number); }
 
-    TempRoot root;
     TestDatabase database{root.path(QStringLiteral("GameDB.mdb"))};
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     ReportBoxes boxes;
     FakeSoundPlayer player;
     Sounds sounds{settings, player, state};

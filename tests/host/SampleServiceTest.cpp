@@ -31,7 +31,6 @@ struct Exchange
 {
     QByteArray head;
     QByteArray body;
-    QList<qsizetype> pieces; ///< sizes in which the bytes arrived
 
     [[nodiscard]] int status() const { return head.split(' ').value(1).toInt(); }
     [[nodiscard]] QByteArray header(const QByteArray& name) const
@@ -49,11 +48,8 @@ Exchange exchange(QTcpSocket& socket, const QByteArray& sent, qsizetype limit = 
     Exchange seen;
     socket.write(sent);
     QByteArray all;
-    while (all.size() < limit && socket.waitForReadyRead(patience)) {
-        const QByteArray piece = socket.readAll();
-        seen.pieces.append(piece.size());
-        all += piece;
-    }
+    while (all.size() < limit && socket.waitForReadyRead(patience))
+        all += socket.readAll();
     const qsizetype end = all.indexOf("\r\n\r\n");
     seen.head = end < 0 ? all : all.first(end + 4);
     seen.body = all.sliced(seen.head.size());
@@ -256,53 +252,13 @@ TEST_F(SampleService, MisbehavesAsAsked)
     const QByteArray page(1000, 'p');
     service->with(
         [&](host::SampleService& running) { running.site().addPage(u"/page"_s, "text/plain", page); });
-    const auto odd = [&](const QByteArray& word, qsizetype limit = 100'000'000) {
-        return get(*service, "/odd/" + word + "/page", limit);
-    };
-
-    EXPECT_EQ(odd("early-close").body, page.first(500));
-    EXPECT_EQ(odd("early-close:7").body, page.first(7));
-    EXPECT_EQ(odd("early-close:7").header("Content-Length"), "1000");
-    EXPECT_FALSE(endsInReset(*service, "/odd/early-close/page"));
+    const auto odd = [&](const QByteArray& word) { return get(*service, "/odd/" + word + "/page"); };
     EXPECT_TRUE(endsInReset(*service, "/odd/reset:300/page"));
-    EXPECT_EQ(odd("reset:300").body, page.first(300));
-    EXPECT_EQ(odd("split-header:5").pieces.first(), 5);
-    EXPECT_EQ(odd("split-header:5").body, page);
-    EXPECT_EQ(odd("pieces:4").body, page);
-    EXPECT_GT(odd("pieces:4").pieces.size(), 20);
-    EXPECT_EQ(odd("wrong-length:-10").header("Content-Length"), "990");
-    EXPECT_EQ(odd("no-length").header("Content-Length"), "none");
-    EXPECT_EQ(odd("404").status(), 404);
-    EXPECT_EQ(odd("status:503").status(), 503);
-    EXPECT_EQ(odd("not-xml").status(), 200);
-    EXPECT_EQ(odd("redirect-self").header("Location"), service->url(u"/odd/redirect-self/page"_s).toLatin1());
-    EXPECT_EQ(odd("redirect-empty").header("Location"), "");
-    EXPECT_EQ(odd("redirect-port").header("Location"),
-              "http://127.0.0.1:" + QByteArray::number(service->otherPort()) + "/page");
-    const QByteArray hop = targetOf(odd("endless-redirect").header("Location"));
-    EXPECT_EQ(hop, "/odd/endless-redirect/page?hop=1");
-    EXPECT_TRUE(get(*service, hop).header("Location").endsWith("?hop=2"));
-    EXPECT_GT(odd("endless-headers", 1'000'000).head.size(), 900'000);
     const Exchange chunk = odd("http-chunk:100");
     EXPECT_TRUE(chunk.body.sliced(100).startsWith("HTTP/1.1 500"));
     EXPECT_EQ(chunk.body.size(), page.size());
-    EXPECT_EQ(chunk.pieces.last(), page.size() - 100);
-    const QByteArray many = odd("many-packages:300").body;
-    EXPECT_EQ(many.count("<package version="), 300);
-    EXPECT_TRUE(many.endsWith("</titlepatch>"));
-    EXPECT_GT(odd("huge-document:3").body.size(), 3 * 1024 * 1024);
-    EXPECT_EQ(odd("nonsense").status(), 404);
-}
-
-TEST_F(SampleService, RulesFollowPaths)
-{
-    service->misbehave(u"*A0101*.pkg"_s, u"status:503"_s);
-    const QByteArray first =
-        "/tppkg/np/BLES00256/BLES00256_T1/UP0001-BLES00256_00-VARNHOLDSAMPLE00-A0101-V0100.pkg";
-    EXPECT_EQ(get(*service, first).status(), 503);
-    EXPECT_EQ(get(*service, QByteArray(first).replace("A0101", "A0102")).status(), 200);
-    service->with([](host::SampleService& running) { running.misbehave(u"*"_s, {}); });
-    EXPECT_EQ(get(*service, first).status(), 200);
+    const QByteArray hop = targetOf(odd("endless-redirect").header("Location"));
+    EXPECT_TRUE(get(*service, hop).header("Location").endsWith("?hop=2"));
 }
 
 TEST(SampleServicePort, IsTheUsualOneWhenThatIsFree)
@@ -327,28 +283,6 @@ TEST(SampleServicePort, IsTheUsualOneWhenThatIsFree)
     third.preferPort(free);
     third.start();
     EXPECT_EQ(third.httpPort(), free);
-}
-
-TEST_F(SampleService, WaitsWhereItIsToldToStall)
-{
-    service->with(
-        [](host::SampleService& running) { running.site().addPage(u"/page"_s, "text/plain", "abcdef"); });
-    const struct
-    {
-        QByteArray word;
-        QByteArray body;
-    } cases[] = {{"stall", ""}, {"stall:2", "ab"}};
-    for (const auto& row : cases) {
-        QTcpSocket socket;
-        socket.connectToHost(u"127.0.0.1"_s, service->httpPort());
-        socket.write("GET /odd/" + row.word + "/page HTTP/1.0\r\n\r\n");
-        QByteArray all;
-        while (socket.waitForReadyRead(150))
-            all += socket.readAll();
-        EXPECT_EQ(socket.state(), QAbstractSocket::ConnectedState);
-        EXPECT_TRUE(all.endsWith(row.body)) << all.constData();
-        EXPECT_EQ(all.isEmpty(), row.body.isEmpty());
-    }
 }
 
 TEST_F(SampleService, PacesPackagesOnly)

@@ -1,18 +1,15 @@
 #pragma once
 
 #include "lookup/UpdateList.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "support/FakeLookupView.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 namespace varnhold::test {
 
 /// All that a lookup stands on, with settings in a folder of their own and the delivered clean-up list.
-struct LookupWorld
+struct LookupWorld : SettingsWorld
 {
     LookupWorld()
     {
@@ -49,10 +46,6 @@ struct LookupWorld
         return all.join(u' ');
     }
 
-    TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     UpdateList list;
     FakeLookupView view;
     FakeMessageBoxes boxes;

@@ -1,27 +1,15 @@
 #include "platform/Conversion.h"
 
-#include "platform/RunTimeError.h"
 #include "platform/Trim.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 namespace varnhold {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-int errorOf(const std::function<void()>& action)
-{
-    try {
-        action();
-        return errors::none;
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-}
 
 TEST(Conversion, TextBecomesNumber)
 {
@@ -48,8 +36,9 @@ TEST(Conversion, RefusesWhatIsNoNumber)
     for (const QString& text :
          {u""_s, u" "_s, u"abc"_s, u"12abc"_s, u"1 2"_s, u"-"_s, u"."_s, u"1.2.3"_s, u"1e"_s, u",1"_s,
           u"&H"_s, u"&H-1"_s, u"&HXY"_s, u"0x10"_s, u"inf"_s, u"nan"_s, u"True"_s, u"\u0661"_s})
-        EXPECT_EQ(errorOf([&] { doubleFromText(text); }), errors::typeMismatch) << qPrintable(text);
-    EXPECT_EQ(errorOf([] { doubleFromText(u"1e400"_s); }), errors::overflow);
+        EXPECT_EQ(test::errorNumberOf([&] { doubleFromText(text); }), errors::typeMismatch)
+            << qPrintable(text);
+    EXPECT_EQ(test::errorNumberOf([] { doubleFromText(u"1e400"_s); }), errors::overflow);
 }
 
 TEST(Conversion, WholeNumbersRoundTiesToEvenAndHaveSixteenBits)
@@ -63,7 +52,7 @@ TEST(Conversion, WholeNumbersRoundTiesToEvenAndHaveSixteenBits)
     for (const auto& c : cases)
         EXPECT_EQ(integerFromText(c.text), c.value) << qPrintable(c.text);
     for (const QString& text : {u"32768"_s, u"32767.5"_s, u"-32769"_s, u"1e300"_s})
-        EXPECT_EQ(errorOf([&] { integerFromText(text); }), errors::overflow) << qPrintable(text);
+        EXPECT_EQ(test::errorNumberOf([&] { integerFromText(text); }), errors::overflow) << qPrintable(text);
 }
 
 TEST(Conversion, BooleanWords)
@@ -73,7 +62,8 @@ TEST(Conversion, BooleanWords)
     for (const QString& text : {u"False"_s, u"fALSE"_s, u"0"_s, u"0.0"_s})
         EXPECT_FALSE(booleanFromText(text)) << qPrintable(text);
     for (const QString& text : {u"yes"_s, u"Wahr"_s, u""_s})
-        EXPECT_EQ(errorOf([&] { booleanFromText(text); }), errors::typeMismatch) << qPrintable(text);
+        EXPECT_EQ(test::errorNumberOf([&] { booleanFromText(text); }), errors::typeMismatch)
+            << qPrintable(text);
 }
 
 TEST(Trim, CutsBlanksOnly)

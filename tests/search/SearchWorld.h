@@ -6,14 +6,11 @@
 #include "gamedb/SharedDatabase.h"
 #include "search/ResultList.h"
 #include "search/SearchView.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 #include "support/FakeFileDialogs.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 #include "support/TestDatabase.h"
 
 namespace varnhold::test {
@@ -52,7 +49,7 @@ public:
     bool importFocused = false;
 };
 
-class SearchWorld : public testing::Test
+class SearchWorld : public testing::Test, public SettingsWorld
 {
 protected:
     SearchWorld() { settings.setIdList({QStringLiteral("GameDB.mdb"), database.path()}); }
@@ -66,11 +63,7 @@ protected:
         return all;
     }
 
-    TempRoot root;
     TestDatabase database{root.path(QStringLiteral("GameDB.mdb"))};
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     AnsweringBoxes boxes;
     FakeFileDialogs dialogs;
     FakeSoundPlayer player;

@@ -1,11 +1,8 @@
 #include "state/SettingsLoad.h"
 
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "support/ErrorNumber.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +34,7 @@ public:
     QStringList events;
 };
 
-class SettingsLoadTest : public testing::Test
+class SettingsLoadTest : public testing::Test, public test::SettingsWorld
 {
 protected:
     SettingsLoadTest()
@@ -54,10 +51,6 @@ protected:
             [this] { loadSettings(settings, file, state, root.paths(), updateUrl, host); });
     }
 
-    test::TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     RecordingHost host;
     int changes = 0;
 };

@@ -1,10 +1,8 @@
 #include "state/Settings.h"
 
-#include "state/ApplicationState.h"
-#include "state/SettingsFile.h"
 #include "support/ErrorNumber.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +16,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class SettingsTest : public testing::Test
+struct SettingsTest : testing::Test, test::SettingsWorld
 {
-protected:
-    test::TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
 };
 
 TEST_F(SettingsTest, EachChangeWritesItsKeysAtOnce)

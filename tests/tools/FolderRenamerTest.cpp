@@ -1,9 +1,6 @@
 #include "tools/FolderRenamer.h"
 
 #include "platform/Folders.h"
-#include "state/ApplicationState.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "state/Sounds.h"
 #include "support/ErrorNumber.h"
 #include "support/FakeFileDialogs.h"
@@ -13,7 +10,7 @@
 #include "support/FakeSoundPlayer.h"
 #include "support/FakeTrash.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -57,33 +54,19 @@ TEST(FolderNamesTest, CleansTheWholePath)
 
 TEST(FolderNamesTest, GuardsWhatIsTheSystems)
 {
-    TempRoot root;
+    const TempRoot root;
     QFile::link(u"/etc"_s, root.path(u"link"_s));
-    const QStringList guarded{u"C:/games"_s,
-                              u"Cellar"_s,
-                              u"/"_s,
-                              u"//"_s,
-                              u"/home"_s,
-                              u"/home/"_s,
-                              u"/media"_s,
-                              u"/opt"_s,
-                              u"/usr"_s,
-                              u"/usr/local/x"_s,
-                              u"/lib64/x"_s,
-                              u"/var/lib"_s,
-                              u"/run"_s,
-                              u"/run/lock"_s,
-                              u"/run/media"_s,
-                              u"/var/home"_s,
-                              u"/tmp/../etc"_s,
-                              root.path(u"link"_s),
-                              root.path(u"link/x"_s)};
-    for (const QString& path : guarded)
+    const QString guarded =
+        u"C:/games Cellar / // /home /home/ /media /opt /usr /usr/local/x /lib64/x /var/lib /run "
+        "/run/lock /run/media /var/home /tmp/../etc "_s +
+        root.path(u"link"_s) + u' ' + root.path(u"link/x"_s);
+    for (const QString& path : guarded.split(u' '))
         EXPECT_TRUE(isGuarded(path)) << qPrintable(path);
-    const QStringList open{u"c:/games"_s,         u"/home/me"_s,     u"/media/me/disk"_s, u"/opt/games"_s,
-                           u"/run/media/me/x"_s,  u"/var/home/me"_s, u"/userdata"_s,      u"/variety"_s,
-                           root.path(u"Games"_s), u"/mnt/C"_s};
-    for (const QString& path : open)
+    const QString open =
+        u"c:/games /home/me /media/me/disk /opt/games /run/media/me/x /var/home/me /userdata "
+        "/variety /mnt/C "_s +
+        root.path(u"Games"_s);
+    for (const QString& path : open.split(u' '))
         EXPECT_FALSE(isGuarded(path)) << qPrintable(path);
 }
 
@@ -117,7 +100,7 @@ TEST(FoldersTest, RenamesOverNothing)
 
 namespace {
 
-class FolderRenamerTest : public testing::Test
+class FolderRenamerTest : public testing::Test, public SettingsWorld
 {
 protected:
     FolderRenamerTest()
@@ -159,11 +142,7 @@ protected:
                      u"ErrorException"_s);
     }
 
-    TempRoot root;
     QString base = root.path(u"b"_s);
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     FakeFileDialogs dialogs;
     FakeMessageBoxes boxes;
     FakePump pump;

@@ -1,14 +1,11 @@
 #include "tools/IdListCheck.h"
 #include "tools/VersionCheck.h"
 
-#include "state/ApplicationState.h"
 #include "state/Hosts.h"
-#include "state/Settings.h"
-#include "state/SettingsFile.h"
 #include "support/FakeFetch.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/PrintText.h"
-#include "support/TempRoot.h"
+#include "support/SettingsWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -44,7 +41,7 @@ TEST(VersionCheckTest, ReadsTheLastLineAndComparesItAsText)
 
 namespace {
 
-class UpdateChecksTest : public testing::Test
+class UpdateChecksTest : public testing::Test, public SettingsWorld
 {
 protected:
     UpdateChecksTest()
@@ -55,10 +52,6 @@ protected:
 
     const QString versionUrl = u"http://updates.test:6969/Varnhold/txt/version.txt"_s;
     const QString listUrl = u"http://updates.test:6969/Varnhold/ps3gameids.txt"_s;
-    TempRoot root;
-    ApplicationState state;
-    SettingsFile file{root.paths(), state};
-    Settings settings{file};
     Hosts hosts;
     FakeFetch fetch;
     FakeMessageBoxes boxes;

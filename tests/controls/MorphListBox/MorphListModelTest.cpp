@@ -66,6 +66,19 @@ TEST(MorphListModel, SortingDropsTheFocusAndKeepsChecks)
     EXPECT_TRUE(list.selected(0)) << "a check stays with its item";
 }
 
+TEST(MorphListModel, TheKeyboardRowGoesUpWithTheLastRow)
+{
+    MorphListModel list;
+    sizeForTenRows(list);
+    fill(list, {u"a"_s, u"b"_s, u"c"_s});
+    static_cast<void>(list.keyDown(35, 0));
+    EXPECT_EQ(list.focusRow(), 2);
+    list.RemoveItem(2);
+    EXPECT_EQ(list.focusRow(), 1);
+    static_cast<void>(list.keyDown(38, 0));
+    EXPECT_EQ(list.listIndex(), 0);
+}
+
 TEST(MorphListModel, FindsWholeTextsOnly)
 {
     MorphListModel list;

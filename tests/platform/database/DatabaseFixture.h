@@ -4,6 +4,7 @@
 #include "platform/database/DatabaseConnection.h"
 #include "platform/database/DatabaseErrors.h"
 #include "platform/database/Recordset.h"
+#include "support/ErrorNumber.h"
 #include "support/PrintText.h"
 #include "support/TempRoot.h"
 #include "support/TestDatabase.h"
@@ -13,18 +14,6 @@
 namespace varnhold::test {
 
 namespace db = errors::database;
-
-/// Number of the RunTimeError that the call ends in; 0 when it ends well.
-template <typename Call> int failureOf(Call&& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const RunTimeError& error) {
-        EXPECT_FALSE(error.description().isEmpty());
-        return error.number();
-    }
-}
 
 inline QString connectionTo(const QString& path)
 {

@@ -52,11 +52,11 @@ TEST_F(RecordsetTest, CountsPositionsFromOneAndEndsBehindTheLast)
     EXPECT_FALSE(records.atEnd());
     records.MoveNext();
     EXPECT_TRUE(records.atEnd());
-    EXPECT_EQ(failureOf([&] { records.MoveNext(); }), db::noCurrentRecord);
-    EXPECT_EQ(failureOf([&] { (void)records.value(u"GameID"_s); }), db::noCurrentRecord);
-    EXPECT_EQ(failureOf([&] { (void)records.AbsolutePosition(); }), db::noCurrentRecord);
-    EXPECT_EQ(failureOf([&] { records.setValue(u"GameID"_s, u"C"_s); }), db::noCurrentRecord);
-    EXPECT_EQ(failureOf([&] { records.Update(); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { records.MoveNext(); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.value(u"GameID"_s); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.AbsolutePosition(); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { records.setValue(u"GameID"_s, u"C"_s); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::noCurrentRecord);
 }
 
 TEST_F(RecordsetTest, KeepsItsRowsWhateverHappensToTheTable)
@@ -67,9 +67,9 @@ TEST_F(RecordsetTest, KeepsItsRowsWhateverHappensToTheTable)
     file.execute(u"DELETE FROM PS3Games WHERE GameID = 'B'; INSERT INTO PS3Games (GameID) VALUES ('D')"_s);
     EXPECT_EQ(records.RecordCount(), 3);
     records.MoveNext();
-    EXPECT_EQ(failureOf([&] { (void)records.value(u"GameNotes"_s); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.value(u"GameNotes"_s); }), db::noCurrentRecord);
     records.setValue(u"GameName"_s, u"new"_s);
-    EXPECT_EQ(failureOf([&] { records.Update(); }), db::noCurrentRecord);
+    EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::noCurrentRecord);
 }
 
 TEST_F(RecordsetTest, FindsTextInAnyCaseBeyondAsciiToo)
@@ -109,7 +109,7 @@ TEST_F(RecordsetTest, AddsRecordsWithoutReadingTheTable)
     add(u"Z"_s, u"name"_s);
     records.AddNew();
     records.Update();
-    EXPECT_EQ(failureOf([&] { (void)records.RecordCount(); }), db::locked);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.RecordCount(); }), db::locked);
     connection.Close();
     EXPECT_EQ(stored(u"SELECT GameName FROM PS3Games WHERE GameID = 'Z'"_s), QStringList{u"name"_s});
 }
@@ -140,6 +140,7 @@ TEST_F(RecordsetTest, AnotherAddNewOrMoveNextStoresTheRecordUnderWay)
     records.AddNew();
     records.setValue(u"GameID"_s, u"B"_s);
     records.MoveNext();
+    EXPECT_EQ(stored(u"SELECT GameID FROM PS3Games"_s), (QStringList{u"A"_s, u"B"_s}));
     records.AddNew();
     records.setValue(u"GameID"_s, u"C"_s);
     records.Close();
@@ -200,8 +201,8 @@ TEST_F(RecordsetTest, RefusesAValueThatIsTakenAndKeepsTheRecordUnderWay)
         open(u"SELECT * FROM "_s + table);
         records.AddNew();
         records.setValue(column, value);
-        EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate) << qPrintable(value);
-        EXPECT_EQ(failureOf([&] { records.AddNew(); }), db::duplicate) << qPrintable(value);
+        EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::duplicate) << qPrintable(value);
+        EXPECT_EQ(errorNumberOf([&] { records.AddNew(); }), db::duplicate) << qPrintable(value);
         records.setValue(column, free);
         records.Update();
         EXPECT_EQ(stored(u"SELECT %1 FROM %2 ORDER BY rowid DESC LIMIT 1"_s.arg(column, table)),
@@ -212,7 +213,7 @@ TEST_F(RecordsetTest, RefusesAValueThatIsTakenAndKeepsTheRecordUnderWay)
     records.setValue(u"GameID"_s, u"Żółw"_s);
     records.Update();
     records.setValue(u"GameID"_s, u"blus30443"_s);
-    EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate);
+    EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::duplicate);
 }
 
 TEST_F(RecordsetTest, GivesEveryTypeAsText)
@@ -255,7 +256,7 @@ TEST_F(RecordsetTest, FindsEveryTypeAsText)
         // Known is what is found: the same value is refused.
         records.AddNew();
         records.setValue(u"GameID"_s, id);
-        EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate) << qPrintable(id);
+        EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::duplicate) << qPrintable(id);
     }
     EXPECT_EQ(ids(u"SELECT * FROM Bare where GameName='Seven' ORDER BY GameID Asc"_s),
               (QStringList{u"BL"_s, u"text"_s}));
@@ -294,7 +295,7 @@ TEST_F(RecordsetTest, WorksOnATableWithoutRowIds)
     records.AddNew();
     records.setValue(u"GameID"_s, u"NEW"_s);
     records.setValue(u"Part"_s, u"9"_s);
-    EXPECT_EQ(failureOf([&] { records.Update(); }), db::duplicate);
+    EXPECT_EQ(errorNumberOf([&] { records.Update(); }), db::duplicate);
     EXPECT_EQ(ids(u"SELECT * FROM Own where GameID='id7'"_s), QStringList{u"ID7"_s});
     DatabaseCommand command;
     command.setActiveConnection(connection);
@@ -360,39 +361,43 @@ TEST_F(RecordsetTest, ReadsBinariesInChunks)
     records.MoveNext();
     EXPECT_EQ(records.GetChunk(u"GameImage"_s, 100), "b");
     records.AddNew();
-    EXPECT_EQ(failureOf([&] { (void)records.GetChunk(u"GameImage"_s, 1); }), db::notAllowed);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.GetChunk(u"GameImage"_s, 1); }), db::notAllowed);
 }
 
 TEST_F(RecordsetTest, TellsWhatIsNotThere)
 {
-    const auto openFailure = [&](const QString& statement) { return failureOf([&] { open(statement); }); };
+    const auto openFailure = [&](const QString& statement) {
+        return errorNumberOf([&] { open(statement); });
+    };
     EXPECT_EQ(openFailure(u"SELECT * FROM Games"_s), db::missingTable);
     EXPECT_EQ(openFailure(u"SELECT * FROM sqlite_schema"_s), db::missingTable);
     EXPECT_EQ(openFailure(u"SELECT * FROM PS3Games where Game='x'"_s), db::unknownColumn);
     EXPECT_EQ(openFailure(u"SELECT * FROM PS3Games ORDER BY Title Asc"_s), db::unknownColumn);
     open(u"select * from ps3games order by gamename asc"_s);
-    EXPECT_EQ(failureOf([&] { records.AddNew(), records.setValue(u"Title"_s, u"x"_s); }), db::unknownColumn);
+    EXPECT_EQ(errorNumberOf([&] { records.AddNew(), records.setValue(u"Title"_s, u"x"_s); }),
+              db::unknownColumn);
 }
 
 TEST_F(RecordsetTest, ObjectsKnowWhetherTheyAreOpen)
 {
-    EXPECT_EQ(failureOf([&] { records.Open(u"SELECT * FROM PS3Games"_s, connection); }), db::objectClosed);
-    EXPECT_EQ(failureOf([&] { connection.Close(); }), db::objectClosed);
-    EXPECT_EQ(failureOf([&] { records.Close(); }), db::objectClosed);
-    EXPECT_EQ(failureOf([&] { records.UpdateBatch(); }), db::objectClosed);
-    EXPECT_EQ(failureOf([&] { (void)records.RecordCount(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { records.Open(u"SELECT * FROM PS3Games"_s, connection); }),
+              db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { connection.Close(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { records.Close(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { records.UpdateBatch(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { (void)records.RecordCount(); }), db::objectClosed);
     DatabaseCommand command;
     command.setCommandText(u"DELETE * FROM PS3Games WHERE GameID='x'"_s);
-    EXPECT_EQ(failureOf([&] { command.Execute(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { command.Execute(); }), db::objectClosed);
 
     open(u"SELECT * FROM PS3Games"_s);
-    EXPECT_EQ(failureOf([&] { records.Open(u"SELECT * FROM PS3Games"_s, connection); }), db::objectOpen);
-    EXPECT_EQ(failureOf([&] { connection.Open(connectionTo(file.path())); }), db::objectOpen);
+    EXPECT_EQ(errorNumberOf([&] { records.Open(u"SELECT * FROM PS3Games"_s, connection); }), db::objectOpen);
+    EXPECT_EQ(errorNumberOf([&] { connection.Open(connectionTo(file.path())); }), db::objectOpen);
     Recordset second;
     second.Open(u"SELECT * FROM PS3Links "_s, connection);
     connection.Close();
     EXPECT_FALSE(records.isOpen());
-    EXPECT_EQ(failureOf([&] { second.AddNew(); }), db::objectClosed);
+    EXPECT_EQ(errorNumberOf([&] { second.AddNew(); }), db::objectClosed);
     EXPECT_EQ(ids(u"SELECT * FROM PS3Games"_s), QStringList{});
 }
 
@@ -410,8 +415,8 @@ TEST_F(RecordsetTest, DeletesWhatTheConditionNames)
     EXPECT_EQ(deleted(u"DELETE * FROM PS3Games WHERE GameID='ä'"_s), 1);
     EXPECT_EQ(deleted(u"DELETE * FROM PS3Games WHERE GameName='X';"_s), 2);
     EXPECT_EQ(stored(u"SELECT GameID FROM PS3Games"_s), QStringList{});
-    EXPECT_EQ(failureOf([&] { deleted(u"SELECT * FROM PS3Games"_s); }), db::badSyntax);
-    EXPECT_EQ(failureOf([&] { open(u"DELETE * FROM PS3Games WHERE GameID='A'"_s); }), db::badSyntax);
+    EXPECT_EQ(errorNumberOf([&] { deleted(u"SELECT * FROM PS3Games"_s); }), db::badSyntax);
+    EXPECT_EQ(errorNumberOf([&] { open(u"DELETE * FROM PS3Games WHERE GameID='A'"_s); }), db::badSyntax);
 }
 
 TEST_F(RecordsetTest, RenamesTables)
@@ -421,10 +426,10 @@ TEST_F(RecordsetTest, RenamesTables)
     connection.Open(connectionTo(file.path()));
     EXPECT_EQ(tableNames(connection),
               (QStringList{u"PS3Games"_s, u"PS3Personal"_s, u"PS3Links"_s, u"Games"_s, u"Zwölf \"x\""_s}));
-    EXPECT_EQ(failureOf([&] { renameTable(connection, u"games"_s, u"PS3GAMES"_s); }), db::tableExists);
-    EXPECT_EQ(failureOf([&] { renameTable(connection, u"Games"_s, u"taken"_s); }), db::tableExists);
-    EXPECT_EQ(failureOf([&] { renameTable(connection, u"Nothing"_s, u"x"_s); }), db::missingTable);
-    EXPECT_EQ(failureOf([&] { renameTable(connection, u"Games"_s, u""_s); }), db::badSyntax);
+    EXPECT_EQ(errorNumberOf([&] { renameTable(connection, u"games"_s, u"PS3GAMES"_s); }), db::tableExists);
+    EXPECT_EQ(errorNumberOf([&] { renameTable(connection, u"Games"_s, u"taken"_s); }), db::tableExists);
+    EXPECT_EQ(errorNumberOf([&] { renameTable(connection, u"Nothing"_s, u"x"_s); }), db::missingTable);
+    EXPECT_EQ(errorNumberOf([&] { renameTable(connection, u"Games"_s, u""_s); }), db::badSyntax);
     open(u"SELECT * FROM Games"_s);
     renameTable(connection, u"GAMES"_s, u"gameS"_s);
     renameTable(connection, u"ZWÖLF \"X\""_s, u"'; DROP TABLE PS3Games; --"_s);

@@ -98,6 +98,8 @@ TEST(RtfReader, ReadsListsOfBothKinds)
          tables + "{\\listtext\\f3\\'b7\\tab}\\ls1\\ilvl0 a\\par{\\listtext 1.\\tab}\\ilvl1 b\\par"
                   "\\pard c",
          u"(bullet0 ls1)a\n(ls1 ilvl1){1.~}<>b\nc"_s},
+        {"levels of the tables whose text is not there", tables + "\\ls1\\ilvl0 a\\par\\ilvl1 b",
+         u"(bullet0 ls1)a\n(ls1 ilvl1)b"_s},
         {"a heading in a list that counts nothing", "{\\listtext\\tab}\\ls3\\ilvl0 a", u"(ls3)a"_s},
         {"a bullet that no table tells of", "{\\listtext\\u8226?\\tab}a\\par{\\listtext i.\\tab}b",
          u"(bullet0)a\ni.~b"_s},
