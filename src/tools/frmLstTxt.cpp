@@ -55,6 +55,7 @@ frmLstTxt::frmLstTxt(const Services& services, ReportHost& host, const WindowPla
     setObjectName("frmLstTxt"_L1);
     tellAssistiveTools(*this, {.role = QAccessible::Window});
     build();
+    setAttribute(Qt::WA_QuitOnClose, false); // the program goes on without it
     setMinimumSize(smallest);
     const WindowPlace place = readReportPlace(
         services.file, main, {0, 0, smallest.width(), smallest.height()}, services.screen.screens());
@@ -250,7 +251,7 @@ WindowPlace frmLstTxt::currentPlace() const
 
 void frmLstTxt::closeEvent(QCloseEvent* event)
 {
-    event->accept();
+    event->ignore(); // it hides itself, and is deleted later
     unload();
 }
 
