@@ -36,6 +36,7 @@ struct Load
     const char* name;
     int column;    ///< of the order: 0 id, 1 name
     int noteEvery; ///< rows with rich notes; 0: none
+    double most;   ///< ours to theirs
 };
 
 /// A program folder with the delivered skins, ordered by that column.
@@ -115,15 +116,15 @@ bool compareLoads(const char* self, int pairs, const Load& load)
                        comparePaired(
                            pairs, [&] { return loadOurs(program.mainWindow()); },
                            [&] { return loadTheirs(view, path, load.column); }),
-                       "ms", 1000, 1.0 / 3);
+                       "ms", 1000, load.most);
 }
 
 bool compareAll(const char* self, int pairs)
 {
     constexpr Load loads[] = {
-        {"100,000 titles by name, every fourth with notes", 1, 4},
-        {"100,000 titles by name", 1, 0},
-        {"100,000 titles by id", 0, 0},
+        {"100,000 titles by name, every fourth with notes", 1, 4, 1.0 / 3},
+        {"100,000 titles by name", 1, 0, 0.4},
+        {"100,000 titles by id", 0, 0, 0.4},
     };
     bool kept = true;
     for (const Load& load : loads)

@@ -36,6 +36,9 @@ DatabaseOwner::DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwn
         btnOpen_Click(common.settings, common.world.dialogs, common.sounds, common.world.boxes, m_gameList);
     });
     appearance.setIconRedraw([this] { m_gameList.redrawIcons(); });
+    common.commands.bind("mnuOpen", [this, common] {
+        mnuOpen_Click(common.settings, common.world.dialogs, common.sounds, m_gameList);
+    });
     common.commands.bind("mnuLBIcons", [this] { m_gameList.mnuLBIcons_Click(); });
 }
 
