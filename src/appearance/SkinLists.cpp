@@ -26,6 +26,7 @@ constexpr int mostAlignments = 5;
 constexpr int defaultTheme = 2;
 constexpr int tiled = 5;
 constexpr double visible = 3;
+constexpr double readable = 4.5;
 
 void assign(QWidget* control, const char* name, const QVariant& value)
 {
@@ -54,6 +55,44 @@ void readPicture(SkinPage::ListPicture& held, const SkinIni& ini, const QString&
 QPixmap pictureOf(const SkinPage::ListPicture& held, SkinPictures& pictures)
 {
     return held.file.tag.isEmpty() ? QPixmap() : pictures.loadPath(held.file.tag);
+}
+
+/// A locked list stays on screen for minutes: it wears the colours that it has, toned down. A theme brings
+/// its own instead.
+void lockInOwnColors(QWidget& list)
+{
+    const auto own = [&list](const char* name) { return list.property(name).toUInt(); };
+    const auto tone = [&](const char* name, ColorValue ink, std::span<const ColorValue> grounds,
+                          double ratio) {
+        constexpr double share = 0.45;
+        assign(&list, name, tonedDown(ink, grounds, share, ratio));
+    };
+    const ColorValue backs[] = {own("BackColor1"), own("BackColor2")};
+    // What is chosen stays told from the rest, by less.
+    constexpr double none = 1;
+    tone("DisSelColor1", own("SelColor1"), backs, none);
+    tone("DisSelColor2", own("SelColor2"), backs, none);
+    const ColorValue chosen[] = {own("DisSelColor1"), own("DisSelColor2")};
+    tone("DisForeColor", own("ForeColor"), backs, readable);
+    tone("DisHighlightColor", own("HighlightColor"), chosen, readable);
+    tone("DisFocusRectColor", own("FocusRectColor"), chosen, none);
+    assign(&list, "DisBackColor1", backs[0]);
+    assign(&list, "DisBackColor2", backs[1]);
+    constexpr std::pair<const char*, const char*> rest[] = {{"DisBorderColor1", "BorderColor1"},
+                                                            {"DisBorderColor2", "BorderColor2"},
+                                                            {"DisButtonColor1", "ButtonColor1"},
+                                                            {"DisButtonColor2", "ButtonColor2"},
+                                                            {"DisArrowDownColor", "ArrowDownColor"},
+                                                            {"DisArrowUpColor", "ArrowUpColor"},
+                                                            {"DisThumbColor1", "ThumbColor1"},
+                                                            {"DisThumbColor2", "ThumbColor2"},
+                                                            {"DisThumbBorderColor", "ThumbBorderColor"},
+                                                            {"DisTrackbarColor1", "TrackBarColor1"},
+                                                            {"DisTrackbarColor2", "TrackBarColor2"},
+                                                            {"DisCheckboxColor", "CheckBoxColor"},
+                                                            {"DisCheckboxArrowColor", "CheckboxArrowColor"}};
+    for (const auto& [locked, name] : rest)
+        tone(locked, own(name), backs, none);
 }
 
 QWidget* listOf(SkinHost& host, const char* name)
@@ -215,6 +254,7 @@ void SkinLists::applyCustomColors()
                                own("ForeColor")};
     const ColorValue grounds[] = {own("SelColor1"), own("SelColor2"), own("BackColor1"), own("BackColor2")};
     assign(m_games, "FocusRectColor", firstThatStandsOut(inks, grounds, visible));
+    lockInOwnColors(*m_games);
     assign(m_games, "RedrawFlag", true);
     dressScrollBars();
 }

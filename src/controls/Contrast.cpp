@@ -19,6 +19,17 @@ double linear(int channel)
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }
 
+ColorValue mixed(ColorValue one, ColorValue other, double share)
+{
+    ColorValue result = 0;
+    for (const int shift : {0, 8, 16}) {
+        const double from = (one >> shift) & 0xFF;
+        const double to = (other >> shift) & 0xFF;
+        result |= static_cast<ColorValue>(std::lround(from + (to - from) * share)) << shift;
+    }
+    return result;
+}
+
 std::array<double, 256> linearTable()
 {
     std::array<double, 256> table{};
@@ -69,6 +80,15 @@ ColorValue firstThatStandsOut(std::span<const ColorValue> colors, std::span<cons
     candidates.insert(candidates.end(), {black, white});
     return *std::max_element(candidates.begin(), candidates.end(),
                              [&](ColorValue one, ColorValue other) { return worst(one) < worst(other); });
+}
+
+ColorValue tonedDown(ColorValue ink, std::span<const ColorValue> grounds, double share, double ratio)
+{
+    constexpr int steps = 5;
+    std::vector<ColorValue> candidates;
+    for (int step = steps; step >= 0; --step)
+        candidates.push_back(mixed(GetLngColor(ink), GetLngColor(grounds.front()), share * step / steps));
+    return firstThatStandsOut(candidates, grounds, ratio);
 }
 
 } // namespace varnhold

@@ -21,4 +21,9 @@ namespace varnhold {
 [[nodiscard]] ColorValue firstThatStandsOut(std::span<const ColorValue> colors,
                                             std::span<const ColorValue> grounds, double ratio);
 
+/// The ink moved toward the first ground by `share` (0 to 1), or by as much less as keeps the ratio on every
+/// ground; an ink that does not reach it as it is comes back as firstThatStandsOut().
+[[nodiscard]] ColorValue tonedDown(ColorValue ink, std::span<const ColorValue> grounds, double share,
+                                   double ratio);
+
 } // namespace varnhold

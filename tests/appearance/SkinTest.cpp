@@ -126,6 +126,9 @@ TEST_F(SkinTest, ShowsWhereTheKeyboardIs)
             EXPECT_GE(contrastRatio(line, ground), 3) << ground;
         for (const ColorValue ground : {main.games().BackColor1(), main.games().SelColor1()})
             EXPECT_GE(contrastRatio(main.games().FocusRectColor(), ground), 3) << ground;
+        EXPECT_NE(main.games().DisForeColor(), main.games().ForeColor()) << "locked, it looks so";
+        for (const ColorValue ground : {main.games().DisBackColor1(), main.games().DisBackColor2()})
+            EXPECT_GE(contrastRatio(main.games().DisForeColor(), ground), 4.5) << ground;
     }
     setUpToolkitLook(*qApp);
     main.setBarMainTop(1800);

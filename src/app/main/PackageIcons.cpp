@@ -166,9 +166,9 @@ QIcon packageIcon(const QString& key)
             painter.scale(scale, scale);
             (*draw)(painter);
             painter.end();
-            // The selection tints no icon: its colour is what it says.
-            icon.addPixmap(picture, QIcon::Normal);
-            icon.addPixmap(picture, QIcon::Selected);
+            // Neither the selection nor a locked list tints an icon: its colour is what it says.
+            for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected, QIcon::Disabled})
+                icon.addPixmap(picture, mode);
         }
     }
     made.insert(key, icon);

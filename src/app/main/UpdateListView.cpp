@@ -1,6 +1,8 @@
 #include "app/main/UpdateListView.h"
 
 #include "app/main/PackageIcons.h"
+#include "controls/Contrast.h"
+#include "controls/SystemColorsUi.h"
 #include "lookup/UpdateList.h"
 
 #include <QContextMenuEvent>
@@ -21,6 +23,21 @@ constexpr int rowHeight = 18;
 constexpr int iconSide = 16;
 constexpr int cellGap = 6;
 
+/// A locked list stays on screen for minutes, and is read.
+void toneDown(QPalette& palette)
+{
+    constexpr double share = 0.4;
+    constexpr double readable = 4.5;
+    const auto tone = [&palette](QPalette::ColorRole ink, QPalette::ColorRole ground, double ratio) {
+        const ColorValue grounds[] = {toColorValue(palette.color(QPalette::Disabled, ground))};
+        const ColorValue from = toColorValue(palette.color(QPalette::Active, ink));
+        palette.setColor(QPalette::Disabled, ink, toQColor(tonedDown(from, grounds, share, ratio)));
+    };
+    tone(QPalette::Highlight, QPalette::Base, 1);
+    tone(QPalette::HighlightedText, QPalette::Highlight, readable);
+    tone(QPalette::Text, QPalette::Base, readable);
+}
+
 /// Shows the icon that the list names by a key.
 class IconDelegate : public QStyledItemDelegate
 {
@@ -37,6 +54,8 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state.setFlag(QStyle::State_HasFocus, false); // the whole row shows it
+        if (!option->state.testFlag(QStyle::State_Enabled))
+            toneDown(option->palette);
         const QString key = index.data(UpdateList::IconKeyRole).toString();
         if (key.isEmpty())
             return;
@@ -99,6 +118,8 @@ void UpdateListView::paintEvent(QPaintEvent* event)
 {
     if (!m_picture.isNull()) {
         QPainter painter(viewport());
+        constexpr qreal locked = 0.35;
+        painter.setOpacity(isEnabled() ? 1 : locked);
         drawPicture(painter);
     }
     QTreeView::paintEvent(event);
