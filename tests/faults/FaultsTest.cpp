@@ -87,7 +87,7 @@ TEST_P(Faults, LoseNothing)
     const WritingPath& path = writingPaths().at(GetParam());
     FaultPlace place;
     const QMap<QString, int> calls = callsOf(path, place);
-    ASSERT_GT(calls.value(u"write"_s), 0) << "the faults reach nothing";
+    ASSERT_FALSE(calls.isEmpty()) << "the faults reach nothing";
     const QStringList moving = {u"write"_s, u"send"_s, u"recv"_s};
     int runs = 0;
     for (auto kind = calls.begin(); kind != calls.end(); ++kind) {

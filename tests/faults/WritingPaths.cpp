@@ -15,6 +15,7 @@
 #include "download/DiskFiles.h"
 #include "download/DownloadClient.h"
 #include "platform/Clock.h"
+#include "platform/DownloadToFile.h"
 #include "platform/MessageBoxes.h"
 #include "platform/MessagePump.h"
 #include "platform/NetworkFetch.h"
@@ -343,6 +344,45 @@ void checkTemporaryPicture(FaultPlace& place, FaultOutcome outcome)
     EXPECT_TRUE(!QFile::exists(place.root.path(u"work/temp.bmp"_s)) || outcome != FaultOutcome::Refused);
 }
 
+// A marker set by hand
+
+bool useMarker(const QString& root, const QString& /*argument*/)
+{
+    return succeeds([&] { DiskFiles().createEmpty(root + u"/x.txt"_s); });
+}
+
+void checkMarker(FaultPlace& place, FaultOutcome outcome)
+{
+    const QString path = place.root.path(u"work/x.txt"_s);
+    EXPECT_TRUE(QFile::exists(path) || outcome != FaultOutcome::Acknowledged);
+    EXPECT_EQ(QFile(path).size(), 0);
+}
+
+// A file of the update host: the version, the id list
+
+const QByteArray oldList = "BLES00001 the old list\r\n";
+const QByteArray newList = QByteArray("BLES00256 made up\r\n").repeated(5'000);
+
+bool useFetch(const QString& root, const QString& url)
+{
+    clearLeftovers(root);
+    EventLoopPump pump;
+    NetworkFetch fetch(pump, {});
+    return Download_To_File(fetch, url, root + u"/ps3gameids.txt"_s,
+                            {.silence = std::chrono::seconds(1), .whole = std::chrono::seconds(10)});
+}
+
+void checkFetch(FaultPlace& place, FaultOutcome outcome)
+{
+    const QByteArray bytes = place.root.read(u"work/ps3gameids.txt"_s);
+    EXPECT_TRUE(bytes == newList || (outcome != FaultOutcome::Acknowledged && bytes == oldList))
+        << bytes.size();
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden),
+                  QStringList{u"ps3gameids.txt"_s});
+    }
+}
+
 } // namespace
 
 const std::vector<WritingPath>& writingPaths()
@@ -417,6 +457,22 @@ const std::vector<WritingPath>& writingPaths()
          .check = checkBackup,
          .most = 5,
          .mayPassOverFlushes = true},
+        {.name = "Marker",
+         .prepare = [](FaultPlace& place) { place.root.makeFolder(u"work"_s); },
+         .use = useMarker,
+         .check = checkMarker},
+        {.name = "HostFile",
+         .prepare =
+             [](FaultPlace& place) {
+                 place.root.write(u"work/ps3gameids.txt"_s, oldList);
+                 place.service().with([](host::SampleService& service) {
+                     service.site().addPage(u"/made/ids.txt"_s, "text/plain", newList);
+                 });
+             },
+         .use = useFetch,
+         .check = checkFetch,
+         .argument = [](FaultPlace& place) { return place.service().url(u"/made/ids.txt"_s); },
+         .most = 4},
     };
     return paths;
 }

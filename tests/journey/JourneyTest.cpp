@@ -2,6 +2,7 @@
 #include "app/main/UpdateListView.h"
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "platform/DesktopTrash.h"
 #include "platform/TcpSocket.h"
 #include "platform/richtext/RtfReader.h"
 #include "support/FakeClipboard.h"
@@ -25,6 +26,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QCryptographicHash>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -63,6 +66,7 @@ protected:
                                             .player = player,
                                             .sockets = sockets,
                                             .screen = screen,
+                                            .trash = &trash,
                                             .isFirst = [] { return true; },
                                             .activatePrevious = [] { return false; },
                                             .findHosts = [this] { return hosts(); },
@@ -108,6 +112,20 @@ protected:
         return count;
     }
 
+    void startBatch()
+    {
+        lookUp(u"BLES01902"_s);
+        ASSERT_EQ(rows(), 8);
+        for (const char* entry : {"mnuLVCheckBxs", "mnuLVSelectAll", "mnuChkDLoad"})
+            program->commands().run(QLatin1StringView(entry));
+        EXPECT_FALSE(control<UpdateListView>("ListView1").isEnabled());
+        EXPECT_FALSE(window().games().isEnabled());
+    }
+    [[nodiscard]] QStringList files(const QString& folder, const QString& kind) const
+    {
+        return QDir(root.path(folder)).entryList({kind}, QDir::Files);
+    }
+
     RunningService service;
     TempRoot root;
     TestDatabase database{root.path(u"GameDB.mdb"_s)};
@@ -120,6 +138,7 @@ protected:
     FakeSoundPlayer player;
     TcpSocketMaker sockets;
     FakeScreen screen;
+    DesktopTrash trash;
     bool ended = false;
     std::optional<Program> program;
 };
@@ -382,6 +401,85 @@ TEST_F(Journey, WritesANewEntryWithNotesAndAPictureAndEditsIt)
     QTest::mouseClick(&control<ButtonEx>("CmdDelete"), Qt::LeftButton);
     EXPECT_EQ(database.column(u"SELECT GameID FROM PS3Games"_s), QStringList{u"BLUS30443"_s});
     EXPECT_EQ(window().titles().count(), 1);
+}
+
+TEST_F(Journey, FetchesAllPackagesOfATitleAsABatch)
+{
+    start("Exit=0\r\nUse DLDir=1\r\nCreate GNFolder=1\r\nDL Max=4\r\n");
+    startBatch();
+    int most = 0;
+    auto& view = control<UpdateListView>("ListView1");
+    constexpr int patience = 60'000; // ms: a tick lasts a second
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            most = qMax(most, downloadWindows());
+            return view.isEnabled();
+        },
+        patience));
+    EXPECT_EQ(most, 4);
+    EXPECT_TRUE(window().games().isEnabled());
+    EXPECT_EQ(control<QLabel>("lblCnt").text(), u"0"_s);
+    const QString folder = u"dl/BLES01902-[Northern Fathoms]"_s;
+    EXPECT_EQ(control<QLabel>("lblStatus").text(), root.path(folder));
+    ASSERT_EQ(files(folder, u"*.pkg"_s).size(), 8);
+    EXPECT_EQ(files(folder, u"*.txt"_s).size(), 8);
+    EXPECT_EQ(files(folder, u"*.temp"_s), QStringList());
+    for (const QString& name : files(folder, u"*.pkg"_s)) {
+        const QByteArray bytes = root.read(folder + u'/' + name);
+        EXPECT_EQ(bytes.last(32).first(20),
+                  QCryptographicHash::hash(bytes.chopped(32), QCryptographicHash::Sha1))
+            << qPrintable(name);
+    }
+    for (int row = 1; row <= 8; ++row) {
+        EXPECT_EQ(icon(row), u"pkg-plus"_s) << row;
+        EXPECT_EQ(view.model()->index(row - 1, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked) << row;
+    }
+}
+
+TEST_F(Journey, LeavesInTheMiddleOfABatch)
+{
+    start("Exit=0\r\nUse DLDir=1\r\nDL Max=2\r\n");
+    service.misbehave(u"*-A01*"_s, u"slow-drip:1"_s);
+    startBatch();
+    QTimer::singleShot(1500, &window(), [&] {
+        EXPECT_EQ(downloadWindows(), 2);
+        QTest::mouseClick(&control<ButtonEx>("btn_WinState(1)"), Qt::LeftButton);
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(downloadWindows(), 0);
+    EXPECT_EQ(files(u"dl"_s, u"*.txt"_s).size(), 2) << "no third one began behind the closed ones";
+    EXPECT_EQ(files(u"dl"_s, u"*.pkg"_s), QStringList());
+}
+
+TEST_F(Journey, RecyclesAPackageThatCanBeBroughtBack)
+{
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(root.path(u"."_s)));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(root.path(u"data"_s)));
+    const QString path = root.write(u"dl/"_s + package + u".pkg"_s, "bytes");
+    root.write(u"dl/"_s + package + u".txt"_s, "");
+    start("Exit=0\r\nUse DLDir=1\r\n");
+    lookUp(u"BLUS30443"_s);
+    QTest::mouseClick(control<UpdateListView>("ListView1").viewport(), Qt::LeftButton, {}, rowCentre(2));
+    const QString sure =
+        u"Are you sure you want to send\r\n'"_s + package + u".pkg'\r\nto the Recycle Bin?"_s;
+    boxes.expect(sure, BoxAnswer::No);
+    program->commands().run(u"mnuKill"_s);
+    EXPECT_TRUE(QFile::exists(path));
+    boxes.expect(sure, BoxAnswer::Yes);
+    boxes.expect(u"Would you also like to Delete \r\n\r\n"_s + package + u".txt ?"_s, BoxAnswer::Yes);
+    program->commands().run(u"mnuKill"_s);
+    EXPECT_EQ(files(u"dl"_s, u"*"_s), QStringList());
+    EXPECT_EQ(icon(2), u"pkg"_s);
+    const QString inTrash = u"data/Trash/files/"_s + package + u".pkg"_s;
+    EXPECT_EQ(root.read(inTrash), "bytes");
+    EXPECT_TRUE(root.read(u"data/Trash/info/"_s + package + u".pkg.trashinfo"_s)
+                    .contains("Path=" + QFile::encodeName(path).toPercentEncoding("/") + '\n'));
+    EXPECT_TRUE(QFile::rename(root.path(inTrash), path));
+    QTest::mouseClick(&control<ButtonEx>("btnFetch"), Qt::LeftButton);
+    EXPECT_EQ(icon(2), u"pkg"_s) << "without its marker";
+    qunsetenv("XDG_DATA_HOME");
+    qputenv("HOME", home);
 }
 
 } // namespace varnhold::test
