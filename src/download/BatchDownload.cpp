@@ -45,8 +45,9 @@ void BatchDownload::mnuLVSelectNone_Click()
 
 void BatchDownload::checkAll(bool checked)
 {
-    qint16& row = m_services.state.LoopIndex;
-    for (row = 1; row <= m_services.list.count(); ++row) {
+    const int count = m_services.list.count();
+    for (int row = 1; row <= count; ++row) {
+        m_services.state.LoopIndex = static_cast<qint16>(row);
         if (m_services.list.isChecked(row) != checked)
             m_services.list.setChecked(row, checked);
     }
