@@ -1,6 +1,7 @@
 // Downloads from loopback to disk, ours and curl's in pairs on the same machine in the same minute.
-// download_bench [FOLDER [PAIRS]]: files are written to FOLDER, which should be on a real disk. The program
-// for the terminal is looked for beside this one.
+// download_bench [FOLDER [PAIRS [batch]]]: "batch" leaves all out but the list of small packages; files are
+// written to FOLDER, which should be on a real disk. The program for the terminal is looked for beside this
+// one.
 
 #include "download/Fetch.h"
 #include "platform/Sha1.h"
@@ -130,6 +131,46 @@ public:
         std::fflush(stdout);
     }
 
+    /// The terminal's list of small packages against two programs that take one, too.
+    void compareBatch(long long bytes, int count, int atOnce)
+    {
+        const std::filesystem::path root = m_folder.string() + "-root";
+        std::filesystem::create_directories(root);
+        std::ofstream(root / "hosts.ini") << "[Hosts]\nUse=these\n[Servers]\n2=127.0.0.1:1\n";
+        const std::string origin =
+            "http://127.0.0.1:" + std::to_string(m_server.port()) + "/" + std::to_string(bytes) + "/";
+        {
+            std::ofstream urls(root / "urls");
+            std::ofstream pairs(root / "pairs");
+            for (int i = 0; i < count; ++i) {
+                urls << origin << i << ".pkg\n";
+                pairs << "url = " << origin << i << ".pkg\noutput = " << path(i) << "\n";
+            }
+        }
+        const std::string many = std::to_string(atOnce);
+        const std::string quiet = " >" + (root / "out").string();
+        const auto run = [&](const std::string& command) {
+            return measured({{"sh", "-c", "exec " + command + quiet}}, bytes, count).seconds;
+        };
+        const std::string cli = std::filesystem::path(m_self).parent_path() / "varnhold-cli";
+        const auto ours = [&] {
+            return run(cli + " --root " + root.string() + " batch " + (root / "urls").string() + " --jobs " +
+                       many + " --to " + m_folder.string());
+        };
+        const PairedResult aria = comparePaired(m_pairs, ours, [&] {
+            return run("aria2c -q --no-conf -j" + many + " -i " + (root / "urls").string() + " -d " +
+                       m_folder.string());
+        });
+        const PairedResult curl = comparePaired(m_pairs, ours, [&] {
+            return run("curl -s --parallel --parallel-max " + many + " -K " + (root / "pairs").string());
+        });
+        std::filesystem::remove_all(root);
+        const std::string name = "a list of " + std::to_string(count) + " x " + std::to_string(bytes / 1000) +
+                                 " KB, time against ";
+        printPaired(name + "aria2c", aria, "s", 1, 1);
+        printPaired(name + "curl", curl, "s", 1, 3);
+    }
+
     void memory()
     {
         const double idle = runChildren({{m_self, "--fetch", result()}}).peakMiB;
@@ -212,6 +253,9 @@ int main(int argc, char** argv)
         return fetch(argc, argv);
     const int pairs = argc > 2 ? std::atoi(argv[2]) : 7;
     Bench bench(argv[0], argc > 1 ? argv[1] : ".", pairs);
+    bench.compareBatch(100'000, 200, 5);
+    if (argc > 3 && std::strcmp(argv[3], "batch") == 0)
+        return 0;
     bench.compare(1024 * mib, 1, 3.0, 0.75);
     bench.compare(256 * mib, 5, 1.6, 0);
     bench.compareChecked(1024 * mib, 1, 2.5);

@@ -23,10 +23,11 @@ const QString exitCodes = uR"(ID is a title's id, such as BLUS30443; small lette
 
 Exit codes:
   0  all went well
-  1  a lookup, a download, a cover or the work on a database failed
-  2  the arguments make no sense
+  1  a lookup, a download, a cover, a check or the work on a database or on folders failed
+  2  the arguments, or a line of a list, make no sense
   3  there is no such title, package or cover, or nothing was found
-  4  a package has arrived, and its SHA-1 is not the document's)"_s;
+  4  a package has arrived, and its SHA-1 is not the document's
+  5  there is a newer version of the program, or a longer id list)"_s;
 
 QString usageOf(const Command& command)
 {

@@ -5,9 +5,9 @@ namespace varnhold::cli {
 const std::vector<Command>& commands()
 {
     static const std::vector<Command> all = {
-        lookupCommand(), downloadCommand(), coverCommand(),   reportCommand(),
-        hostsCommand(),  searchCommand(),   tablesCommand(),  exportCommand(),
-        importCommand(), backupCommand(),   compactCommand(),
+        lookupCommand(), downloadCommand(), batchCommand(),  marksCommand(),  coverCommand(),
+        reportCommand(), checkCommand(),    renameCommand(), hostsCommand(),  searchCommand(),
+        tablesCommand(), exportCommand(),   importCommand(), backupCommand(), compactCommand(),
     };
     return all;
 }

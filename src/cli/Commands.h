@@ -17,6 +17,14 @@ Command downloadCommand();
 Command coverCommand();
 /// Prints the report of a title's packages, or writes it to a file.
 Command reportCommand();
+/// Downloads the packages of a list of ids and addresses, several at once.
+Command batchCommand();
+/// Prints the marks that the window's list would have.
+Command marksCommand();
+/// Prints whether the update host has a newer version or a longer id list.
+Command checkCommand();
+/// Takes the unwanted texts out of the names of folders, or shows what it would do; asks no host.
+Command renameCommand();
 /// Prints which hosts are configured; starts nothing.
 Command hostsCommand();
 /// Print what a table holds under a text, and which tables there are.

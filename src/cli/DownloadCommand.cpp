@@ -2,14 +2,12 @@
 #include "cli/Commands.h"
 #include "cli/PackageCheck.h"
 #include "cli/PackageFetch.h"
+#include "cli/PackagePlaces.h"
 #include "cli/Session.h"
 #include "cli/TitleLookup.h"
-#include "lookup/MarkRows.h"
-#include "platform/Files.h"
 #include "platform/MessagePump.h"
 #include "platform/RunTimeError.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -23,42 +21,6 @@ namespace {
 [[noreturn]] void fail(const QString& sentence)
 {
     throw RunTimeError(errors::pathFileAccess, sentence);
-}
-
-/// Where the packages go by the settings; empty when they name no folder. Throws RunTimeError with a
-/// sentence.
-QString folderOfSettings(const Settings& settings, const QString& gameId, const QString& title)
-{
-    if (!settings.isChecked(Check::UseDLD))
-        return {};
-    if (settings.saveDir().tag.isEmpty())
-        fail(u"The settings use a download folder and name none; name one with --to."_s);
-    if (settings.isChecked(Check::CGNFolder) && !isOneName(titleFolderName(gameId, title)))
-        fail(u"The settings ask for a folder of the title's name, and no folder can be called \"%1\"; name "
-             u"one "
-             "with --to."_s.arg(titleFolderName(gameId, title)));
-    return titleFolder(settings, gameId, title);
-}
-
-/// Where the packages go, made when it is missing. Throws RunTimeError with a sentence.
-QString folderFor(const Arguments& arguments, const Settings& settings, const QString& gameId,
-                  const QString& title)
-{
-    QString folder = arguments.value(u"to"_s);
-    if (folder.isEmpty())
-        folder = folderOfSettings(settings, gameId, title);
-    folder = QDir::cleanPath(QDir(folder.isEmpty() ? QDir::currentPath() : folder).absolutePath());
-    // A download makes its other names by replacing these, wherever they stand in the path.
-    if (folder.contains(u".pkg"_s) || folder.contains(u".temp"_s))
-        fail(u"Packages cannot be kept in \"%1\": its name holds \".pkg\" or \".temp\"."_s.arg(folder));
-    if (!FolderExists(folder)) {
-        try {
-            MakeFolder(folder);
-        } catch (const RunTimeError& error) {
-            fail(u"There is no folder \"%1\", and it cannot be made: %2."_s.arg(folder, error.description()));
-        }
-    }
-    return folder;
 }
 
 QList<Package> chosen(const Arguments& arguments, const QList<Package>& packages)
@@ -82,24 +44,6 @@ ExitCode report(Terminal& terminal, const QString& line, SumAgreement agreement)
     return ExitCode::Fine;
 }
 
-/// No value when nothing stands at the target, or something that is to be replaced. Throws RunTimeError with
-/// a sentence when it is in the way.
-std::optional<ExitCode> standsAlready(Terminal& terminal, const Package& package, const PackageTarget& target)
-{
-    const QFileInfo there(target.path);
-    if (!there.exists() && !there.isSymLink())
-        return std::nullopt;
-    if (!there.isFile() && !(there.isSymLink() && target.overwrite))
-        fail(u"%1 is there already and is no file."_s.arg(target.path));
-    if (target.overwrite)
-        return std::nullopt;
-    const SumAgreement agreement = compareSum(target.path, package.sha1);
-    if (agreement == SumAgreement::WholeFile || agreement == SumAgreement::AllButTail)
-        return report(terminal, printable(u"%1  %2  is there already"_s.arg(package.version, target.path)),
-                      agreement);
-    fail(u"%1 is there already and is not that package; --overwrite replaces it."_s.arg(target.path));
-}
-
 /// Shows its progress and waits for its end.
 void waitFor(PackageFetch& fetch, const Package& package, Terminal& terminal)
 {
@@ -117,15 +61,14 @@ ExitCode downloadOne(const Arguments& arguments, Session& session, const Package
                      const QString& folder, FetchThreads& threads)
 {
     Terminal& terminal = session.terminal();
-    if (package.url.isEmpty())
-        fail(u"The document gives no address for package %1."_s.arg(package.version));
-    if (const QString fault = addressFault(package.url); !fault.isEmpty())
-        fail(u"The address of package %1 %2: %3"_s.arg(package.version, fault, package.url));
-    const PackageTarget target{(folder.endsWith(u'/') ? folder : folder + u'/') +
-                                   packageFileName(package.url),
-                               package.size(), arguments.has(u"overwrite"_s), !package.sha1.isEmpty()};
-    if (const std::optional<ExitCode> already = standsAlready(terminal, package, target))
-        return *already;
+    const PackageTarget target = targetOf(package, folder, arguments.has(u"overwrite"_s));
+    if (const std::optional<SumAgreement> agreement = standsAlready(package, target)) {
+        // Without a sum in the document, any file of that name may be another.
+        if (*agreement == SumAgreement::NotGiven)
+            fail(u"%1 is there already and is not that package; --overwrite replaces it."_s.arg(target.path));
+        return report(terminal, printable(u"%1  %2  is there already"_s.arg(package.version, target.path)),
+                      *agreement);
+    }
 
     PackageFetch fetch(package.url, target, session.patience(), threads);
     waitFor(fetch, package, terminal);
@@ -156,7 +99,8 @@ ExitCode run(const Arguments& arguments, Terminal& terminal)
                                                                 : u"%1 has no packages."_s.arg(gameId)));
         return ExitCode::NoSuchTitle;
     }
-    const QString folder = folderFor(arguments, session.settings(), gameId, updates.title);
+    const QString folder = packageFolder(arguments, session.settings(), gameId, updates.title);
+    requireFolder(folder);
     FetchThreads threads;
     ExitCode worst = ExitCode::Fine;
     for (const Package& package : packages) {

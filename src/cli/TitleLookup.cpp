@@ -34,7 +34,7 @@ QList<Package> packagesOf(const UpdateList& list)
     for (int row = 1; row <= list.count(); ++row)
         packages.append({list.text(row), list.subItem(row, UpdateList::Version),
                          list.subItem(row, UpdateList::Size), list.subItem(row, UpdateList::Binary),
-                         list.subItem(row, UpdateList::Url)});
+                         list.subItem(row, UpdateList::Url), list.icon(row)});
     return packages;
 }
 

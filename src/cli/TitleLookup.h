@@ -16,6 +16,7 @@ struct Package
     QString sizeText;      ///< "1.72 MB (1805056 bytes)"
     QString sha1;
     QString url;
+    QString mark = {}; ///< the row's icon in the window: "pkg", "plus", "pkg-red" or "pkg-plus"
 
     /// The document's size in bytes; no value when it gives none.
     [[nodiscard]] std::optional<qint64> size() const;

@@ -14,6 +14,10 @@
 #include <QJsonObject>
 #include <QMap>
 
+#include <csignal>
+
+#include <sys/types.h>
+
 namespace varnhold::test {
 namespace {
 
@@ -336,6 +340,129 @@ TEST_F(Cli, LeavesAloneWhatIsNotItsOwn)
         EXPECT_EQ(after, row.after);
         EXPECT_EQ(root.read(u"notes"_s), "notes");
     }
+}
+
+TEST_F(Cli, WorksThroughAList)
+{
+    service.misbehave(u"*NPEB00112*.pkg"_s, u"early-close"_s);
+    service.with([](host::SampleService& running) {
+        running.site().addPage(u"/bare.pkg"_s, "application/octet-stream", "bare");
+    });
+    const QByteArray bare = service.url(u"/bare.pkg"_s).toUtf8();
+    root.write(u"list"_s, "\xef\xbb\xbf"
+                          "BCUS-10027 # the same\r\nBLES00256\tIts name\r# none\n\nnonsense\n" +
+                              bare + "\n" + bare + "\nNPEB00112\nXXXX00000\nhttps://x/y.pkg\n");
+    const QStringList batch = {u"batch"_s, root.path(u"list"_s), u"--server"_s, u"2"_s,
+                               u"--to"_s,  root.path(u"down"_s), u"--jobs"_s,   u"5"_s};
+    const Ran dry = cli(batch + QStringList{u"--dry-run"_s, u"--latest"_s});
+    EXPECT_EQ(dry.out.count("would be downloaded"), 4) << dry.out.constData();
+    EXPECT_TRUE(dry.code == 2 && !QFileInfo::exists(root.path(u"down"_s)));
+
+    const Ran first = cli(batch);
+    EXPECT_EQ(first.code, 2); // that of the first line that did not go well
+    EXPECT_EQ(first.out.count("SHA-1 agrees"), 4) << first.out.constData();
+    EXPECT_TRUE(first.out.endsWith("5 downloaded, 0 there already, 2 failed, 2 lines that are none\n"))
+        << first.out.constData();
+    for (const char* const told : {"line 5: \"nonsense\"", "line 8: NPEB00112 01.01: ",
+                                   "line 9: There are no updates", "line 10: \"https://x/y.pkg\""})
+        EXPECT_TRUE(first.err.contains(told)) << told << first.err.constData();
+    EXPECT_EQ(downloaded().filter(u".pkg"_s).size(), 5);
+    EXPECT_EQ(downloaded().size(), 10);
+
+    root.write(u"down/"_s + package(u"BCUS10027"_s, u"0102"_s), "mine");
+    root.write(u"list"_s, "BCUS10027\nNPEB00112\nXXXX00000\n" + bare);
+    const Ran second = cli(batch);
+    EXPECT_EQ(second.code, 1);
+    EXPECT_EQ(root.read(u"down/"_s + package(u"BCUS10027"_s, u"0102"_s)), "mine");
+    EXPECT_TRUE(second.out.contains(", 2 there already, ")) << second.out.constData();
+    EXPECT_EQ(cli({u"batch"_s, root.path(u"none"_s)}).code, 1);
+    EXPECT_EQ(cli(batch + QStringList{u"--jobs"_s, u"6"_s}).code, 2);
+}
+
+TEST_F(Cli, AListThatIsInterruptedLeavesNothing)
+{
+    service.misbehave(u"*BLES00256*A0102*"_s, u"stall:1000"_s);
+    root.write(u"list"_s, "BLES00256\n");
+    root.makeFolder(u"down"_s);
+    QProcess process;
+    process.start(QCoreApplication::applicationDirPath() + u"/varnhold-cli"_s,
+                  {u"--root"_s, root.path({}), u"batch"_s, root.path(u"list"_s), u"--server"_s, u"2"_s,
+                   u"--to"_s, root.path(u"down"_s), u"--latest"_s});
+    const QString half = root.path(u"down/"_s + package(u"BLES00256"_s, u"0102"_s).chopped(4) + u".temp"_s);
+    while (QFileInfo(half).size() == 0 && !process.waitForFinished(20)) {
+    }
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::CrashExit); // as a shell expects it
+    EXPECT_EQ(process.exitCode(), SIGINT);
+    EXPECT_EQ(downloaded(), QStringList());
+}
+
+TEST_F(Cli, TellsMarksAndNews)
+{
+    const QString folder = u"down/BCUS10027-[Copper Tide]/"_s;
+    root.makeFolder(folder);
+    root.write(u"Settings.ini"_s,
+               "[Settings]\r\nServer=2\r\nUse DLDir=1\r\nCreate GNFolder=1\r\nSaveDir Path=" +
+                   root.path(u"down"_s).toUtf8() + "\r\n");
+    ASSERT_EQ(cli({u"download"_s, u"BCUS10027"_s}).code, 0);
+    const Ran marks = cli({u"marks"_s, u"BCUS10027"_s, u"--sums"_s});
+    EXPECT_EQ(marks.code, 0) << marks.err.constData();
+    EXPECT_TRUE(marks.out.contains("01.01  none      -       UP") &&
+                marks.out.contains("01.02  complete  agrees  UP"))
+        << marks.out.constData();
+    root.write(folder + package(u"BCUS10027"_s, u"0102"_s), "mine");
+    const Ran wrong = cli({u"marks"_s, u"BCUS10027"_s, u"--sums"_s, u"--json"_s});
+    EXPECT_EQ(wrong.code, 4);
+    const QJsonObject row =
+        QJsonDocument::fromJson(wrong.out).object().value("packages"_L1).toArray().at(1).toObject();
+    EXPECT_EQ(row.value("mark"_L1), u"incomplete"_s);
+    EXPECT_EQ(row.value("sha1"_L1), u"differs"_s);
+
+    const auto check = [&] { return cli({u"check"_s}).code; };
+    EXPECT_EQ(check(), 5); // there is no id list here yet
+    root.write(u"ps3gameids.txt"_s, QByteArray(1'000'000, 'x'));
+    EXPECT_EQ(check(), 0);
+    service.misbehave(u"*ps3gameids*"_s, u"404"_s);
+    EXPECT_EQ(check(), 1);
+    service.with([](host::SampleService& running) {
+        running.site().addPage(u"/Varnhold/txt/version.txt"_s, "text/plain", "99.0");
+    });
+    EXPECT_EQ(check(), 5);
+}
+
+TEST_F(Cli, RenamesAsItSaysBefore)
+{
+    root.write(u"Settings.ini"_s, "[Settings]\r\nDouble=1\r\nUnwanted Strings=[,],000\r\n");
+    const struct
+    {
+        QStringList folders;
+        int code;
+        QByteArray says; ///< by either run
+        QStringList after;
+    } cases[] = {
+        {{u"A [x]"_s, u"BCUS10001 B"_s, u"c"_s}, 0, "cuts ids too", {u"A x"_s, u"BCUS11 B"_s, u"c"_s}},
+        {{u"[a"_s, u"a]"_s}, 1, "File already exists", {u"a"_s, u"a]"_s}},
+        {{u"000"_s}, 1, "000\" to \"", {u"000"_s}},
+    };
+    for (const auto& row : cases) {
+        const QString base = root.path(u"tidy"_s);
+        QDir(base).removeRecursively();
+        for (const QString& folder : row.folders)
+            root.makeFolder(u"tidy/"_s + folder);
+        const Ran preview = cli({u"rename"_s, base});
+        EXPECT_EQ(QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase),
+                  row.folders);
+        const Ran run = cli({u"rename"_s, base, u"--apply"_s});
+        for (const Ran& ran : {preview, run}) {
+            EXPECT_EQ(ran.code, row.code) << ran.err.constData();
+            EXPECT_TRUE(ran.err.contains(row.says)) << ran.err.constData();
+        }
+        EXPECT_EQ(QDir(base).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name), row.after);
+    }
+    for (const QString& folder : {u"/"_s, u"/etc"_s, root.path(u"nowhere"_s)})
+        EXPECT_EQ(cli({u"rename"_s, folder, u"--apply"_s}).code, 1);
+    EXPECT_TRUE(service.requests().isEmpty());
 }
 
 TEST_F(Cli, DocumentsCannotSteerTheTerminal)
