@@ -134,7 +134,7 @@ std::vector<WindowPlan> windowPlans()
          .size = {400, 248},
          .wells = {{8, 28, 92, 212}},
          .strips = {{108, 28, 284, 212}}},
-        {.file = "background-search.bmp", .size = {447, 321}, .strips = {{9, 29, 429, 283}}},
+        {.file = "background-search.bmp", .size = {447, 321}, .strips = {{8, 43, 431, 270}}},
         {.file = "background-DB.bmp",
          .size = {595, 385},
          .wells = {{9, 29, 92, 18},

@@ -40,7 +40,7 @@ std::vector<DeliveredFile> skinFiles(const SkinDesign& design)
     deliver("mainBar.bmp", bmpFile(drawBar(design, {337, 5})));
     deliver("mainLBar.bmp", bmpFile(drawBar(design, {485, 5})));
     deliver("barLeft.bmp", bmpFile(drawBar(design, {90, 5})));
-    deliver("searchBar.bmp", bmpFile(drawBar(design, {5, 200})));
+    deliver("searchBar.bmp", bmpFile(drawBar(design, {5, 240})));
     deliver("caption-bar.bmp", bmpFile(drawCaptionStrip(design, {431, 22})));
     deliver("bImage.bmp", bmpFile(drawBlankCover(design)));
     deliver("list.bmp", bmpFile(drawListTile(design)));

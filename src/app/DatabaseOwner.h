@@ -24,9 +24,10 @@ public:
     DatabaseOwner(const Common& common, Lookup& lookup, AppearanceOwner& appearance);
 
     [[nodiscard]] GameList& gameList() { return m_gameList; }
+    [[nodiscard]] SharedDatabase& database() { return m_database; }
+    [[nodiscard]] GameListView& view() { return m_view; }
     /// The lower half of the Database page.
     [[nodiscard]] DatabaseToolsOwner& tools() { return m_tools; }
-    [[nodiscard]] SharedDatabase& database() { return m_database; }
     void loadEntry(); ///< loadGameDetails of the main window's id
 
 private:

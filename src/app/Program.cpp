@@ -63,6 +63,7 @@ Program::Program(const Paths& paths, World world)
       m_database(m_common, m_lookups.lookup(), m_appearance),
       m_report(m_common, m_lookups.lookup(), m_appearance, m_downloads.planner(), m_database.database()),
       m_editor(m_common, m_database, m_appearance, m_report),
+      m_search(m_common, m_lookups.lookup(), m_database, m_downloads, m_report, m_appearance),
       m_covers(m_common, m_appearance),
       m_thumbs(m_common, m_lookups.lookup(), [this](QWidget& window) { m_appearance.dressThumbs(window); }),
       m_settingsPages(m_common, m_lookups.certificates()),

@@ -8,6 +8,7 @@
 #include "app/LookupOwner.h"
 #include "app/RenamerOwner.h"
 #include "app/ReportOwner.h"
+#include "app/SearchOwner.h"
 #include "app/SettingsOwner.h"
 #include "app/ThumbsOwner.h"
 #include "app/World.h"
@@ -87,6 +88,7 @@ private:
     DatabaseOwner m_database;
     ReportOwner m_report;
     EditorOwner m_editor;
+    SearchOwner m_search;
     CoverOwner m_covers;
     ThumbsOwner m_thumbs;
     SettingsOwner m_settingsPages;

@@ -24,6 +24,7 @@ enum class Sign {
     Close,
     Menu,
     Gear,
+    Search,
     Reload,
     Clear,
     Up,
@@ -47,6 +48,10 @@ Sign signOf(const ButtonEx& button)
         return Sign::Close;
     if (name == "btn_Tools(1)"_L1)
         return Sign::Gear;
+    if (name == "btn_Tools(0)"_L1)
+        return Sign::Search;
+    if (name == "btn_Options"_L1)
+        return button.property("open").toBool() ? Sign::Up : Sign::Down;
     if (name == "btnFile"_L1)
         return Sign::Menu;
     if (name == "CmdRefresh"_L1)
@@ -152,6 +157,12 @@ void drawSign(QPainter& painter, Sign sign, const QSize& size, const QColor& col
         return;
     case Sign::Gear:
         painter.fillPath(gear(centre), color);
+        return;
+    case Sign::Search:
+        painter.setPen(QPen(color, 1.3));
+        painter.drawEllipse(centre + QPointF(-1, -1), 3, 3);
+        painter.setPen(QPen(color, 1.8));
+        painter.drawLine(centre + QPointF(1.4, 1.4), centre + QPointF(4, 4));
         return;
     case Sign::Reload:
         drawReload(painter, centre, color);

@@ -46,6 +46,7 @@ inline constexpr Range vscl_LBxTheme_Range{0, 10};
 inline constexpr Range vscl_LBxAlign_Range{0, 2};
 inline constexpr Range vscl_Align_Range{0, 5};
 inline constexpr Range vSearch_Range{1, 3};
+inline constexpr Range vsMargin_Range{1, 99}; ///< of frmSearch
 
 /// Theme of MorphListBox1 under a skin that names none.
 inline constexpr int MorphListBox1_Theme = 2;

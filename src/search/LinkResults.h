@@ -13,7 +13,7 @@ class LinkResults
 public:
     virtual ~LinkResults() = default;
     /// `title` names the search; the window comes to the front.
-    virtual void showLinks(const QList<LinkRow>& rows, const QString& title) = 0;
+    virtual void showLinks(const QList<FoundLink>& rows, const QString& title) = 0;
 };
 
 } // namespace varnhold

@@ -2,7 +2,6 @@
 
 #include "platform/BusyPointer.h"
 #include "platform/FileDialogs.h"
-#include "platform/ReplaceFile.h"
 #include "search/ResultList.h"
 #include "search/SearchView.h"
 #include "state/ErrorReport.h"
@@ -44,7 +43,7 @@ void cmdExport_Click(const ListExportServices& services)
         const auto busy = busyPointer(view);
         view.showProgress(std::max(count, 1));
         view.enableSearch(false);
-        replaceFile(chosen->path, listBytes(services.results.rows(), [&](int row) { view.walkTo(row); }));
+        exportList(services.results.rows(), chosen->path, [&](int row) { view.walkTo(row); });
     });
     view.setCaption(saved ? u"Save Complete"_s : before);
     if (saved)

@@ -1,6 +1,7 @@
 #include "search/ListText.h"
 
 #include "platform/CodePage.h"
+#include "platform/ReplaceFile.h"
 #include "platform/ReplaceText.h"
 
 #include <QStringDecoder>
@@ -108,6 +109,13 @@ QByteArray listBytes(const TextRows& rows, const std::function<void(int)>& walkT
             walkTo(row);
     }
     return bytes;
+}
+
+void exportList(const TextRows& rows, const QString& path, const std::function<void(int)>& walkTo)
+{
+    const qsizetype cut = path.lastIndexOf(u'/');
+    clearLeftovers(cut < 0 ? u"."_s : path.left(cut + 1));
+    replaceFile(path, listBytes(rows, walkTo));
 }
 
 } // namespace varnhold

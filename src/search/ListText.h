@@ -58,5 +58,8 @@ template <typename Take> void forEachLine(QStringView text, Take&& take)
 /// so that decodedList reads them. Line ends inside a name become a blank. `walkTo`, which may be empty, is
 /// told each row.
 QByteArray listBytes(const TextRows& rows, const std::function<void(int)>& walkTo = {});
+/// The same into a file, in one step. Throws RunTimeError as FileReplacement does; the file is then what it
+/// was.
+void exportList(const TextRows& rows, const QString& path, const std::function<void(int)>& walkTo = {});
 
 } // namespace varnhold

@@ -42,7 +42,7 @@ void Search::run()
     database.select(query.statementText());
     Recordset& records = *database.DBRecords;
     const int count = records.RecordCount();
-    QList<LinkRow> links;
+    QList<FoundLink> links;
     if (count < 1) {
         m_services.results.clear();
         view.setCaption(u"Search - 0"_s);
@@ -53,7 +53,7 @@ void Search::run()
         TextRows rows;
         while (!records.atEnd()) {
             if (query.wantsLinks())
-                links.append(linkRowOf(records));
+                links.append(foundLinkOf(records));
             else
                 rows.append(records.value(idColumn), records.value(nameColumn));
             view.setProgress(records.AbsolutePosition());

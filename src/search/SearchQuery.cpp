@@ -47,7 +47,7 @@ DatabaseStatement SearchQuery::statement() const
             .order = DatabaseStatement::Order{column, descending}};
 }
 
-LinkRow linkRowOf(const Recordset& records)
+FoundLink foundLinkOf(const Recordset& records)
 {
     return {records.value(u"Gameid"_s), records.value(u"GameName"_s), records.value(u"PKG"_s),
             records.value(u"FW"_s),     records.value(u"Size"_s),     records.value(u"SHA1"_s),

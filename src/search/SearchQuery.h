@@ -30,7 +30,7 @@ struct SearchQuery
 };
 
 /// A row of PS3Links.
-struct LinkRow
+struct FoundLink
 {
     QString gameId;
     QString gameName;
@@ -44,6 +44,6 @@ struct LinkRow
 class Recordset;
 
 /// Of the current record.
-LinkRow linkRowOf(const Recordset& records);
+FoundLink foundLinkOf(const Recordset& records);
 
 } // namespace varnhold

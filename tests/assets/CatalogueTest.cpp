@@ -36,7 +36,7 @@ const Sized pictures[] = {
     {u"barLeft.bmp"_s, {90, 5}},
     {u"background-settings.bmp"_s, {400, 248}},
     {u"background-search.bmp"_s, {447, 321}},
-    {u"searchBar.bmp"_s, {5, 200}},
+    {u"searchBar.bmp"_s, {5, 240}},
     {u"caption-bar.bmp"_s, {431, 22}},
     {u"background-DB.bmp"_s, {595, 385}},
     {u"background-nPic.bmp"_s, {292, 184}},

@@ -28,6 +28,8 @@
 #include "platform/database/Recordset.h"
 #include "platform/richtext/RichTextFile.h"
 #include "platform/richtext/RtfReader.h"
+#include "search/ListText.h"
+#include "search/RowImport.h"
 #include "state/ApplicationState.h"
 #include "state/ErrorReport.h"
 #include "state/Paths.h"
@@ -383,6 +385,54 @@ void checkFetch(FaultPlace& place, FaultOutcome outcome)
     }
 }
 
+// Lists
+
+TextRows listRows()
+{
+    TextRows rows;
+    for (int i = 0; i < 20; ++i)
+        rows.append(QString::number(100 + i), u"new");
+    return rows;
+}
+
+bool useListExport(const QString& root, const QString& /*argument*/)
+{
+    return succeeds([&] { exportList(listRows(), root + u"/list.txt"_s); });
+}
+
+void checkListExport(FaultPlace& place, FaultOutcome outcome)
+{
+    const QByteArray bytes = place.root.read(u"work/list.txt"_s);
+    EXPECT_TRUE(bytes == listBytes(listRows()) || (outcome != FaultOutcome::Acknowledged && bytes == "old"));
+    if (outcome == FaultOutcome::Acknowledged) {
+        EXPECT_EQ(QDir(place.root.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden),
+                  QStringList{u"list.txt"_s});
+    }
+}
+
+bool useListImport(const QString& root, const QString& /*argument*/)
+{
+    return succeeds([&] {
+        DatabaseConnection connection;
+        connection.Open(u"Data Source="_s + root + u"/Games.mdb"_s);
+        importRows(connection, u"PS3Games"_s, listRows(), [](int) {});
+    });
+}
+
+/// Rows come in their order, and none is half there.
+void checkListImport(FaultPlace& place, FaultOutcome outcome)
+{
+    const TestDatabase database = TestDatabase::opened(place.root.path(u"work/Games.mdb"_s));
+    EXPECT_TRUE(database.isSound());
+    const QStringList added =
+        database.column(u"SELECT GameID FROM PS3Games WHERE GameName = 'new' ORDER BY GameID"_s);
+    for (qsizetype i = 0; i < added.size(); ++i)
+        EXPECT_EQ(added.at(i), QString::number(100 + i));
+    EXPECT_TRUE(added.size() == 20 || outcome != FaultOutcome::Acknowledged);
+    EXPECT_EQ(database.column(u"SELECT GameName FROM PS3Games WHERE GameID IN ('A', 'B') ORDER BY GameID"_s),
+              (QStringList{u"old"_s, u"stays"_s}));
+}
+
 } // namespace
 
 const std::vector<WritingPath>& writingPaths()
@@ -450,6 +500,17 @@ const std::vector<WritingPath>& writingPaths()
          .use = useCompaction,
          .check = checkCompaction,
          .most = 5,
+         .mayPassOverFlushes = true},
+        {.name = "List export",
+         .prepare = [](FaultPlace& place) { place.root.write(u"work/list.txt"_s, "old"); },
+         .use = useListExport,
+         .check = checkListExport,
+         .most = 6},
+        {.name = "List import",
+         .prepare = prepareDatabase,
+         .use = useListImport,
+         .check = checkListImport,
+         .most = 4,
          .mayPassOverFlushes = true},
         {.name = "Backup",
          .prepare = prepareMaintenance,

@@ -26,18 +26,22 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
 
+#include <algorithm>
 #include <optional>
 
 namespace varnhold::test {
@@ -480,6 +484,56 @@ TEST_F(Journey, RecyclesAPackageThatCanBeBroughtBack)
     EXPECT_EQ(icon(2), u"pkg"_s) << "without its marker";
     qunsetenv("XDG_DATA_HOME");
     qputenv("HOME", home);
+}
+
+TEST_F(Journey, SearchesChoosesAndCopiesToThePersonalList)
+{
+    database.addGames(u"PS3Games"_s, {{u"BLUS30443"_s, u"My & Ashgrove"_s}, {u"BLES00256"_s, u"Another"_s}});
+    start("Exit=0\r\nDB Links=0\r\n");
+    QTest::mouseClick(&control<ButtonEx>("btn_Tools(0)"), Qt::LeftButton);
+    const QWidgetList tops = QApplication::topLevelWidgets();
+    const auto found = std::ranges::find(tops, u"frmSearch"_s, &QWidget::objectName);
+    ASSERT_NE(found, tops.end());
+    QWidget& search = **found;
+    EXPECT_TRUE(search.isVisible());
+    auto& text = *search.findChild<QLineEdit*>(u"txt_Search"_s);
+    auto& ids = *search.findChild<QListView*>(u"List1"_s);
+    auto& names = *search.findChild<QListView*>(u"List2"_s);
+    const auto caption = [&] { return search.findChild<QLabel*>(u"lblCaption"_s)->text(); };
+    QTest::mouseClick(&text, Qt::LeftButton); // takes "SEARCH" away
+    QTest::keyClicks(&text, u"ash"_s);
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(caption(), u"Found - 1 in PS3Games - GameName - Ascending"_s);
+
+    const QPoint row = names.visualRect(names.model()->index(0, 1)).center();
+    QMouseEvent moved(QEvent::MouseMove, row, names.viewport()->mapToGlobal(row), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(names.viewport(), &moved);
+    EXPECT_EQ(ids.currentIndex().row(), 0);
+    EXPECT_EQ(names.viewport()->toolTip(), u"BLUS30443-[My & Ashgrove]"_s);
+    QTest::keyClick(&ids, Qt::Key_Return);
+    EXPECT_EQ(window().gameIdText(), u"BLUS30443"_s);
+    EXPECT_EQ(window().games().Text(), u"BLUS30443"_s);
+    EXPECT_EQ(rows(), 4);
+
+    QContextMenuEvent wanted(QContextMenuEvent::Mouse, row, names.viewport()->mapToGlobal(row));
+    QCoreApplication::sendEvent(names.viewport(), &wanted);
+    EXPECT_EQ(program->menus().entry(u"mnuSrchCopy"_s).text(), u"Copy - BLUS30443-[My && Ashgrove]"_s);
+    program->commands().run(u"mnuSrchCopy"_s);
+    EXPECT_EQ(clipboard.texts, QStringList{u"BLUS30443-[My & Ashgrove]"_s});
+    boxes.expect(u"Transfer Info to Personal DB?\r\n\r\nBLUS30443-[My & Ashgrove]"_s, BoxAnswer::Yes);
+    boxes.expect(u"Personal Database has been updated.\r\n\r\nGameID: BLUS30443\r\nGameName: My & "
+                 "Ashgrove\r\nWould you like to reload Personal Database?"_s,
+                 BoxAnswer::No);
+    program->commands().run(u"mnuCpy"_s);
+    EXPECT_EQ(database.column(u"SELECT GameID FROM PS3Personal"_s), QStringList{u"BLUS30443"_s});
+
+    program->commands().run(u"mnuImport"_s);
+    EXPECT_EQ(caption(), u"Import: "_s);
+    EXPECT_EQ(ids.model()->rowCount(), 0);
+    EXPECT_FALSE(text.isVisible());
+    program->commands().run(u"mnuSearch"_s);
+    EXPECT_TRUE(text.isVisible());
 }
 
 } // namespace varnhold::test

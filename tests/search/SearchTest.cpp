@@ -21,9 +21,9 @@ protected:
                          "('A1', 'Harbour', '01.00', '3.55', '1 MB', 'ab', 'http://h/a')"_s);
     }
 
-    void showLinks(const QList<LinkRow>& rows, const QString& title) override
+    void showLinks(const QList<FoundLink>& rows, const QString& title) override
     {
-        for (const LinkRow& row : rows)
+        for (const FoundLink& row : rows)
             links << row.gameId + u'|' + row.package + u'|' + row.size + u'|' + row.link;
         linksTitle = title;
     }

@@ -43,6 +43,7 @@ struct MainLayout
 namespace mainplaces {
 inline constexpr QRect btnFile{8, 5, 28, 14};
 inline constexpr QRect btn_Tools1{40, 5, 14, 14};
+inline constexpr QRect btn_Tools0{55, 5, 14, 14};
 inline constexpr QRect txtGameID{8, 23, 82, 18};
 inline constexpr QRect btnFetch{94, 24, 40, 16};
 inline constexpr double browserParkedTwips = 8600; ///< left of WebBrowser1 while it is out of sight

@@ -161,6 +161,7 @@ Q_SIGNALS:
     void mnuMenuWanted(const QPoint& globalPosition);
     void mnuLViewWanted(const QPoint& globalPosition);
     void settingsRequested();
+    void searchRequested(); ///< btn_Tools(0)
     void exitRequested();
     void closedByDesktop(); ///< the window manager's own close
     void layoutChanged();   ///< the window has its other size and wants its picture for it
@@ -203,6 +204,7 @@ private:
     ButtonEx* m_winState[3] = {};
     ButtonEx* m_btnFile = nullptr;
     ButtonEx* m_settingsButton = nullptr;
+    ButtonEx* m_searchButton = nullptr;
     ButtonEx* m_fetch = nullptr;
     std::vector<ButtonEx*> m_footButtons; ///< from left to right
     GameIdBox* m_gameId = nullptr;

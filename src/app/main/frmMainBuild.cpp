@@ -2,7 +2,6 @@
 
 #include "app/main/CoverPanel.h"
 #include "app/main/GameListInput.h"
-#include "app/main/ListProgress.h"
 #include "app/main/MainLayout.h"
 #include "app/main/SplitColumn.h"
 #include "app/main/UpdateListInput.h"
@@ -11,6 +10,7 @@
 #include "controls/ButtonEx/ButtonEx.h"
 #include "controls/DesignValues.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "controls/XP_ProgressBar/ListProgress.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "gamedb/NotesBox.h"
@@ -53,6 +53,7 @@ void frmMain::buildCaption()
     // Labels first: they lie below the buttons where they overlap.
     m_caption = addLabel("lblCaption", tr("Window name"));
     m_caption->setText(QCoreApplication::applicationName());
+    m_caption->setContentsMargins(10, 0, 0, 0); // it begins below btn_Tools(0)
     m_info = addLabel("lblInfo", tr("Title"));
     m_info->setContentsMargins(4, 0, 0, 0);
 
@@ -90,6 +91,10 @@ void frmMain::buildCaption()
     m_settingsButton = addButton("btn_Tools(1)", u"Settings"_s);
     m_settingsButton->setGeometry(mainplaces::btn_Tools1);
     connect(m_settingsButton, &ButtonEx::Click, this, &frmMain::settingsRequested);
+
+    m_searchButton = addButton("btn_Tools(0)", u"Search"_s);
+    m_searchButton->setGeometry(mainplaces::btn_Tools0);
+    connect(m_searchButton, &ButtonEx::Click, this, &frmMain::searchRequested);
 }
 
 void frmMain::buildWindowButtons()
@@ -237,9 +242,9 @@ void frmMain::connectColumns()
 
 void frmMain::orderTabs()
 {
-    std::vector<QWidget*> order{m_btnFile, m_settingsButton, m_winState[0], m_winState[2], m_winState[1],
-                                m_gameId,  m_fetch,          m_games,       m_barLeft,     m_picPreview,
-                                m_updates, m_barMain,        m_notes};
+    std::vector<QWidget*> order{m_btnFile,     m_settingsButton, m_searchButton, m_winState[0], m_winState[2],
+                                m_winState[1], m_gameId,         m_fetch,        m_games,       m_barLeft,
+                                m_picPreview,  m_updates,        m_barMain,      m_notes};
     order.insert(order.end(), m_footButtons.begin(), m_footButtons.end());
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);

@@ -1,10 +1,10 @@
 // What the routines of lookup and game list show on the main window.
 
 #include "app/main/CoverPanel.h"
-#include "app/main/ListProgress.h"
 #include "app/main/UpdateListView.h"
 #include "app/main/frmMain.h"
 #include "controls/MorphListBox/MorphListBox.h"
+#include "controls/XP_ProgressBar/ListProgress.h"
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 #include "covers/CoverBox.h"
 #include "gamedb/NotesBox.h"

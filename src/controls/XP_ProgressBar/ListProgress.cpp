@@ -1,4 +1,4 @@
-#include "app/main/ListProgress.h"
+#include "controls/XP_ProgressBar/ListProgress.h"
 
 #include "controls/XP_ProgressBar/XP_ProgressBar.h"
 

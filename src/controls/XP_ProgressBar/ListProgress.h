@@ -6,8 +6,8 @@ namespace varnhold {
 
 class XP_ProgressBar;
 
-/// ProgressBar1 while the game list loads. The load runs no events, so the bar is painted from here, seldom
-/// enough to cost nothing.
+/// A bar over a walk through many rows that runs no events: it is painted from here, seldom enough to cost
+/// nothing.
 class ListProgress
 {
 public:
