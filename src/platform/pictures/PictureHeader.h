@@ -26,7 +26,7 @@ inline constexpr qint64 pixels = 24'000'000; ///< of what is unpacked whole, and
 inline constexpr qint64 jpegBytes = qint64{32} << 20;
 inline constexpr int scans = 64;
 inline constexpr qint64 pixelScans = 400'000'000; ///< each scan passes over all pixels: a third of a second
-inline constexpr qint64 memory = 150'000'000; ///< bytes while one picture is read
+inline constexpr qint64 memory = 150'000'000;     ///< bytes while one picture is read
 } // namespace pictureLimits
 
 /// The kind alone, by the first bytes: 8 of them suffice.
