@@ -57,7 +57,9 @@ TEST_P(Contrast, ofLabelsOnTheWindows)
     expectReadable(fore, u"background-settings.bmp"_s, {110, 30, 280, 208});
     expectReadable(fore, u"background-settings.bmp"_s, {24, 5, 340, 12});
     expectReadable(fore, u"background-search.bmp"_s, {10, 30, 422, 278});
-    expectReadable(fore, u"background-DB.bmp"_s, {10, 30, 570, 342});
+    // Where labels stand: beside the picture, and in the panels' well.
+    expectReadable(fore, u"background-DB.bmp"_s, {460, 31, 124, 14});
+    expectReadable(fore, u"background-DB.bmp"_s, {297, 195, 280, 176});
     expectReadable(fore, u"background-slide.bmp"_s, {8, 5, 407, 12});
     for (const QString& file :
          {u"background-mPic.bmp"_s, u"background-mLPic.bmp"_s, u"background-nPic.bmp"_s})
