@@ -59,7 +59,7 @@ frmReNamer::frmReNamer(FolderRenamer& renamer) : m_renamer(renamer)
 
 void frmReNamer::build()
 {
-    m_load = addButton("btnLoad", tr("Load"), u"Click to load Path\nRight click to Refresh"_s);
+    m_load = addButton("btnLoad", tr("Load"), u"Click to load Path / Right click to Refresh"_s);
     m_panel = new ElidedLabel(this);
     m_panel->setObjectName("StatusBar1(1)"_L1);
     m_count = new ElidedLabel(this);
